@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: MIT
+
+# vc_library(<folder> [TARGET name] SOURCES ... [LINK ...])
+# A static library for one folder. Its headers are reached as "<folder>/Name.h" through an include folder that holds
+# nothing else, so an include that no arrow allows does not compile.
+function(vc_library folder)
+    cmake_parse_arguments(ARG "" "TARGET" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+    if(NOT ARG_TARGET)
+        string(REPLACE "/" "_" ARG_TARGET "vc_${folder}")
+    endif()
+    set(include_dir ${CMAKE_BINARY_DIR}/include/${ARG_TARGET})
+    get_filename_component(parent ${include_dir}/${folder} DIRECTORY)
+    file(MAKE_DIRECTORY ${parent})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${include_dir}/${folder} SYMBOLIC)
+    add_library(${ARG_TARGET} STATIC ${ARG_SOURCES})
+    target_include_directories(${ARG_TARGET} PUBLIC ${include_dir})
+    target_link_libraries(${ARG_TARGET} PUBLIC vc_options ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+endfunction()
+
+# vc_test(<name> SOURCES ... LINK ... [DISPLAY])
+# A test program inside a bundle of its own, so that it finds tools exactly as the product does and may exchange them
+# without disturbing its neighbours. DISPLAY: it opens windows and runs under a private X server.
+function(vc_test name)
+    cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+    set(bundle ${CMAKE_BINARY_DIR}/tests/${name}.app)
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${bundle}/Contents/MacOS)
+    target_link_libraries(${name} PRIVATE vc_options Qt6::Test ${ARG_LINK})
+    vc_bundle_tools(${bundle})
+    set(command ${name})
+    if(ARG_DISPLAY)
+        set(command ${CMAKE_SOURCE_DIR}/tests/with-display $<TARGET_FILE:${name}>)
+    endif()
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=$<IF:$<BOOL:${ARG_DISPLAY}>,xcb,offscreen>;LC_ALL=C.UTF-8;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
+endfunction()

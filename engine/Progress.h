@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <functional>
+#include <map>
+#include <mutex>
+#include <vector>
+
+/// How far a run has come, and the way to stop it.
+/// Units: whole seconds of media; the total is negative while the length is unknown.
+/// Thread: any. Observers run on the thread that writes, without a lock held; the cancellation handler runs on the thread
+/// that cancels, or at once where it is set on an object that is cancelled already.
+class Progress {
+public:
+    enum class Kind { Unspecified, File };
+    enum class Key { FractionCompleted, CompletedUnitCount };
+    /// Recognises an observer again; the address of anything that outlives the registration.
+    using Context = const void *;
+    using Observer = std::function<void(Key)>;
+
+    explicit Progress(qint64 totalUnitCount);
+    Q_DISABLE_COPY_MOVE(Progress)
+
+    [[nodiscard]] Kind kind() const;
+    void setKind(Kind kind);
+
+    [[nodiscard]] qint64 totalUnitCount() const;
+    void setTotalUnitCount(qint64 count);
+    [[nodiscard]] qint64 completedUnitCount() const;
+    void setCompletedUnitCount(qint64 count);
+    /// Completed divided by total; 0 while the total is unknown or 0.
+    [[nodiscard]] double fractionCompleted() const;
+    [[nodiscard]] bool isIndeterminate() const { return totalUnitCount() < 0; }
+
+    [[nodiscard]] bool isCancelled() const;
+    /// Cancels; the handler runs the first time.
+    void cancel();
+    void setCancellationHandler(std::function<void()> handler);
+
+    void addObserver(Key key, Context context, Observer observer);
+    void removeObserver(Key key, Context context);
+    /// Number of registered observers, all keys together.
+    [[nodiscard]] std::size_t observerCount() const;
+
+    /// The run is over for good: its tool is gone and its destination kept or removed.
+    [[nodiscard]] bool isEnded() const;
+    /// Marks the end, with everything that the tool printed. Called once, by the run.
+    void end(QByteArray toolOutput);
+    /// Runs at the end on the run's thread, or at once when the run has ended already.
+    void setEndHandler(std::function<void()> handler);
+    /// Everything that the tool printed; empty until the run reports a failure or has ended.
+    [[nodiscard]] QByteArray toolOutput() const;
+    void setToolOutput(QByteArray toolOutput);
+
+private:
+    void notify(std::initializer_list<Key> keys);
+
+    mutable std::mutex m_mutex;
+    Kind m_kind = Kind::Unspecified;
+    qint64 m_totalUnitCount;
+    qint64 m_completedUnitCount = 0;
+    bool m_cancelled = false;
+    bool m_ended = false;
+    QByteArray m_toolOutput;
+    std::function<void()> m_cancellationHandler;
+    std::function<void()> m_endHandler;
+    struct Registration {
+        Key key;
+        Context context;
+        Observer observer;
+    };
+    std::vector<Registration> m_observers;
+};

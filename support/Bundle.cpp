@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "support/Bundle.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto localizationSuffix = ".lproj"_L1;
+
+QString mainBundlePath()
+{
+    const QFileInfo executable(QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
+    const QString folder = executable.path();
+    return folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder;
+}
+
+}
+
+Bundle::Bundle(QString bundlePath)
+    : m_bundlePath(std::move(bundlePath))
+{
+}
+
+const Bundle &Bundle::main()
+{
+    static const Bundle bundle(mainBundlePath());
+    return bundle;
+}
+
+std::optional<QString> Bundle::infoString(const QString &key) const
+{
+    QFile file(m_bundlePath + "/Contents/Info.plist"_L1);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QXmlStreamReader xml(&file);
+    bool found = false;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (found)
+            return xml.name() == u"string" ? std::optional(xml.readElementText()) : std::nullopt;
+        found = xml.name() == u"key" && xml.readElementText() == key;
+    }
+    return std::nullopt;
+}
+
+QStringList Bundle::localizations() const
+{
+    const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
+    QStringList folders = resources.entryList({u'*' + localizationSuffix}, QDir::Dirs, QDir::Name);
+    for (QString &folder : folders)
+        folder.chop(localizationSuffix.size());
+    return folders;
+}
+
+QString Bundle::localizationPath(const QString &language) const
+{
+    return m_bundlePath + "/Contents/Resources/"_L1 + language + localizationSuffix;
+}

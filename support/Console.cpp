@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "support/Console.h"
+
+#include <cstdio>
+#include <mutex>
+
+namespace {
+
+std::mutex mutex;
+
+void printToStandardOutput(const QString &line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+Console::Sink &currentSink()
+{
+    static Console::Sink sink = printToStandardOutput;
+    return sink;
+}
+
+}
+
+namespace Console {
+
+void print(const QString &line)
+{
+    const std::lock_guard lock(mutex);
+    currentSink()(line);
+}
+
+void setSink(Sink sink)
+{
+    const std::lock_guard lock(mutex);
+    currentSink() = std::move(sink);
+}
+
+}

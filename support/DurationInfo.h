@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A duration split for display.
+/// Units: hours are the total hours, not those left over after the days; minutes and seconds are within 0 to 59.
+/// Thread: any.
+class DurationInfo {
+public:
+    explicit DurationInfo(qint64 seconds);
+
+    [[nodiscard]] qint64 days() const { return m_days; }
+    [[nodiscard]] qint64 hours() const { return m_hours; }
+    [[nodiscard]] qint64 minutes() const { return m_minutes; }
+    [[nodiscard]] qint64 seconds() const { return m_seconds; }
+
+    /// Short text in the user's language, such as "1h 2m 3s".
+    [[nodiscard]] QString toString() const;
+
+    bool operator==(const DurationInfo &) const = default;
+
+private:
+    qint64 m_days;
+    qint64 m_hours;
+    qint64 m_minutes;
+    qint64 m_seconds;
+};

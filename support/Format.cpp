@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "support/Format.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString textOf(const FormatArgument &argument)
+{
+    if (const auto *number = std::get_if<qint64>(&argument))
+        return QString::number(*number);
+    return std::get<QString>(argument);
+}
+
+}
+
+QString formatted(const QString &format, const std::vector<FormatArgument> &arguments)
+{
+    static const QRegularExpression directive(
+        uR"(%(?:(%)|(?:(\d{1,4})\$)?[-+ 0#']*\d{0,4}(?:\.\d{0,4})?(?:hh|h|ll|l|q|j|z|t)?[diu@s]))"_s);
+    QString result;
+    qsizetype copied = 0;
+    std::size_t next = 0;
+    for (auto matches = directive.globalMatch(format); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        result += QStringView(format).mid(copied, match.capturedStart() - copied);
+        copied = match.capturedEnd();
+        if (match.hasCaptured(1)) {
+            result += u'%';
+            continue;
+        }
+        const std::size_t index = match.hasCaptured(2) ? match.captured(2).toUInt() - std::size_t{1} : next++;
+        if (index < arguments.size())
+            result += textOf(arguments[index]);
+    }
+    return result + QStringView(format).mid(copied);
+}

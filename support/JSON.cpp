@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "support/JSON.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::optional<qint64> truncated(double number)
+{
+    constexpr double limit = 9223372036854775808.0;
+    if (!(number > -limit && number < limit))
+        return std::nullopt;
+    return static_cast<qint64>(number);
+}
+
+qint64 leadingNumber(const QString &text)
+{
+    static const QRegularExpression number(uR"(^\s*([+-]?\d+)((?:\.\d*)?(?:[eE][+-]?\d+)?))"_s);
+    const QRegularExpressionMatch match = number.match(text);
+    if (!match.hasMatch())
+        return 0;
+    bool fits = false;
+    const qint64 whole = match.captured(1).toLongLong(&fits);
+    if (fits && match.capturedLength(2) == 0)
+        return whole;
+    return truncated((match.captured(1) + match.captured(2)).toDouble()).value_or(0);
+}
+
+}
+
+JSON::JSON(QJsonValue value)
+    : m_value(std::move(value))
+{
+}
+
+JSON JSON::parse(const QByteArray &bytes)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(bytes);
+    if (document.isObject())
+        return JSON(document.object());
+    if (document.isArray())
+        return JSON(document.array());
+    return {};
+}
+
+JSON JSON::operator[](const QString &key) const
+{
+    const QJsonValue member = m_value.toObject().value(key);
+    return member.isUndefined() ? JSON() : JSON(member);
+}
+
+std::vector<JSON> JSON::array() const
+{
+    std::vector<JSON> elements;
+    for (const QJsonValue &element : m_value.toArray())
+        elements.emplace_back(element);
+    return elements;
+}
+
+std::optional<QString> JSON::string() const
+{
+    return m_value.isString() ? std::optional(m_value.toString()) : std::nullopt;
+}
+
+QString JSON::stringValue() const
+{
+    switch (m_value.type()) {
+    case QJsonValue::String:
+        return m_value.toString();
+    case QJsonValue::Double:
+        return m_value.toVariant().toString();
+    case QJsonValue::Bool:
+        return m_value.toBool() ? u"true"_s : u"false"_s;
+    case QJsonValue::Null:
+    case QJsonValue::Array:
+    case QJsonValue::Object:
+    case QJsonValue::Undefined:
+        break;
+    }
+    return {};
+}
+
+std::optional<qint64> JSON::integer() const
+{
+    if (!m_value.isDouble())
+        return std::nullopt;
+    // Whole numbers are kept exactly by the parser; toInteger falls back only for what has no exact 64-bit form.
+    const qint64 exact = m_value.toInteger(0);
+    return exact != 0 ? std::optional(exact) : truncated(m_value.toDouble());
+}
+
+qint64 JSON::intValue() const
+{
+    if (m_value.isString())
+        return leadingNumber(m_value.toString());
+    if (m_value.isBool())
+        return m_value.toBool() ? 1 : 0;
+    return integer().value_or(0);
+}

@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+#include "support/Localized.h"
+
+QString localized(const LocalizedText &text)
+{
+    const QString key = QString::fromUtf8(text.key);
+    const QString translation = QCoreApplication::translate("Localizable", text.key, text.comment);
+    return text.fallback && translation == key ? QString::fromUtf8(text.fallback) : translation;
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "support/MainQueue.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <QTimer>
+
+#include <deque>
+#include <mutex>
+
+namespace {
+
+std::mutex mutex;
+
+std::deque<std::function<void()>> &blocks()
+{
+    static std::deque<std::function<void()>> queue;
+    return queue;
+}
+
+void runNext()
+{
+    std::function<void()> block;
+    {
+        const std::lock_guard lock(mutex);
+        if (blocks().empty())
+            return;
+        block = std::move(blocks().front());
+        blocks().pop_front();
+    }
+    block();
+}
+
+}
+
+namespace MainQueue {
+
+void post(std::function<void()> block)
+{
+    // The blocks are handed over under a mutex of ours and the event carries nothing, which keeps the hand-over visible to
+    // the thread sanitizer. Posting while the lock is held keeps events and blocks in one order.
+    const std::lock_guard lock(mutex);
+    if (!QCoreApplication::instance())
+        return;
+    blocks().push_back(std::move(block));
+    QMetaObject::invokeMethod(QCoreApplication::instance(), runNext, Qt::QueuedConnection);
+}
+
+void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)
+{
+    using std::chrono::milliseconds;
+    const auto wait = std::chrono::ceil<milliseconds>(std::max(delay, std::chrono::nanoseconds::zero()));
+    post([wait, block = std::move(block)] {
+        QTimer::singleShot(wait, Qt::PreciseTimer, QCoreApplication::instance(), block);
+    });
+}
+
+bool isMainThread()
+{
+    const QCoreApplication *application = QCoreApplication::instance();
+    return application && QThread::currentThread() == application->thread();
+}
+
+}
