@@ -19,7 +19,8 @@ endfunction()
 
 # vc_test(<name> SOURCES ... LINK ... [DISPLAY])
 # A test program inside a bundle of its own, so that it finds tools exactly as the product does and may exchange them
-# without disturbing its neighbours. DISPLAY: it opens windows and runs under a private X server.
+# without disturbing its neighbours. Settings, data and caches lie in that bundle too, never in the user's own folders.
+# DISPLAY: it opens windows and runs under a private X server.
 function(vc_test name)
     cmake_parse_arguments(ARG "DISPLAY" "TIMEOUT" "SOURCES;LINK" ${ARGN})
     set(bundle ${CMAKE_BINARY_DIR}/tests/${name}.app)
@@ -35,6 +36,7 @@ function(vc_test name)
         set(ARG_TIMEOUT 120)
     endif()
     add_test(NAME ${name} COMMAND ${command})
+    set(home ${bundle}/home)
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=$<IF:$<BOOL:${ARG_DISPLAY}>,xcb,offscreen>;LC_ALL=C.UTF-8;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
+        ENVIRONMENT "XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_QPA_PLATFORM=$<IF:$<BOOL:${ARG_DISPLAY}>,xcb,offscreen>;LC_ALL=C.UTF-8;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
 endfunction()
