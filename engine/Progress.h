@@ -5,7 +5,7 @@
 #include <QtGlobal>
 
 #include <functional>
-#include <map>
+#include <initializer_list>
 #include <mutex>
 #include <vector>
 

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/DurationScanner.h"
+#include "engine/FFMPEG.h"
+#include "engine/Progress.h"
+
+#include <QStringList>
+
+class Task;
+
+/// What one conversion is asked to do.
+struct ConversionJob {
+    QString path;
+    QString destPath;
+    VideoConstraints constraints;
+    JSON conversionInfo;
+};
+
+/// The complete argument list of the tool for a conversion.
+/// Thread: any.
+[[nodiscard]] QStringList conversionArguments(const ConversionJob &job);
+
+/// One run of the tool from launch to clean-up: follows its output, judges its end, removes what it must not leave behind.
+/// Thread: one, the run's own; `errorHandler` is posted to the main thread.
+class ConversionRun {
+public:
+    ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress, FFMPEG::ConversionErrorHandler errorHandler);
+
+    void run();
+
+private:
+    void convert();
+    bool launch(Task &task);
+    void follow(Task &task);
+    void readChunk(const QByteArray &chunk);
+    void judge(const Task &task);
+    void finish(Task &task, bool launched);
+    void postError(const std::optional<QString> &errmsg);
+    void removeDestination() const;
+
+    ConversionJob m_job;
+    std::shared_ptr<Progress> m_progress;
+    FFMPEG::ConversionErrorHandler m_errorHandler;
+    QByteArray m_output;
+    DurationScanner m_scanner;
+    qint64 m_lastDelta = 0;
+};

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// The folder of this process for cover pictures, inside the temporary folder and readable by its user alone.
+/// Thread: any.
+namespace CoverFolder {
+
+/// A new name ending in ".jpg"; the folder is made when it is first asked for.
+[[nodiscard]] QString uniqueImagePath();
+/// Removes the folder and what is in it.
+void remove();
+
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "engine/MovieProbe.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct OffsetRow {
+    qint64 (DurationInfo::*field)() const;
+    qint64 atLeast;
+    const char16_t *offset;
+};
+
+constexpr std::array offsetRows{
+    OffsetRow{&DurationInfo::hours, 1, u"00:40:00"},
+    OffsetRow{&DurationInfo::minutes, 1, u"00:00:40"},
+    OffsetRow{&DurationInfo::seconds, 10, u"00:00:20"},
+    OffsetRow{&DurationInfo::seconds, 1, u"00:00:02"},
+};
+
+struct BucketRow {
+    qint64 firstMinute;
+    qint64 endMinute;
+    const char16_t *label;
+};
+
+constexpr std::array bucketRows{
+    BucketRow{0, 1, u"0-1"},
+    BucketRow{1, 5, u"1-5"},
+    BucketRow{5, 10, u"5-10"},
+    BucketRow{10, 20, u"10-20"},
+    BucketRow{20, 40, u"20-40"},
+};
+
+}
+
+namespace MovieProbe {
+
+std::variant<qint64, ProbeRefusal> checked(const JSON &info, quint64 sizeOnDisk)
+{
+    const JSON format = info[u"format"_s];
+    if (format.value().isNull())
+        return ProbeRefusal::NotMedia;
+    const std::optional<QString> durationText = format[u"duration"_s].string();
+    if (!durationText)
+        return ProbeRefusal::NoDuration;
+    bool isNumber = false;
+    const double duration = durationText->toDouble(&isNumber);
+    if (!isNumber)
+        return ProbeRefusal::NoDuration;
+    const std::optional<QString> sizeText = format[u"size"_s].string();
+    if (!sizeText)
+        return ProbeRefusal::NoSize;
+    const auto seconds = static_cast<qint64>(duration);
+    if (seconds == 0)
+        return ProbeRefusal::TooShort;
+    const quint64 size = sizeText->toULongLong(&isNumber);
+    if (!isNumber || size != sizeOnDisk)
+        return ProbeRefusal::SizeDiffers;
+    return seconds;
+}
+
+QString coverOffset(const DurationInfo &duration)
+{
+    for (const OffsetRow &row : offsetRows) {
+        if ((duration.*row.field)() >= row.atLeast)
+            return QString(row.offset);
+    }
+    return u"00:00:00"_s;
+}
+
+QString lengthBucket(qint64 seconds)
+{
+    const qint64 minute = seconds / 60;
+    for (const BucketRow &row : bucketRows) {
+        if (minute >= row.firstMinute && minute < row.endMinute)
+            return QString(row.label);
+    }
+    return u">40"_s;
+}
+
+}

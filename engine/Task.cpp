@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "engine/Task.h"
+
+#include <atomic>
+#include <csignal>
+#include <unistd.h>
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int waitMilliseconds = 100;
+constexpr qsizetype floodLimit = 64 * 1024 * 1024;
+
+std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
+std::atomic<bool> readingStopped = false;
+
+// Runs in the child between fork and exec.
+void dieWithParent([[maybe_unused]] pid_t parent)
+{
+#ifdef Q_OS_LINUX
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != parent)
+        ::_exit(127);
+#endif
+}
+
+}
+
+const QString Task::invalidArgument = u"NSInvalidArgumentException"_s;
+
+Task::Task()
+{
+    m_process.setProcessChannelMode(QProcess::MergedChannels);
+    m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
+    m_process.setChildProcessModifier([parent = ::getpid()] { dieWithParent(parent); });
+}
+
+Task::~Task()
+{
+    terminate();
+}
+
+void Task::setLaunchPath(const QString &path)
+{
+    m_launchPath = path;
+}
+
+void Task::setArguments(const QStringList &arguments)
+{
+    m_process.setArguments(arguments);
+}
+
+void Task::launch()
+{
+    m_process.setProgram(m_launchPath);
+    m_process.start(QIODevice::ReadOnly);
+    if (!m_process.waitForStarted(-1))
+        throw LaunchException{invalidArgument, m_launchPath + u": "_s + m_process.errorString()};
+    m_lastOutput = std::chrono::steady_clock::now();
+}
+
+bool Task::tryLaunch(LaunchError *error)
+{
+    try {
+        launch();
+    } catch (const LaunchException &exception) {
+        if (exception.name != invalidArgument)
+            throw;
+        if (error)
+            *error = {exception.name, 0, exception.reason};
+        return false;
+    } catch (...) {
+        // Whatever else is thrown says nothing of the launch.
+    }
+    if (error)
+        *error = {};
+    return true;
+}
+
+bool Task::isRunning() const
+{
+    return m_process.state() != QProcess::NotRunning || m_process.bytesAvailable() > 0;
+}
+
+QByteArray Task::availableData()
+{
+    if (m_process.bytesAvailable() == 0)
+        m_process.waitForReadyRead(waitMilliseconds);
+    QByteArray data = m_process.readAllStandardOutput();
+    if (!data.isEmpty())
+        m_lastOutput = std::chrono::steady_clock::now();
+    return data;
+}
+
+QByteArray Task::readDataToEndOfFile()
+{
+    QByteArray output;
+    while (isRunning()) {
+        output += availableData();
+        if (output.size() > floodLimit || readingStopped || isSilentForTooLong())
+            terminate();
+    }
+    return output;
+}
+
+void Task::terminate()
+{
+    if (m_process.state() == QProcess::NotRunning)
+        return;
+    m_process.terminate();
+    const auto patience = std::chrono::steady_clock::now() + 3s;
+    bool killed = false;
+    // A tool that is blocked on a full pipe hears no SIGTERM, so its output goes on being drained.
+    while (!m_process.waitForFinished(20) && m_process.state() != QProcess::NotRunning) {
+        m_process.readAllStandardOutput();
+        if (!killed && std::chrono::steady_clock::now() > patience) {
+            m_process.kill();
+            killed = true;
+        }
+    }
+    m_process.readAllStandardOutput();
+}
+
+int Task::terminationStatus() const
+{
+    if (m_process.exitStatus() == QProcess::CrashExit)
+        return std::max(m_process.exitCode(), 1);
+    return m_process.exitCode();
+}
+
+void Task::closeFile()
+{
+    m_process.closeReadChannel(QProcess::StandardOutput);
+}
+
+bool Task::isSilentForTooLong() const
+{
+    return std::chrono::steady_clock::now() - m_lastOutput > silenceLimit();
+}
+
+void Task::setSilenceLimit(std::chrono::seconds limit)
+{
+    silenceSeconds = limit.count();
+}
+
+std::chrono::seconds Task::silenceLimit()
+{
+    return std::chrono::seconds(silenceSeconds);
+}
+
+void Task::stopReading()
+{
+    readingStopped = true;
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+
+/// Raised by Task::launch.
+struct LaunchException {
+    QString name;
+    QString reason;
+};
+
+/// What Task::tryLaunch makes of a launch path that does not exist or can't be executed.
+struct LaunchError {
+    QString domain;
+    int code = 0;
+    QString localizedDescription;
+};
+
+/// One run of a tool of the bundle. Its standard output and standard error arrive in one stream of bytes; it inherits
+/// environment, folder and standard input, and dies with this program, however that ends.
+/// Thread: one; a task is made, used and destroyed on the thread of its run.
+class Task {
+public:
+    /// Name of the exception for a launch path that does not exist or can't be executed.
+    static const QString invalidArgument;
+
+    Task();
+    virtual ~Task();
+    Q_DISABLE_COPY_MOVE(Task)
+
+    void setLaunchPath(const QString &path);
+    void setArguments(const QStringList &arguments);
+
+    /// Errors: throws LaunchException.
+    virtual void launch();
+    /// Launches under a guard. False exactly when an error was produced: for the exception named invalidArgument. An
+    /// exception of another name goes on; a thrown object of another kind is swallowed and counts as success.
+    bool tryLaunch(LaunchError *error = nullptr);
+
+    /// True until the exit has been noticed after the last output was read.
+    [[nodiscard]] bool isRunning() const;
+    /// The next output. Waits for it for a moment only: empty when the tool is silent or has ended.
+    [[nodiscard]] QByteArray availableData();
+    /// All output until the tool ends. A tool that floods, is silent beyond the limit, or outlives stopReading() is ended.
+    [[nodiscard]] QByteArray readDataToEndOfFile();
+    /// Ends the tool and waits for that: asks first, after three seconds kills it. Output that still comes is dropped.
+    void terminate();
+    /// Exit status; never 0 for a tool that died by a signal.
+    [[nodiscard]] int terminationStatus() const;
+    void closeFile();
+
+    /// The tool has said nothing for longer than the limit.
+    [[nodiscard]] bool isSilentForTooLong() const;
+    /// Units: seconds a tool may be silent; process-wide, 300 at first.
+    static void setSilenceLimit(std::chrono::seconds limit);
+    [[nodiscard]] static std::chrono::seconds silenceLimit();
+    /// Makes every readDataToEndOfFile() end its tool soon; process-wide, for the program's end.
+    static void stopReading();
+
+private:
+    QProcess m_process;
+    QString m_launchPath;
+    std::chrono::steady_clock::time_point m_lastOutput;
+};

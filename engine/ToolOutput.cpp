@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "engine/ToolOutput.h"
+
+#include "support/Pattern.h"
+#include "support/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// An expression that can't be compiled finds nothing.
+QRegularExpression expression(const QString &pattern, QRegularExpression::PatternOptions options)
+{
+    QRegularExpression compiled = Pattern::compiled(pattern, options);
+    return compiled.isValid() ? compiled : QRegularExpression();
+}
+
+}
+
+namespace ToolOutput {
+
+const QRegularExpression &regexprDuration()
+{
+    static const QRegularExpression regexp
+        = expression(u"Duration: (.*?), start:"_s, QRegularExpression::NoPatternOption);
+    return regexp;
+}
+
+const QRegularExpression &regexprProgress()
+{
+    static const QRegularExpression regexp = expression(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
+    return regexp;
+}
+
+std::optional<qint64> getFFMpegDuration(const QString &text)
+{
+    const QRegularExpression regexp = Pattern::compiled(uR"((\d+):(\d+):(\d+)(\.(\d+))?)"_s);
+    if (!regexp.isValid())
+        return std::nullopt;
+    const QRegularExpressionMatch match
+        = regexp.match(QStringView(text).first(Text::characterCount(text)));
+    if (!match.hasMatch())
+        return std::nullopt;
+    const auto group = [&](int index) {
+        return Text::asInt64(Pattern::substringFromCheckingResult(match, index));
+    };
+    return group(1) * 3600 + group(2) * 60 + group(3);
+}
+
+std::optional<qint64> lastReportedPosition(const QString &block)
+{
+    QRegularExpressionMatch last;
+    for (auto matches = regexprProgress().globalMatch(block); matches.hasNext();)
+        last = matches.next();
+    if (!last.hasMatch())
+        return std::nullopt;
+    return getFFMpegDuration(Pattern::substringFromCheckingResult(last, 1));
+}
+
+QString decodedBlock(const QByteArray &block)
+{
+    QString text = Text::stringValue(block);
+    if (!text.isEmpty())
+        return text;
+    for (qsizetype start = 0; start < block.size();) {
+        qsizetype end = start;
+        while (end < block.size() && block[end] != '\n' && block[end] != '\r')
+            ++end;
+        end = std::min(end + 1, block.size());
+        text += Text::stringValue(block.sliced(start, end - start));
+        start = end;
+    }
+    return text;
+}
+
+}
