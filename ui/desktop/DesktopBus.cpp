@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/DesktopBus.h"
+
+#include <QCoreApplication>
+#include <QDBusPendingCallWatcher>
+
+namespace DesktopBus {
+
+void call(const QDBusConnection &bus, const Method &method, const QVariantList &arguments,
+    const Answer &answer, std::chrono::milliseconds limit)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        method.service, method.path, method.interface, method.name);
+    message.setArguments(arguments);
+    const QDBusPendingCall pending = bus.asyncCall(message, static_cast<int>(limit.count()));
+    if (!answer)
+        return;
+    auto *watcher = new QDBusPendingCallWatcher(pending, QCoreApplication::instance());
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+        [answer](QDBusPendingCallWatcher *finished) {
+            finished->deleteLater();
+            answer(finished->reply());
+        });
+}
+
+}

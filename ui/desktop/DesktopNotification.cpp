@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/DesktopNotification.h"
+
+#include "ui/desktop/DesktopBus.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString service = u"org.freedesktop.Notifications"_s;
+const QString path = u"/org/freedesktop/Notifications"_s;
+
+void call(
+    const QString &method, const QVariantList &arguments, const DesktopBus::Answer &answer = {})
+{
+    DesktopBus::call(QDBusConnection::sessionBus(),
+        { .service = service, .path = path, .interface = service, .name = method }, arguments,
+        answer);
+}
+
+}
+
+void DesktopNotification::show(const QString &title, const QString &text)
+{
+    if (!m_listening)
+        m_listening = QDBusConnection::sessionBus().connect(
+            service, path, service, u"ActionInvoked"_s, this, SLOT(actionInvoked(uint, QString)));
+    const QStringList actions{ u"default"_s, QString() };
+    const QVariantMap hints{ { u"desktop-entry"_s, QGuiApplication::desktopFileName() } };
+    constexpr int expiryOfTheDesktop = -1;
+    // The text is markup to the desktop, the title is not.
+    const QVariantList arguments{ QGuiApplication::applicationDisplayName(), m_id,
+        QGuiApplication::desktopFileName(), title, text.toHtmlEscaped(), actions, hints,
+        expiryOfTheDesktop };
+    call(u"Notify"_s, arguments,
+        [self = QPointer(this), generation = ++m_generation](const QDBusMessage &answer) {
+            const uint id = answer.arguments().value(0).toUInt();
+            if (answer.type() == QDBusMessage::ErrorMessage)
+                return;
+            if (self && self->m_generation == generation)
+                self->m_id = id;
+            else if (!self || self->m_id != id)
+                call(u"CloseNotification"_s, { id });
+        });
+}
+
+void DesktopNotification::close()
+{
+    ++m_generation;
+    if (const uint id = std::exchange(m_id, 0); id != 0)
+        call(u"CloseNotification"_s, { id });
+}
+
+void DesktopNotification::actionInvoked(uint id, const QString &action)
+{
+    if (id == m_id && id != 0 && action == u"default")
+        Q_EMIT activated();
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/FileBrowser.h"
+
+#include "ui/desktop/DesktopBus.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace FileBrowser {
+
+void reveal(const QString &filePath)
+{
+    const QFileInfo file(QFileInfo(filePath).absoluteFilePath());
+    const QStringList uris{ QString::fromLatin1(QUrl::fromLocalFile(file.filePath()).toEncoded()) };
+    const DesktopBus::Method showItems{ .service = u"org.freedesktop.FileManager1"_s,
+        .path = u"/org/freedesktop/FileManager1"_s,
+        .interface = u"org.freedesktop.FileManager1"_s,
+        .name = u"ShowItems"_s };
+    DesktopBus::call(QDBusConnection::sessionBus(), showItems, { uris, QString() },
+        [folder = file.path()](const QDBusMessage &answer) {
+            if (answer.type() == QDBusMessage::ErrorMessage)
+                openFolder(folder);
+        });
+}
+
+void openFolder(const QString &folderPath)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(folderPath).absoluteFilePath()));
+}
+
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/LauncherProgress.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+void LauncherProgress::show(double fraction)
+{
+    const double bounded = std::isnan(fraction) ? 0 : std::clamp(fraction, 0.0, 1.0);
+    update(static_cast<int>(bounded * 100), false);
+}
+
+void LauncherProgress::finish() { update(hidden, true); }
+
+void LauncherProgress::clear() { update(hidden, false); }
+
+void LauncherProgress::update(int percent, bool urgent)
+{
+    if (percent == m_percent && urgent == m_urgent)
+        return;
+    m_percent = percent;
+    m_urgent = urgent;
+    const QVariantMap properties{ { u"progress"_s, std::max(percent, 0) / 100.0 },
+        { u"progress-visible"_s, percent != hidden }, { u"urgent"_s, urgent } };
+    QDBusMessage signal = QDBusMessage::createSignal(
+        u"/org/example/VideoConverter"_s, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);
+    signal << u"application://%1.desktop"_s.arg(QGuiApplication::desktopFileName()) << properties;
+    QDBusConnection::sessionBus().send(signal);
+}

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/SingleInstance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+// One request is a JSON array of absolute paths and a line end; the answer is one line.
+constexpr qint64 longestRequest = 1 << 20;
+constexpr auto longestWait = 900ms;
+constexpr auto longestSilence = 5s;
+const QByteArray taken = "taken\n"_ba;
+
+/// A folder that only this user reaches; empty when there is none.
+QString privateFolder()
+{
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (!runtime.isEmpty() && QFileInfo(runtime).isWritable())
+        return runtime;
+    const QString folder = u"%1/video-converter-%2"_s.arg(QDir::tempPath()).arg(::getuid());
+    const QByteArray name = QFile::encodeName(folder);
+    ::mkdir(name.constData(), S_IRWXU);
+    struct stat status { };
+    const bool mine = ::lstat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode)
+        && status.st_uid == ::getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+    return mine ? folder : QString();
+}
+
+/// Where the instances of one user on one display meet; empty when they can't.
+QString meetingPlace()
+{
+    const QString folder = privateFolder();
+    const QByteArray session = qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY");
+    const QByteArray digest = QCryptographicHash::hash(session, QCryptographicHash::Sha256).toHex();
+    return folder.isEmpty()
+        ? folder
+        : folder + "/video-converter-"_L1 + QString::fromLatin1(digest.first(16));
+}
+
+QByteArray request(const QStringList &filePaths)
+{
+    QJsonArray paths;
+    for (const QString &path : filePaths)
+        paths.append(QFileInfo(path).absoluteFilePath());
+    return QJsonDocument(paths).toJson(QJsonDocument::Compact) + '\n';
+}
+
+std::optional<QStringList> absolutePaths(const QByteArray &request)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(request);
+    if (!document.isArray())
+        return std::nullopt;
+    QStringList paths;
+    for (const QJsonValueConstRef value : document.array())
+        paths.append(value.toString());
+    const bool valid = std::all_of(paths.cbegin(), paths.cend(), QDir::isAbsolutePath);
+    return valid ? std::optional(paths) : std::nullopt;
+}
+
+enum class Answer { Taken, Silence, Nobody };
+
+Answer ask(const QString &place, const QByteArray &request, const QDeadlineTimer &deadline)
+{
+    const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+    QLocalSocket socket;
+    socket.connectToServer(place);
+    if (!socket.waitForConnected(left())) {
+        const auto error = socket.error();
+        return error == QLocalSocket::ConnectionRefusedError
+                || error == QLocalSocket::ServerNotFoundError
+            ? Answer::Nobody
+            : Answer::Silence;
+    }
+    socket.write(request);
+    while (!socket.canReadLine() && !deadline.hasExpired() && socket.waitForReadyRead(left())) { }
+    return socket.readLine(taken.size() + 1) == taken ? Answer::Taken : Answer::Silence;
+}
+
+}
+
+SingleInstance::SingleInstance(QObject *parent)
+    : QObject(parent)
+{
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::accept);
+}
+
+bool SingleInstance::handOver(const QStringList &filePaths)
+{
+    const QDeadlineTimer deadline(longestWait);
+    const QString place = meetingPlace();
+    const QByteArray message = request(filePaths);
+    if (place.isEmpty() || message.size() > longestRequest)
+        return false;
+    // Two starts at once: the second asks only after the first has begun to listen.
+    QLockFile lock(place + ".lock"_L1);
+    if (!lock.tryLock(static_cast<int>(deadline.remainingTime() / 2)))
+        return false;
+    const Answer answer = ask(place, message, deadline);
+    if (answer == Answer::Nobody) {
+        QLocalServer::removeServer(place); // what a killed instance left
+        m_server.listen(place);
+    }
+    return answer == Answer::Taken;
+}
+
+void SingleInstance::accept()
+{
+    while (QLocalSocket *peer = m_server.nextPendingConnection()) {
+        peer->setReadBufferSize(longestRequest + 1);
+        connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
+        connect(peer, &QLocalSocket::readyRead, this, [this, peer] { read(peer); });
+        QTimer::singleShot(longestSilence, peer, &QLocalSocket::abort);
+        read(peer);
+    }
+}
+
+void SingleInstance::read(QLocalSocket *peer)
+{
+    if (!peer->canReadLine()) {
+        if (peer->bytesAvailable() > longestRequest)
+            peer->abort();
+        return;
+    }
+    const auto paths = absolutePaths(peer->readLine(longestRequest));
+    if (!paths)
+        return peer->abort();
+    peer->write(taken);
+    peer->disconnectFromServer();
+    Q_EMIT filesReceived(*paths);
+}
