@@ -35,5 +35,6 @@ QString formatted(const QString &format, const std::vector<FormatArgument> &argu
         if (index < arguments.size())
             result += textOf(arguments[index]);
     }
-    return result + QStringView(format).mid(copied);
+    result += QStringView(format).mid(copied);
+    return result;
 }
