@@ -19,8 +19,14 @@ public:
         bool operator==(const Maximum &) const = default;
     };
 
-    constexpr static VideoDimensionsConstraints maximum(Maximum size) { return VideoDimensionsConstraints(size); }
-    constexpr static VideoDimensionsConstraints unlimited() { return VideoDimensionsConstraints(std::nullopt); }
+    constexpr static VideoDimensionsConstraints maximum(Maximum size)
+    {
+        return VideoDimensionsConstraints(size);
+    }
+    constexpr static VideoDimensionsConstraints unlimited()
+    {
+        return VideoDimensionsConstraints(std::nullopt);
+    }
 
     /// The maximum; absent for an unlimited picture.
     [[nodiscard]] constexpr const std::optional<Maximum> &maximum() const { return m_maximum; }
@@ -38,6 +44,12 @@ private:
 /// Preset that a menu entry stands for; a label only.
 enum class VideoQualityConstraints { unchanged, low, medium, hd720, fullHD1080, uhd4k };
 
+/// The ordinal, 0 to 5.
+[[nodiscard]] constexpr int hashValue(VideoQualityConstraints quality)
+{
+    return static_cast<int>(quality);
+}
+
 /// What a menu entry asks for.
 struct VideoConstraints {
     VideoDimensionsConstraints dimension;
@@ -49,10 +61,10 @@ struct VideoConstraints {
     bool operator==(const VideoConstraints &) const = default;
 };
 
-/// The entry with exactly this menu title, if there is one. The other titles are those of the three entries whose titles are
-/// translated.
-[[nodiscard]] std::optional<VideoConstraints> videoConstraints(
-    const QString &title, const QString &audioTitle, const QString &mp4LowQTitle, const QString &mp4MedQTitle);
+/// The entry with exactly this menu title, if there is one. The other titles are those of the three
+/// entries whose titles are translated.
+[[nodiscard]] std::optional<VideoConstraints> videoConstraints(const QString &title,
+    const QString &audioTitle, const QString &mp4LowQTitle, const QString &mp4MedQTitle);
 
 /// Groups of the format menu, in its order.
 enum class MenuGroup { Devices, Formats, Mp4Quality };
