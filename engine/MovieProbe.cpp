@@ -10,7 +10,7 @@ namespace {
 struct OffsetRow {
     qint64 (DurationInfo::*field)() const;
     qint64 atLeast;
-    const char16_t *offset;
+    QStringView offset;
 };
 
 constexpr std::array offsetRows{
@@ -23,7 +23,7 @@ constexpr std::array offsetRows{
 struct BucketRow {
     qint64 firstMinute;
     qint64 endMinute;
-    const char16_t *label;
+    QStringView label;
 };
 
 constexpr std::array bucketRows{
@@ -66,7 +66,7 @@ QString coverOffset(const DurationInfo &duration)
 {
     for (const OffsetRow &row : offsetRows) {
         if ((duration.*row.field)() >= row.atLeast)
-            return QString(row.offset);
+            return row.offset.toString();
     }
     return u"00:00:00"_s;
 }
@@ -76,7 +76,7 @@ QString lengthBucket(qint64 seconds)
     const qint64 minute = seconds / 60;
     for (const BucketRow &row : bucketRows) {
         if (minute >= row.firstMinute && minute < row.endMinute)
-            return QString(row.label);
+            return row.label.toString();
     }
     return u">40"_s;
 }
