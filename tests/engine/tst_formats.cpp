@@ -51,7 +51,7 @@ void TestFormats::initTestCase()
     Media::film(path(u"landscape.mp4"_s), 4, u"1280x720"_s);
     Media::film(path(u"portrait.mov"_s), 2, u"360x640"_s);
     Media::film(path(u"mono.mkv"_s), 3, u"320x240"_s,
-        {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"libmp3lame"_s, u"-ar"_s, u"22050"_s, u"-ac"_s, u"1"_s});
+        {u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"libmp3lame"_s, u"-ar"_s, u"44100"_s, u"-ac"_s, u"1"_s});
 }
 
 void TestFormats::everyFormat_isReallyMade_data()
