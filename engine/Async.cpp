@@ -6,20 +6,14 @@
 
 using namespace Qt::StringLiterals;
 
-void Async::async(Block block)
-{
-    MainQueue::post(std::move(block));
-}
+void Async::async(Block block) { MainQueue::post(std::move(block)); }
 
 void Async::async(const std::shared_ptr<SerialQueue> &queue, Block block)
 {
     queue->submit(std::move(block));
 }
 
-void Async::background(Block block)
-{
-    async(backgroundSerialQueue(), std::move(block));
-}
+void Async::background(Block block) { async(backgroundSerialQueue(), std::move(block)); }
 
 void Async::delay(double seconds, Block closure)
 {

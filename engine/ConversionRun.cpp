@@ -15,6 +15,7 @@
 #include "support/Text.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdlib>
 
@@ -23,15 +24,16 @@ using namespace Qt::StringLiterals;
 QStringList conversionArguments(const ConversionJob &job)
 {
     const ConversionDescriptor descriptor = conversionDescriptor(job.constraints.format);
-    QStringList arguments{u"-hide_banner"_s, u"-loglevel"_s, u"verbose"_s, u"-y"_s, u"-i"_s, job.path};
-    arguments
-        += descriptor.ffmpegArguments(job.path, job.destPath, job.conversionInfo, job.constraints.dimension);
+    QStringList arguments{ u"-hide_banner"_s, u"-loglevel"_s, u"verbose"_s, u"-y"_s, u"-i"_s,
+        job.path };
+    arguments += descriptor.ffmpegArguments(
+        job.path, job.destPath, job.conversionInfo, job.constraints.dimension);
     arguments += job.destPath;
     return arguments;
 }
 
-ConversionRun::ConversionRun(
-    ConversionJob job, std::shared_ptr<Progress> progress, FFMPEG::ConversionErrorHandler errorHandler)
+ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,
+    FFMPEG::ConversionErrorHandler errorHandler)
     : m_job(std::move(job))
     , m_progress(std::move(progress))
     , m_errorHandler(std::move(errorHandler))
@@ -42,8 +44,9 @@ void ConversionRun::run()
 {
     if (isSameFile(m_job.path, m_job.destPath)) {
         // The tool would empty the source before it read it, and the clean-up would remove it.
-        postError(localized(QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
-            "Error message when source and destination are one file")));
+        postError(localized(
+            QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
+                "Error message when source and destination are one file")));
     } else {
         convert();
     }
@@ -68,6 +71,7 @@ bool ConversionRun::launch(Task &task)
 {
     task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
     task.setArguments(conversionArguments(m_job));
+    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;
@@ -108,7 +112,8 @@ void ConversionRun::readChunk(const QByteArray &chunk)
     }
 }
 
-// A tool that ends well although more is left than the last step of its reports can explain has stopped short.
+// A tool that ends well although more is left than the last step of its reports can explain has
+// stopped short.
 void ConversionRun::judge(const Task &task)
 {
     if (m_progress->isCancelled() || task.terminationStatus() != 0)
@@ -122,7 +127,7 @@ void ConversionRun::judge(const Task &task)
     const QString format
         = localized(QT_TRANSLATE_NOOP3("Localizable", "The converting progress was finished at %@",
             "Error message format string when file has not been converted at full length"));
-    postError(formatted(format, {DurationInfo(completed).toString()}));
+    postError(formatted(format, { DurationInfo(completed).toString() }));
 }
 
 void ConversionRun::finish(Task &task, bool launched)
@@ -130,7 +135,8 @@ void ConversionRun::finish(Task &task, bool launched)
     // Read once: a cancel that comes while this goes on must not meet half of each branch.
     const bool cancelled = m_progress->isCancelled();
     if (cancelled) {
-        // A tool that is told to stop in its first moments still creates its output, so it is gone before that is removed.
+        // A tool that is told to stop in its first moments still creates its output, so it is gone
+        // before that is removed.
         task.terminate();
         removeDestination();
     } else if (launched && task.terminationStatus() == 0) {
@@ -149,7 +155,4 @@ void ConversionRun::postError(const std::optional<QString> &errmsg)
     Async::async([handler = m_errorHandler, errmsg] { handler(errmsg); });
 }
 
-void ConversionRun::removeDestination() const
-{
-    QFile::remove(m_job.destPath);
-}
+void ConversionRun::removeDestination() const { QFile::remove(m_job.destPath); }

@@ -21,11 +21,12 @@ struct ConversionJob {
 /// Thread: any.
 [[nodiscard]] QStringList conversionArguments(const ConversionJob &job);
 
-/// One run of the tool from launch to clean-up: follows its output, judges its end, removes what it must not leave behind.
-/// Thread: one, the run's own; `errorHandler` is posted to the main thread.
+/// One run of the tool from launch to clean-up: follows its output, judges its end, removes what it
+/// must not leave behind. Thread: one, the run's own; `errorHandler` is posted to the main thread.
 class ConversionRun {
 public:
-    ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress, FFMPEG::ConversionErrorHandler errorHandler);
+    ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,
+        FFMPEG::ConversionErrorHandler errorHandler);
 
     void run();
 

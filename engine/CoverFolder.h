@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// The folder of this process for cover pictures, inside the temporary folder and readable by its user alone.
-/// Thread: any.
+/// The folder of this process for cover pictures, inside the temporary folder and readable by its
+/// user alone. Thread: any.
 namespace CoverFolder {
 
 /// A new name ending in ".jpg"; the folder is made when it is first asked for.

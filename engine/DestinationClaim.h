@@ -5,9 +5,9 @@
 
 #include <functional>
 
-/// Sole right of one run to write, and to remove, the file at a destination. A run that was cancelled may still be ending its
-/// tool when the user starts another to the same place: the second waits, so that the first does not remove its output.
-/// Thread: the run's.
+/// Sole right of one run to write, and to remove, the file at a destination. A run that was
+/// cancelled may still be ending its tool when the user starts another to the same place: the
+/// second waits, so that the first does not remove its output. Thread: the run's.
 class DestinationClaim {
 public:
     /// Waits until no other claim stands, or `givesUp` answers true (asked several times a second).

@@ -5,9 +5,9 @@
 
 #include <optional>
 
-/// Looks for the "Duration:" line in output that keeps growing. Gives what a search over the whole text after each block
-/// would give, at a cost that does not grow with the text: what was searched is not searched again, nor kept.
-/// Thread: one at a time.
+/// Looks for the "Duration:" line in output that keeps growing. Gives what a search over the whole
+/// text after each block would give, at a cost that does not grow with the text: what was searched
+/// is not searched again, nor kept. Thread: one at a time.
 class DurationScanner {
 public:
     /// Takes the next block of output.
@@ -20,7 +20,8 @@ private:
 
     // The tail of the text that a match may still begin in; it begins at a line's start.
     QString m_tail;
-    // UTF-16 units beyond the characters of what was dropped: so many units at the text's end are not searched.
+    // UTF-16 units beyond the characters of what was dropped: so many units at the text's end are
+    // not searched.
     qsizetype m_surplus = 0;
     bool m_searched = false;
     bool m_decided = false;

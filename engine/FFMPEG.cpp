@@ -13,16 +13,20 @@
 #include "support/Console.h"
 #include "support/FileSystem.h"
 
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 // Runs a tool to its end and gives its whole output; absent when it can't be launched.
-std::optional<QByteArray> toolOutput(const QString &suffix, const QStringList &arguments)
+std::optional<QByteArray> toolOutput(
+    const QString &suffix, const QStringList &arguments, const ToolAccess &access)
 {
     Task task;
     task.setLaunchPath(Bundle::main().bundlePath() + suffix);
     task.setArguments(arguments);
+    task.setAccess(access);
     LaunchError error;
     std::optional<QByteArray> output;
     if (task.tryLaunch(&error))
@@ -39,11 +43,12 @@ void FFMPEG::collectMovieInfo(
     const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler)
 {
     collectMovieInfo(
-        path, [handler = std::move(errorHandler)](ProbeRefusal) { handler(); }, std::move(completionHandler));
+        path, [handler = std::move(errorHandler)](ProbeRefusal) { handler(); },
+        std::move(completionHandler));
 }
 
-void FFMPEG::collectMovieInfo(
-    const QString &path, std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler)
+void FFMPEG::collectMovieInfo(const QString &path, std::function<void(ProbeRefusal)> errorHandler,
+    InfoHandler completionHandler)
 {
     // A FIFO would make the tool wait for ever.
     if (!isRegularFile(path)) {
@@ -62,19 +67,22 @@ void FFMPEG::collectMovieInfo(
         }
         const qint64 seconds = std::get<qint64>(result);
         const DurationInfo duration(seconds);
-        getFFmpegMovieCover(path, MovieProbe::coverOffset(duration), [=, info = *json](const QImage &cover) {
-            completionHandler(info, cover, duration.toString());
-            Analytics::send(QString(), u"adding_video"_s, u"size"_s, MovieProbe::lengthBucket(seconds));
-        });
+        getFFmpegMovieCover(
+            path, MovieProbe::coverOffset(duration), [=, info = *json](const QImage &cover) {
+                completionHandler(info, cover, duration.toString());
+                Analytics::send(
+                    QString(), u"adding_video"_s, u"size"_s, MovieProbe::lengthBucket(seconds));
+            });
     });
 }
 
 std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString &destPath,
-    const VideoConstraints &constraints, const JSON &conversionInfo, ConversionErrorHandler errorHandler)
+    const VideoConstraints &constraints, const JSON &conversionInfo,
+    ConversionErrorHandler errorHandler)
 {
     auto progress = std::make_shared<Progress>(-1);
     progress->setKind(Progress::Kind::File);
-    Async::background([job = ConversionJob{path, destPath, constraints, conversionInfo}, progress,
+    Async::background([job = ConversionJob{ path, destPath, constraints, conversionInfo }, progress,
                           errorHandler = std::move(errorHandler)] {
         ConversionRun(job, progress, errorHandler).run();
     });
@@ -92,10 +100,12 @@ void FFMPEG::getFFProbeOutput(
     const QString &path, std::function<void(const std::optional<JSON> &json)> completionHandler)
 {
     Async::background([path, completionHandler = std::move(completionHandler)] {
-        const QStringList arguments{u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s, u"-show_format"_s,
-            u"-show_streams"_s, path};
-        const std::optional<QByteArray> output = toolOutput(u"/Contents/ffmpeg/ffprobe"_s, arguments);
-        const std::optional<JSON> json = output ? std::optional(JSON::parse(*output)) : std::nullopt;
+        const QStringList arguments{ u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s,
+            u"-show_format"_s, u"-show_streams"_s, path };
+        const std::optional<QByteArray> output
+            = toolOutput(u"/Contents/ffmpeg/ffprobe"_s, arguments, { { path }, {} });
+        const std::optional<JSON> json
+            = output ? std::optional(JSON::parse(*output)) : std::nullopt;
         Async::async([json, completionHandler] { completionHandler(json); });
     });
 }
@@ -105,9 +115,11 @@ void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
 {
     Async::background([path, offset, completionHandler = std::move(completionHandler)] {
         const QString imagePath = CoverFolder::uniqueImagePath();
-        const QStringList arguments{
-            u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath, u"-y"_s};
-        const std::optional<QByteArray> output = toolOutput(u"/Contents/ffmpeg/ffmpeg"_s, arguments);
+        const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath,
+            u"-y"_s };
+        const ToolAccess access{ { path }, { QFileInfo(imagePath).path() } };
+        const std::optional<QByteArray> output
+            = toolOutput(u"/Contents/ffmpeg/ffmpeg"_s, arguments, access);
         QImage cover;
         if (output) {
             Console::print(QString::fromUtf8(*output));

@@ -25,35 +25,41 @@ enum class ProbeRefusal {
 };
 
 /// Examines films and converts them, each time by one run of a tool of the application's bundle.
-/// Thread: call on the main thread; every call returns at once. All handlers run on the main thread.
+/// Thread: call on the main thread; every call returns at once. All handlers run on the main
+/// thread.
 class FFMPEG {
 public:
     /// `cover` is a null image when no frame could be taken; `duration` is the text to show.
-    using InfoHandler = std::function<void(const JSON &json, const QImage &cover, const QString &duration)>;
+    using InfoHandler
+        = std::function<void(const JSON &json, const QImage &cover, const QString &duration)>;
     /// `errmsg` is meant for the user; absent when the tool failed.
     using ConversionErrorHandler = std::function<void(const std::optional<QString> &errmsg)>;
 
     FFMPEG() = delete;
 
     /// Describes a film. Exactly one of the handlers runs.
-    static void collectMovieInfo(const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler);
-    /// The same, with the reason of a refusal.
     static void collectMovieInfo(
-        const QString &path, std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler);
+        const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler);
+    /// The same, with the reason of a refusal.
+    static void collectMovieInfo(const QString &path,
+        std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler);
 
-    /// Converts a probed film. The progress object is indeterminate until the tool tells the length. Cancelling it stops the
-    /// tool and removes the partly written output.
-    /// Errors: `errorHandler` runs at most once. A tool that can't be launched cancels the progress object instead. A
-    /// destination that is the source itself is refused: nothing is launched, nothing is removed.
+    /// Converts a probed film. The progress object is indeterminate until the tool tells the
+    /// length. Cancelling it stops the tool and removes the partly written output. Errors:
+    /// `errorHandler` runs at most once. A tool that can't be launched cancels the progress object
+    /// instead. A destination that is the source itself is refused: nothing is launched, nothing is
+    /// removed.
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
-        const VideoConstraints &constraints, const JSON &conversionInfo, ConversionErrorHandler errorHandler);
+        const VideoConstraints &constraints, const JSON &conversionInfo,
+        ConversionErrorHandler errorHandler);
 
-    /// Ends probes that still run and waits until every conversion is over. Called once, before the program ends.
+    /// Ends probes that still run and waits until every conversion is over. Called once, before the
+    /// program ends.
     static void shutDown();
 
 private:
-    static void getFFProbeOutput(
-        const QString &path, std::function<void(const std::optional<JSON> &json)> completionHandler);
-    static void getFFmpegMovieCover(
-        const QString &path, const QString &offset, std::function<void(const QImage &cover)> completionHandler);
+    static void getFFProbeOutput(const QString &path,
+        std::function<void(const std::optional<JSON> &json)> completionHandler);
+    static void getFFmpegMovieCover(const QString &path, const QString &offset,
+        std::function<void(const QImage &cover)> completionHandler);
 };

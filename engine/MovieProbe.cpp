@@ -14,10 +14,10 @@ struct OffsetRow {
 };
 
 constexpr std::array offsetRows{
-    OffsetRow{&DurationInfo::hours, 1, u"00:40:00"},
-    OffsetRow{&DurationInfo::minutes, 1, u"00:00:40"},
-    OffsetRow{&DurationInfo::seconds, 10, u"00:00:20"},
-    OffsetRow{&DurationInfo::seconds, 1, u"00:00:02"},
+    OffsetRow{ &DurationInfo::hours, 1, u"00:40:00" },
+    OffsetRow{ &DurationInfo::minutes, 1, u"00:00:40" },
+    OffsetRow{ &DurationInfo::seconds, 10, u"00:00:20" },
+    OffsetRow{ &DurationInfo::seconds, 1, u"00:00:02" },
 };
 
 struct BucketRow {
@@ -27,11 +27,11 @@ struct BucketRow {
 };
 
 constexpr std::array bucketRows{
-    BucketRow{0, 1, u"0-1"},
-    BucketRow{1, 5, u"1-5"},
-    BucketRow{5, 10, u"5-10"},
-    BucketRow{10, 20, u"10-20"},
-    BucketRow{20, 40, u"20-40"},
+    BucketRow{ 0, 1, u"0-1" },
+    BucketRow{ 1, 5, u"1-5" },
+    BucketRow{ 5, 10, u"5-10" },
+    BucketRow{ 10, 20, u"10-20" },
+    BucketRow{ 20, 40, u"20-40" },
 };
 
 }

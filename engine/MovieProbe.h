@@ -10,9 +10,9 @@
 /// Thread: any.
 namespace MovieProbe {
 
-/// Length of the film in whole seconds, or why it is refused. `sizeOnDisk` in bytes: a film that is still being written, or
-/// that the tool read only in part, differs from it.
-/// Errors: a length that is not finite or beyond 64 bits stops the program.
+/// Length of the film in whole seconds, or why it is refused. `sizeOnDisk` in bytes: a film that is
+/// still being written, or that the tool read only in part, differs from it. Errors: a length that
+/// is not finite or beyond 64 bits stops the program.
 [[nodiscard]] std::variant<qint64, ProbeRefusal> checked(const JSON &info, quint64 sizeOnDisk);
 /// Where in a film its cover is taken, as the tool's seek offset.
 [[nodiscard]] QString coverOffset(const DurationInfo &duration);

@@ -32,7 +32,7 @@ void Progress::setTotalUnitCount(qint64 count)
         const std::lock_guard lock(m_mutex);
         m_totalUnitCount = count;
     }
-    notify({Key::FractionCompleted});
+    notify({ Key::FractionCompleted });
 }
 
 qint64 Progress::completedUnitCount() const
@@ -47,7 +47,7 @@ void Progress::setCompletedUnitCount(qint64 count)
         const std::lock_guard lock(m_mutex);
         m_completedUnitCount = count;
     }
-    notify({Key::FractionCompleted, Key::CompletedUnitCount});
+    notify({ Key::FractionCompleted, Key::CompletedUnitCount });
 }
 
 double Progress::fractionCompleted() const
@@ -95,7 +95,7 @@ void Progress::setCancellationHandler(std::function<void()> handler)
 void Progress::addObserver(Key key, Context context, Observer observer)
 {
     const std::lock_guard lock(m_mutex);
-    m_observers.push_back({key, context, std::move(observer)});
+    m_observers.push_back({ key, context, std::move(observer) });
 }
 
 void Progress::removeObserver(Key key, Context context)

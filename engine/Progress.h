@@ -11,8 +11,9 @@
 
 /// How far a run has come, and the way to stop it.
 /// Units: whole seconds of media; the total is negative while the length is unknown.
-/// Thread: any. Observers run on the thread that writes, without a lock held; the cancellation handler runs on the thread
-/// that cancels, or at once where it is set on an object that is cancelled already.
+/// Thread: any. Observers run on the thread that writes, without a lock held; the cancellation
+/// handler runs on the thread that cancels, or at once where it is set on an object that is
+/// cancelled already.
 class Progress {
 public:
     enum class Kind { Unspecified, File };

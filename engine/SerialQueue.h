@@ -6,10 +6,9 @@
 #include <functional>
 #include <memory>
 
-/// Runs blocks one after the other on one thread of its own, which begins with the first block and ends when the queue is
-/// gone and its last block has run.
-/// Thread: any.
-/// Errors: a block that throws, or a thread that can't be made, stops the program.
+/// Runs blocks one after the other on one thread of its own, which begins with the first block and
+/// ends when the queue is gone and its last block has run. Thread: any. Errors: a block that
+/// throws, or a thread that can't be made, stops the program.
 class SerialQueue {
 public:
     explicit SerialQueue(QString label);
@@ -19,7 +18,8 @@ public:
     [[nodiscard]] const QString &label() const { return m_label; }
     void submit(std::function<void()> block);
 
-    /// Waits until no queue's thread is left. Whoever calls this must see to it that their blocks come to an end.
+    /// Waits until no queue's thread is left. Whoever calls this must see to it that their blocks
+    /// come to an end.
     static void waitForAll();
 
 private:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Task.h"
 
+#include "support/Console.h"
+
 #include <atomic>
 #include <csignal>
 #include <unistd.h>
@@ -37,30 +39,29 @@ Task::Task()
 {
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setInputChannelMode(QProcess::ForwardedInputChannel);
-    m_process.setChildProcessModifier([parent = ::getpid()] { dieWithParent(parent); });
 }
 
-Task::~Task()
-{
-    terminate();
-}
+Task::~Task() { terminate(); }
 
-void Task::setLaunchPath(const QString &path)
-{
-    m_launchPath = path;
-}
+void Task::setLaunchPath(const QString &path) { m_launchPath = path; }
 
-void Task::setArguments(const QStringList &arguments)
-{
-    m_process.setArguments(arguments);
-}
+void Task::setArguments(const QStringList &arguments) { m_process.setArguments(arguments); }
+
+void Task::setAccess(const ToolAccess &access) { m_access = access; }
 
 void Task::launch()
 {
+    const Sandbox sandbox(m_launchPath, m_access);
+    if (!sandbox.isConfining())
+        Console::print(u"the tool runs without a sandbox: this kernel offers none"_s);
+    m_process.setChildProcessModifier([parent = ::getpid(), &sandbox] {
+        dieWithParent(parent);
+        sandbox.enter();
+    });
     m_process.setProgram(m_launchPath);
     m_process.start(QIODevice::ReadOnly);
     if (!m_process.waitForStarted(-1))
-        throw LaunchException{invalidArgument, m_launchPath + u": "_s + m_process.errorString()};
+        throw LaunchException{ invalidArgument, m_launchPath + u": "_s + m_process.errorString() };
     m_lastOutput = std::chrono::steady_clock::now();
 }
 
@@ -72,7 +73,7 @@ bool Task::tryLaunch(LaunchError *error)
         if (exception.name != invalidArgument)
             throw;
         if (error)
-            *error = {exception.name, 0, exception.reason};
+            *error = { exception.name, 0, exception.reason };
         return false;
     } catch (...) {
         // Whatever else is thrown says nothing of the launch.
@@ -133,27 +134,15 @@ int Task::terminationStatus() const
     return m_process.exitCode();
 }
 
-void Task::closeFile()
-{
-    m_process.closeReadChannel(QProcess::StandardOutput);
-}
+void Task::closeFile() { m_process.closeReadChannel(QProcess::StandardOutput); }
 
 bool Task::isSilentForTooLong() const
 {
     return std::chrono::steady_clock::now() - m_lastOutput > silenceLimit();
 }
 
-void Task::setSilenceLimit(std::chrono::seconds limit)
-{
-    silenceSeconds = limit.count();
-}
+void Task::setSilenceLimit(std::chrono::seconds limit) { silenceSeconds = limit.count(); }
 
-std::chrono::seconds Task::silenceLimit()
-{
-    return std::chrono::seconds(silenceSeconds);
-}
+std::chrono::seconds Task::silenceLimit() { return std::chrono::seconds(silenceSeconds); }
 
-void Task::stopReading()
-{
-    readingStopped = true;
-}
+void Task::stopReading() { readingStopped = true; }

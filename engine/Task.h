@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/Sandbox.h"
+
 #include <QByteArray>
 #include <QProcess>
 #include <QString>
@@ -21,9 +23,10 @@ struct LaunchError {
     QString localizedDescription;
 };
 
-/// One run of a tool of the bundle. Its standard output and standard error arrive in one stream of bytes; it inherits
-/// environment, folder and standard input, and dies with this program, however that ends.
-/// Thread: one; a task is made, used and destroyed on the thread of its run.
+/// One run of a tool of the bundle. Its standard output and standard error arrive in one stream of
+/// bytes; it inherits environment, folder and standard input, runs in a sandbox, and dies with this
+/// program, however that ends. Thread: one; a task is made, used and destroyed on the thread of its
+/// run.
 class Task {
 public:
     /// Name of the exception for a launch path that does not exist or can't be executed.
@@ -35,20 +38,25 @@ public:
 
     void setLaunchPath(const QString &path);
     void setArguments(const QStringList &arguments);
+    /// Grants the tool the files that it needs; see Sandbox.
+    void setAccess(const ToolAccess &access);
 
     /// Errors: throws LaunchException.
     virtual void launch();
-    /// Launches under a guard. False exactly when an error was produced: for the exception named invalidArgument. An
-    /// exception of another name goes on; a thrown object of another kind is swallowed and counts as success.
+    /// Launches under a guard. False exactly when an error was produced: for the exception named
+    /// invalidArgument. An exception of another name goes on; a thrown object of another kind is
+    /// swallowed and counts as success.
     bool tryLaunch(LaunchError *error = nullptr);
 
     /// True until the exit has been noticed after the last output was read.
     [[nodiscard]] bool isRunning() const;
     /// The next output. Waits for it for a moment only: empty when the tool is silent or has ended.
     [[nodiscard]] QByteArray availableData();
-    /// All output until the tool ends. A tool that floods, is silent beyond the limit, or outlives stopReading() is ended.
+    /// All output until the tool ends. A tool that floods, is silent beyond the limit, or outlives
+    /// stopReading() is ended.
     [[nodiscard]] QByteArray readDataToEndOfFile();
-    /// Ends the tool and waits for that: asks first, after three seconds kills it. Output that still comes is dropped.
+    /// Ends the tool and waits for that: asks first, after three seconds kills it. Output that
+    /// still comes is dropped.
     void terminate();
     /// Exit status; never 0 for a tool that died by a signal.
     [[nodiscard]] int terminationStatus() const;
@@ -65,5 +73,6 @@ public:
 private:
     QProcess m_process;
     QString m_launchPath;
+    ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
 };

@@ -28,7 +28,8 @@ const QRegularExpression &regexprDuration()
 
 const QRegularExpression &regexprProgress()
 {
-    static const QRegularExpression regexp = expression(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
+    static const QRegularExpression regexp
+        = expression(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
     return regexp;
 }
 

@@ -12,16 +12,17 @@ namespace ToolOutput {
 
 /// "  Duration: 00:01:40.00, start: 0.000000, bitrate: 1205 kb/s"; group 1 is the duration.
 [[nodiscard]] const QRegularExpression &regexprDuration();
-/// "frame=  250 fps=125 size=   512kB time=00:00:10.00 bitrate= 419.4kbits/s speed=5x"; group 1 is the position.
+/// "frame=  250 fps=125 size=   512kB time=00:00:10.00 bitrate= 419.4kbits/s speed=5x"; group 1 is
+/// the position.
 [[nodiscard]] const QRegularExpression &regexprProgress();
 
-/// Whole seconds of the first "hours:minutes:seconds" in a text; the fraction is dropped. Absent without one.
-/// Errors: a number of seconds beyond 64 bits stops the program.
+/// Whole seconds of the first "hours:minutes:seconds" in a text; the fraction is dropped. Absent
+/// without one. Errors: a number of seconds beyond 64 bits stops the program.
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
 /// Position in the last progress report of a block, in seconds.
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
-/// A block of output as text. Tags cut in the middle of a character make a block undecodable: then each line is decoded on
-/// its own, and only those that are broken are lost.
+/// A block of output as text. Tags cut in the middle of a character make a block undecodable: then
+/// each line is decoded on its own, and only those that are broken are lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
 
 }

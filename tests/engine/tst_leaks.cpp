@@ -36,12 +36,12 @@ void TestLeaks::initTestCase()
 
 std::shared_ptr<Progress> TestLeaks::start(const QString &name)
 {
-    const VideoConstraints constraints{VideoDimensionsConstraints::unlimited(), VideoQualityConstraints::unchanged,
-        ConversionFormat::mkv, u"MKV"_s};
+    const VideoConstraints constraints{ VideoDimensionsConstraints::unlimited(),
+        VideoQualityConstraints::unchanged, ConversionFormat::mkv, u"MKV"_s };
     const JSON info = JSON::parse(R"({"streams":[{"codec_type":"video","codec_name":"h264"},)"
                                   R"({"codec_type":"audio","codec_name":"aac"}]})");
-    return FFMPEG::convertFile(m_folder.filePath(u"in.mp4"_s), m_folder.filePath(name), constraints, info,
-        [this](const std::optional<QString> &) { ++m_errors; });
+    return FFMPEG::convertFile(m_folder.filePath(u"in.mp4"_s), m_folder.filePath(name), constraints,
+        info, [this](const std::optional<QString> &) { ++m_errors; });
 }
 
 void TestLeaks::fourAtOnce_allEndWell()
@@ -63,7 +63,9 @@ void TestLeaks::runOne(int number)
     if (number % 10 == 9)
         progress->cancel();
     QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 20'000);
-    QCOMPARE(progress->isCancelled() || progress->completedUnitCount() == progress->totalUnitCount(), true);
+    QCOMPARE(
+        progress->isCancelled() || progress->completedUnitCount() == progress->totalUnitCount(),
+        true);
 }
 
 void TestLeaks::manyInARow_leaveNothingBehind()
@@ -83,7 +85,8 @@ void TestLeaks::manyInARow_leaveNothingBehind()
     QCOMPARE(m_errors, 0);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     // The sanitizers keep freed memory back.
-    QVERIFY2(Processes::residentMemory() - memory < 2048, qPrintable(QString::number(Processes::residentMemory() - memory)));
+    QVERIFY2(Processes::residentMemory() - memory < 2048,
+        qPrintable(QString::number(Processes::residentMemory() - memory)));
 #endif
 }
 

@@ -81,8 +81,10 @@ void TestProbe::initTestCase()
     Media::film(path(u"fifteen.mkv"_s), 15);
     QVERIFY(QFile::copy(path(u"five.mp4"_s), path(u"100%d 'ü\n😀.mp4"_s)));
     QVERIFY(QFile::link(path(u"five.mp4"_s), path(u"link.mp4"_s)));
-    Media::ffmpeg({u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"3"_s, path(u"sound.mp3"_s)});
-    Media::ffmpeg({u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"0.5"_s, path(u"short.wav"_s)});
+    Media::ffmpeg(
+        { u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"3"_s, path(u"sound.mp3"_s) });
+    Media::ffmpeg(
+        { u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"0.5"_s, path(u"short.wav"_s) });
     ::mkfifo(QFile::encodeName(path(u"fifo.mp4"_s)).constData(), 0600);
     QFile text(path(u"text.mp4"_s));
     QVERIFY(text.open(QIODevice::WriteOnly) && text.write("not a film\n") > 0);
@@ -157,7 +159,8 @@ void TestProbe::unsuitableFiles_areRefused()
 
 void TestProbe::growingFile_isRefused()
 {
-    const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, R"(out:{"format":{"duration":"5.0","size":"7"}})");
+    const ToolSwap swap(
+        u"ffprobe"_s, ToolSwap::With::FakeTool, R"(out:{"format":{"duration":"5.0","size":"7"}})");
     Answer answer;
     probe(path(u"five.mp4"_s), answer);
     QTRY_COMPARE(answer.refused, 1);
@@ -188,37 +191,31 @@ void TestProbe::missingTool_isOneLineAndARefusal()
 
 void TestProbe::cover_isTakenWhereTheLengthSays()
 {
-    const QString calls = path(u"calls"_s);
-    const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "append:" + QFile::encodeName(calls));
+    const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
     Answer answer;
     probe(path(u"five.mp4"_s), answer);
     QTRY_COMPARE(answer.completed, 1);
-    QFile file(calls);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QStringList arguments = QString::fromUtf8(file.readLine()).trimmed().split(u'\t').mid(1);
+    QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
     QVERIFY(arguments.value(5).endsWith(u".jpg"_s));
     arguments[5] = u"IMAGE"_s;
     QCOMPARE(arguments,
-        (QStringList{u"-an"_s, u"-ss"_s, u"00:00:02"_s, u"-i"_s, path(u"five.mp4"_s), u"IMAGE"_s, u"-y"_s}));
+        (QStringList{ u"-an"_s, u"-ss"_s, u"00:00:02"_s, u"-i"_s, path(u"five.mp4"_s), u"IMAGE"_s,
+            u"-y"_s }));
 }
 
 void TestProbe::covers_arePrivateAndGoAtTheEnd()
 {
     // The last test: what shutDown() ends does not begin again.
-    const QString calls = path(u"calls"_s);
-    QFile::remove(calls);
     Answer answer;
     {
-        const ToolSwap swap(
-            u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|append:" + QFile::encodeName(calls));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
         probe(path(u"five.mp4"_s), answer);
         QTRY_COMPARE(answer.completed, 1);
     }
-    QFile file(calls);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QFileInfo folder(QFileInfo(QString::fromUtf8(file.readLine()).split(u'\t')[6]).path());
+    const QFileInfo folder(QFileInfo(m_lines.constLast().split(u'\t')[6]).path());
     QVERIFY(folder.isDir());
-    QCOMPARE(folder.permissions() & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
+    QCOMPARE(folder.permissions()
+            & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
         QFile::Permissions());
     // A probe whose tool is silent for ever does not hold up the program's end.
     const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");

@@ -36,10 +36,10 @@ void TestProgress::observers_hearTheirKeyOnTheWritingThread()
     progress.addObserver(Key::FractionCompleted, this, hear);
     progress.addObserver(Key::CompletedUnitCount, this, hear);
     progress.setTotalUnitCount(50);
-    QCOMPARE(heard, QList<Key>{Key::FractionCompleted});
+    QCOMPARE(heard, QList<Key>{ Key::FractionCompleted });
     heard.clear();
     progress.setCompletedUnitCount(1);
-    QCOMPARE(heard, (QList<Key>{Key::FractionCompleted, Key::CompletedUnitCount}));
+    QCOMPARE(heard, (QList<Key>{ Key::FractionCompleted, Key::CompletedUnitCount }));
 }
 
 void TestProgress::observers_areRemovedByKeyAndContext()
@@ -94,7 +94,7 @@ void TestProgress::endHandler_runsAlsoWhenSetLate()
     QVERIFY(!progress.isEnded());
     progress.end("all of it");
     progress.setEndHandler([&] { outputs += "late"; });
-    QCOMPARE(outputs, (QByteArrayList{"all of it", "late"}));
+    QCOMPARE(outputs, (QByteArrayList{ "all of it", "late" }));
 }
 
 QTEST_GUILESS_MAIN(TestProgress)

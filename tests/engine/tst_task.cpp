@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Task.h"
-
 #include "support/Bundle.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/ToolSwap.h"
@@ -13,10 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString toolPath()
-{
-    return Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s;
-}
+QString toolPath() { return Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s; }
 
 class ThrowingTask : public Task {
 public:
@@ -76,19 +72,20 @@ void TestTask::tryLaunch_reportsWhatCantBeExecuted()
     QVERIFY(!task.tryLaunch(&error));
     QCOMPARE(error.domain, u"NSInvalidArgumentException"_s);
     QCOMPARE(error.code, 0);
-    QVERIFY2(error.localizedDescription.contains(toolPath()), qPrintable(error.localizedDescription));
+    QVERIFY2(
+        error.localizedDescription.contains(toolPath()), qPrintable(error.localizedDescription));
     QVERIFY(!task.isRunning());
     QVERIFY(!task.tryLaunch());
 }
 
 void TestTask::tryLaunch_guardsOnlyInvalidArguments()
 {
-    LaunchError error{u"left from before"_s, 1, u"text"_s};
+    LaunchError error{ u"left from before"_s, 1, u"text"_s };
     ThrowingTask stranger([] { throw 42; });
     QVERIFY(stranger.tryLaunch(&error));
     QVERIFY(error.domain.isEmpty() && error.localizedDescription.isEmpty());
 
-    ThrowingTask other([] { throw LaunchException{u"NSGenericException"_s, u"why"_s}; });
+    ThrowingTask other([] { throw LaunchException{ u"NSGenericException"_s, u"why"_s }; });
     try {
         other.tryLaunch(&error);
         QFAIL("an exception of another name must go on");
@@ -100,7 +97,8 @@ void TestTask::tryLaunch_guardsOnlyInvalidArguments()
 
 void TestTask::output_ofBothStreamsIsReadInFull()
 {
-    QCOMPARE(outputOf("print:first |out:second |sleep:50|print:third"), QByteArray("first second third"));
+    QCOMPARE(outputOf("print:first |out:second |sleep:50|print:third"),
+        QByteArray("first second third"));
 }
 
 void TestTask::output_isDrainedBeforeTheTaskCountsAsEnded()
@@ -134,7 +132,8 @@ void TestTask::terminationStatus_isNeverZeroAfterASignal()
 
 void TestTask::terminate_endsADeafToolThatFloods()
 {
-    const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "deaf|print:ready|flood:100000000000");
+    const ToolSwap swap(
+        u"ffmpeg"_s, ToolSwap::With::FakeTool, "deaf|print:ready|flood:100000000000");
     Task task;
     task.setLaunchPath(toolPath());
     task.launch();
@@ -143,7 +142,8 @@ void TestTask::terminate_endsADeafToolThatFloods()
     timer.start();
     task.terminate();
     QVERIFY(!task.isRunning());
-    QVERIFY2(timer.elapsed() >= 2900 && timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() >= 2900 && timer.elapsed() < 10'000,
+        qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(Processes::children(), QStringList());
 }
 

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+/// Files that one run of a tool needs, beyond itself and the system's libraries and fonts.
+struct ToolAccess {
+    QStringList readableFiles;
+    QStringList writableFolders;
+};
+
+/// Shuts a tool in before it starts, for films are hostile input to its decoders: it reads and
+/// writes only what it was granted, opens no socket, gains no privileges and leaves no core dump.
+/// Where the kernel offers no such thing, only the last two. Thread: one; enter() runs in the child
+/// between fork and exec and does nothing that is unsafe there.
+class Sandbox {
+public:
+    Sandbox(const QString &toolPath, const ToolAccess &access);
+    ~Sandbox();
+    Q_DISABLE_COPY_MOVE(Sandbox)
+
+    /// The kernel can confine the tool's files.
+    [[nodiscard]] bool isConfining() const { return m_ruleset >= 0; }
+    /// Confines the calling process. Ends it when that fails although the kernel can.
+    void enter() const;
+
+private:
+    int m_ruleset = -1;
+};
