@@ -15,7 +15,8 @@ constexpr auto localizationSuffix = ".lproj"_L1;
 
 QString mainBundlePath()
 {
-    const QFileInfo executable(QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
+    const QFileInfo executable(
+        QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
     const QString folder = executable.path();
     return folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder;
 }
@@ -53,7 +54,8 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 QStringList Bundle::localizations() const
 {
     const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList folders = resources.entryList({u'*' + localizationSuffix}, QDir::Dirs, QDir::Name);
+    QStringList folders
+        = resources.entryList({ u'*' + localizationSuffix }, QDir::Dirs, QDir::Name);
     for (QString &folder : folders)
         folder.chop(localizationSuffix.size());
     return folders;

@@ -11,7 +11,7 @@ namespace {
 
 bool isLoopback(const QUrl &url)
 {
-    static const QStringList hosts{u"localhost"_s, u"127.0.0.1"_s, u"::1"_s};
+    static const QStringList hosts{ u"localhost"_s, u"127.0.0.1"_s, u"::1"_s };
     return url.isValid() && hosts.contains(url.host());
 }
 
@@ -25,40 +25,19 @@ QString address(const char *built, const char *variable)
 
 namespace Configuration {
 
-QString version()
-{
-    return QStringLiteral(VC_VERSION);
-}
+QString version() { return QStringLiteral(VC_VERSION); }
 
-QString collectorUrl()
-{
-    return address(VC_COLLECTOR_URL, "VIDEO_CONVERTER_COLLECTOR_URL");
-}
+QString collectorUrl() { return address(VC_COLLECTOR_URL, "VIDEO_CONVERTER_COLLECTOR_URL"); }
 
-QString feedUrl()
-{
-    return address(VC_FEED_URL, "VIDEO_CONVERTER_FEED_URL");
-}
+QString feedUrl() { return address(VC_FEED_URL, "VIDEO_CONVERTER_FEED_URL"); }
 
-QString crashUrl()
-{
-    return address(VC_CRASH_URL, "VIDEO_CONVERTER_CRASH_URL");
-}
+QString crashUrl() { return address(VC_CRASH_URL, "VIDEO_CONVERTER_CRASH_URL"); }
 
-QString siteUrl()
-{
-    return QStringLiteral(VC_SITE_URL);
-}
+QString siteUrl() { return QStringLiteral(VC_SITE_URL); }
 
-QString updateKey()
-{
-    return QStringLiteral(VC_UPDATE_KEY);
-}
+QString updateKey() { return QStringLiteral(VC_UPDATE_KEY); }
 
-QString trackingId()
-{
-    return QStringLiteral(VC_TRACKING_ID);
-}
+QString trackingId() { return QStringLiteral(VC_TRACKING_ID); }
 
 bool doNotTrack()
 {

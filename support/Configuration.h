@@ -4,9 +4,9 @@
 #include <QString>
 
 /// Addresses and identifiers fixed when the program is built; empty means the feature is off.
-/// Each address may be replaced by an environment variable, which is obeyed only when it points to a loopback address,
-/// so that nothing but a test on this machine can redirect the program.
-/// Thread: any.
+/// Each address may be replaced by an environment variable, which is obeyed only when it points to
+/// a loopback address, so that nothing but a test on this machine can redirect the program. Thread:
+/// any.
 namespace Configuration {
 
 /// Version of the program, such as "1.0.0".

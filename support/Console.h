@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+
 #include <functional>
 
 /// Plain-text diagnostic lines for developers; never shown to the user.

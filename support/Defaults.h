@@ -5,9 +5,8 @@
 #include <QVariant>
 #include <QVariantMap>
 
-/// The user's settings store under a layer of registered defaults, which are never written to disk and are consulted only
-/// when the user's store has no value.
-/// Thread: any.
+/// The user's settings store under a layer of registered defaults, which are never written to disk
+/// and are consulted only when the user's store has no value. Thread: any.
 namespace Defaults {
 
 void registerDefaults(const QVariantMap &defaults);

@@ -10,7 +10,7 @@ namespace {
 
 std::optional<struct stat> attributes(const QString &path)
 {
-    struct stat result{};
+    struct stat result { };
     if (::stat(QFile::encodeName(path).constData(), &result) != 0)
         return std::nullopt;
     return result;

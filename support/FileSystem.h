@@ -10,5 +10,6 @@
 [[nodiscard]] quint64 fileSize(const QString &path);
 /// A file of ordinary content: no folder, FIFO, socket or device.
 [[nodiscard]] bool isRegularFile(const QString &path);
-/// Both paths lead to one existing file, whatever their spelling: through links, "..", "//" or other letter case.
+/// Both paths lead to one existing file, whatever their spelling: through links, "..", "//" or
+/// other letter case.
 [[nodiscard]] bool isSameFile(const QString &path, const QString &otherPath);

@@ -31,7 +31,8 @@ QString formatted(const QString &format, const std::vector<FormatArgument> &argu
             result += u'%';
             continue;
         }
-        const std::size_t index = match.hasCaptured(2) ? match.captured(2).toUInt() - std::size_t{1} : next++;
+        const std::size_t index
+            = match.hasCaptured(2) ? match.captured(2).toUInt() - std::size_t{ 1 } : next++;
         if (index < arguments.size())
             result += textOf(arguments[index]);
     }

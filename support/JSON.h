@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-/// A read-only JSON value with lenient access: a missing member, a wrong type or bytes that are no JSON read as null.
-/// Thread: any.
+/// A read-only JSON value with lenient access: a missing member, a wrong type or bytes that are no
+/// JSON read as null. Thread: any.
 class JSON {
 public:
     JSON() = default;

@@ -37,8 +37,9 @@ namespace MainQueue {
 
 void post(std::function<void()> block)
 {
-    // The blocks are handed over under a mutex of ours and the event carries nothing, which keeps the hand-over visible to
-    // the thread sanitizer. Posting while the lock is held keeps events and blocks in one order.
+    // The blocks are handed over under a mutex of ours and the event carries nothing, which keeps
+    // the hand-over visible to the thread sanitizer. Posting while the lock is held keeps events
+    // and blocks in one order.
     const std::lock_guard lock(mutex);
     if (!QCoreApplication::instance())
         return;
@@ -49,7 +50,8 @@ void post(std::function<void()> block)
 void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)
 {
     using std::chrono::milliseconds;
-    const auto wait = std::chrono::ceil<milliseconds>(std::max(delay, std::chrono::nanoseconds::zero()));
+    const auto wait
+        = std::chrono::ceil<milliseconds>(std::max(delay, std::chrono::nanoseconds::zero()));
     post([wait, block = std::move(block)] {
         QTimer::singleShot(wait, Qt::PreciseTimer, QCoreApplication::instance(), block);
     });

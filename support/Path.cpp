@@ -40,14 +40,17 @@ QString stringByDeletingLastPathComponent(const QString &path)
 {
     const QString trimmed = withoutTrailingSeparators(path);
     const qsizetype separator = trimmed.lastIndexOf(u'/');
-    return separator < 0 ? QString() : withoutTrailingSeparators(trimmed.first(std::max<qsizetype>(separator, 1)));
+    return separator < 0
+        ? QString()
+        : withoutTrailingSeparators(trimmed.first(std::max<qsizetype>(separator, 1)));
 }
 
 QString stringByDeletingPathExtension(const QString &path)
 {
     const QString trimmed = withoutTrailingSeparators(path);
     const QString name = lastPathComponent(trimmed);
-    // A closing dot has no extension behind it, yet it is what an empty extension leaves, so it goes too.
+    // A closing dot has no extension behind it, yet it is what an empty extension leaves, so it
+    // goes too.
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot > 0 && name != u".." ? trimmed.chopped(name.size() - dot) : trimmed;
 }
@@ -68,7 +71,8 @@ QString stringByAppendingPathComponent(const QString &path, const QString &compo
     if (path.isEmpty())
         return name;
     const QString folder = withoutTrailingSeparators(path);
-    const qsizetype start = std::ranges::find_if(name, [](QChar c) { return c != u'/'; }) - name.begin();
+    const qsizetype start
+        = std::ranges::find_if(name, [](QChar c) { return c != u'/'; }) - name.begin();
     if (start == name.size())
         return folder;
     return folder + (folder.endsWith(u'/') ? u""_s : u"/"_s) + name.sliced(start);

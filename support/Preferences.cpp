@@ -27,7 +27,7 @@ QString rawValue(PreferencesKeys key)
 
 void Preferences::registerDefaults()
 {
-    Defaults::registerDefaults({{rawValue(PreferencesKeys::IsFirstRun), true}});
+    Defaults::registerDefaults({ { rawValue(PreferencesKeys::IsFirstRun), true } });
 }
 
 bool Preferences::isFirstRun()

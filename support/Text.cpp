@@ -28,14 +28,12 @@ qsizetype endOfCharacters(QStringView text, int count)
 
 namespace Text {
 
-qint64 length(QStringView text)
-{
-    return text.size();
-}
+qint64 length(QStringView text) { return text.size(); }
 
 qsizetype characterCount(QStringView text)
 {
-    // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII units in one character.
+    // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII
+    // units in one character.
     if (isAscii(text))
         return text.size() - text.count(u"\r\n");
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
@@ -55,7 +53,8 @@ QString max(const QString &text, int count)
 
 qint64 asInt(QStringView text)
 {
-    const QStringView digits = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
+    const QStringView digits
+        = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     if (digits.isEmpty() || !std::ranges::all_of(digits, isDigit))
         return 0;
@@ -64,15 +63,13 @@ qint64 asInt(QStringView text)
     return fits ? number : 0;
 }
 
-qint64 asInt64(QStringView text)
-{
-    return asInt(text);
-}
+qint64 asInt64(QStringView text) { return asInt(text); }
 
 QString stringValue(const QByteArray &bytes)
 {
     // Bytes that are no UTF-8 hold one above 0x7F, so decoding them as ASCII fails as well.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    QStringDecoder decoder(QStringDecoder::Utf8,
+        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(bytes);
     return decoder.hasError() ? QString() : text;
 }

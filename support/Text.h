@@ -12,10 +12,11 @@ namespace Text {
 [[nodiscard]] qint64 length(QStringView text);
 /// Number of characters.
 [[nodiscard]] qsizetype characterCount(QStringView text);
-/// The text, or when it has more than `count` UTF-16 units its first `count` - 1 characters and an ellipsis.
-/// A text of at most `count` characters is returned whole. `count` is at least 1.
+/// The text, or when it has more than `count` UTF-16 units its first `count` - 1 characters and an
+/// ellipsis. A text of at most `count` characters is returned whole. `count` is at least 1.
 [[nodiscard]] QString max(const QString &text, int count);
-/// A decimal number with at most one sign and nothing else around it; 0 for everything else, also beyond 64 bits.
+/// A decimal number with at most one sign and nothing else around it; 0 for everything else, also
+/// beyond 64 bits.
 [[nodiscard]] qint64 asInt(QStringView text);
 [[nodiscard]] qint64 asInt64(QStringView text);
 /// The bytes as UTF-8, else as ASCII, else empty text.
