@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+
+class QLabel;
+class QPushButton;
+
+/// The about box: icon, name and version of the program, credits and a way to its web site. Closed,
+/// it is hidden only.
+class AboutWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    AboutWindow();
+
+    /// Plain text below the version; empty text takes no room.
+    void setCredits(const QString &credits);
+    /// What the web-site button does. The button shows only when there are a handler and a site.
+    void setOpenWebsiteHandler(const std::function<void()> &handler);
+    /// Shows the box and brings it to the front.
+    void showWindow();
+
+private:
+    QLabel *m_credits;
+    QPushButton *m_website;
+    std::function<void()> m_openWebsite;
+};

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "support/dialogs/SaveSheet.h"
+
+#include "support/Format.h"
+#include "support/Localized.h"
+#include "support/Path.h"
+#include "support/dialogs/Alerts.h"
+
+#include <QFileInfo>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(LocalizedText text, const char *english)
+{
+    text.fallback = english;
+    return localized(text);
+}
+
+QString withExtension(const QString &path, const QString &extension)
+{
+    if (Path::pathExtension(path).compare(extension, Qt::CaseInsensitive) == 0)
+        return path;
+    return path.endsWith(u'.') ? path + extension : path + u'.' + extension;
+}
+
+bool mayReplace(const QString &path)
+{
+    return displayQuestion(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+                                         "“%@” already exists. Do you want to replace it?",
+                                         "question of the save panel, with the name of a file")),
+        { Path::lastPathComponent(path) }));
+}
+
+}
+
+SaveSheet::SaveSheet(
+    QWidget *window, const QString &folder, const QString &filename, QString extension)
+    : QFileDialog(window,
+        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
+            "Convert"),
+        folder)
+    , m_extension(std::move(extension))
+{
+    setAcceptMode(AcceptSave);
+    setFileMode(AnyFile);
+    setNameFilter(u"*."_s + m_extension);
+    setLabelText(Accept,
+        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelPrompt", "prompt for save panel"),
+            "Convert"));
+    setLabelText(FileName,
+        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
+                 "name label for save panel (<= 15 symbols)"),
+            "Result filename:"));
+    selectFile(filename + u'.' + m_extension);
+}
+
+void SaveSheet::accept()
+{
+    // A dialog of the desktop is hidden by now and has asked about an existing file of the name as
+    // it was typed.
+    const bool isNative = testAttribute(Qt::WA_DontShowOnScreen);
+    const QString chosen = isNative ? selectedFiles().value(0) : typedPath();
+    if (chosen.isEmpty())
+        return;
+    if (QFileInfo(chosen).isDir() && !isNative) {
+        setDirectory(chosen);
+        return;
+    }
+    const QString path = withExtension(chosen, m_extension);
+    const bool isAgreed = (isNative && path == chosen) || !QFileInfo::exists(path);
+    if (QFileInfo(path).isDir() || !(isAgreed || mayReplace(path))) {
+        if (isNative)
+            comeAgain(path);
+        return;
+    }
+    m_path = path;
+    QDialog::accept();
+}
+
+// The dialog's own reading of the field takes quotation marks for separators of several names.
+QString SaveSheet::typedPath() const
+{
+    const QString name = findChild<QLineEdit *>(u"fileNameEdit"_s)->text();
+    if (name.isEmpty())
+        return {};
+    if (name.startsWith("~/"_L1))
+        return QDir::homePath() + name.sliced(1);
+    return QDir::cleanPath(directory().absoluteFilePath(name));
+}
+
+void SaveSheet::comeAgain(const QString &path)
+{
+    hide();
+    const auto show = [this, path] {
+        selectFile(path);
+        open();
+    };
+    QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "support/dialogs/Sheets.h"
+
+#include "support/Defaults.h"
+#include "support/Path.h"
+#include "support/dialogs/SaveSheet.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString lastOpenFolder = u"LastOpenFolder"_s;
+const QString lastSaveFolder = u"LastSaveFolder"_s;
+
+QString rememberedFolder(const QString &key, const QString &otherwise)
+{
+    const QString folder = Defaults::value(key).toString();
+    return !folder.isEmpty() && QDir(folder).exists() ? folder : otherwise;
+}
+
+void rememberFolderOf(const QString &path, const QString &key)
+{
+    Defaults::setValue(key, Path::stringByDeletingLastPathComponent(path));
+}
+
+}
+
+void runChooseSheet(
+    QWidget *window, bool files, const std::function<void(const QString &path)> &path)
+{
+    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    auto *sheet = new QFileDialog(window, {}, rememberedFolder(lastOpenFolder, movies));
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setAcceptMode(QFileDialog::AcceptOpen);
+    sheet->setFileMode(files ? QFileDialog::ExistingFile : QFileDialog::Directory);
+    sheet->setOption(QFileDialog::ShowDirsOnly, !files);
+    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] {
+        const QStringList chosen = sheet->selectedFiles();
+        if (chosen.isEmpty())
+            return;
+        rememberFolderOf(chosen.first(), lastOpenFolder);
+        path(chosen.first());
+    });
+    sheet->open();
+}
+
+void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
+    const std::function<void(const QString &path)> &path, const QString &startFolder)
+{
+    auto *sheet = new SaveSheet(window, saveFolder(startFolder), filename, ext);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] {
+        rememberFolderOf(sheet->path(), lastSaveFolder);
+        path(sheet->path());
+    });
+    sheet->open();
+}
+
+QString saveFolder(const QString &startFolder)
+{
+    return rememberedFolder(lastSaveFolder, startFolder);
+}

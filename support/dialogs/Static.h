@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class AboutWindow;
+
+/// Values of the whole process, each made once, by its first reader.
+class Static {
+public:
+    Static() = delete;
+
+    /// Reserved for one-time initialisation.
+    static inline int onceToken = 0;
+    /// The one about box; it goes with the application object. Thread: main.
+    [[nodiscard]] static AboutWindow &aboutWindow();
+    /// The vendor's web site in the user's language; empty when there is none. Thread: any.
+    [[nodiscard]] static const QString &applicationURL();
+
+    /// Address of the site at `root` for a language, given the languages that the program is
+    /// translated into. Only Russian has a site of its own. Prints a line when the language is one
+    /// of them.
+    [[nodiscard]] static QString siteAddress(const QString &root,
+        const std::optional<QString> &languageCode, const QStringList &localizations);
+};
