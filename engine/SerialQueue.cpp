@@ -9,9 +9,18 @@
 
 namespace {
 
-std::mutex threadsMutex;
-std::condition_variable threadsChanged;
-int threads = 0;
+// Never destroyed: a thread's very last act, telling of its end, may come after the main thread has seen the count.
+struct Threads {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+};
+
+Threads &threads()
+{
+    static Threads &running = *new Threads;
+    return running;
+}
 
 void nameThread(const QString &label)
 {
@@ -72,20 +81,20 @@ void SerialQueue::submit(std::function<void()> block)
         return;
     m_state->started = true;
     {
-        const std::lock_guard threadsLock(threadsMutex);
-        ++threads;
+        const std::lock_guard threadsLock(threads().mutex);
+        ++threads().count;
     }
     std::thread([state = m_state, label = m_label] {
         nameThread(label);
         state->runAll();
-        std::unique_lock threadsLock(threadsMutex);
-        --threads;
-        std::notify_all_at_thread_exit(threadsChanged, std::move(threadsLock));
+        std::unique_lock threadsLock(threads().mutex);
+        --threads().count;
+        std::notify_all_at_thread_exit(threads().changed, std::move(threadsLock));
     }).detach();
 }
 
 void SerialQueue::waitForAll()
 {
-    std::unique_lock lock(threadsMutex);
-    threadsChanged.wait(lock, [] { return threads == 0; });
+    std::unique_lock lock(threads().mutex);
+    threads().changed.wait(lock, [] { return threads().count == 0; });
 }
