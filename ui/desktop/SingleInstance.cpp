@@ -15,8 +15,6 @@
 #include <algorithm>
 #include <chrono>
 #include <optional>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,25 +27,10 @@ constexpr auto longestWait = 900ms;
 constexpr auto longestSilence = 5s;
 const QByteArray taken = "taken\n"_ba;
 
-/// A folder that only this user reaches; empty when there is none.
-QString privateFolder()
-{
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (!runtime.isEmpty() && QFileInfo(runtime).isWritable())
-        return runtime;
-    const QString folder = u"%1/video-converter-%2"_s.arg(QDir::tempPath()).arg(::getuid());
-    const QByteArray name = QFile::encodeName(folder);
-    ::mkdir(name.constData(), S_IRWXU);
-    struct stat status { };
-    const bool mine = ::lstat(name.constData(), &status) == 0 && S_ISDIR(status.st_mode)
-        && status.st_uid == ::getuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
-    return mine ? folder : QString();
-}
-
 /// Where the instances of one user on one display meet; empty when they can't.
 QString meetingPlace()
 {
-    const QString folder = privateFolder();
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     const QByteArray session = qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY");
     const QByteArray digest = QCryptographicHash::hash(session, QCryptographicHash::Sha256).toHex();
     return folder.isEmpty()

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <memory>
+#include <pwd.h>
+#include <unistd.h>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void say(const QString &line)
+{
+    std::puts(line.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+/// What the program does at its start, with words instead of a window.
+int runInstance(const QStringList &files)
+{
+    SingleInstance instance;
+    QObject::connect(&instance, &SingleInstance::filesReceived, [](const QStringList &paths) {
+        say(u"received "_s + paths.join(u'|').replace(u'\n', u'$'));
+    });
+    if (instance.handOver(files)) {
+        say(u"handed over"_s);
+        return 0;
+    }
+    say(u"running"_s);
+    return QCoreApplication::exec();
+}
+
+struct Place {
+    QString runtimeFolder;
+    QString temporaryFolder;
+    QString display = u":1"_s;
+};
+
+/// A second process of this program that runs runInstance().
+class Instance {
+public:
+    explicit Instance(const Place &place, const QStringList &files = {})
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DISPLAY"_s, place.display);
+        environment.insert(u"XDG_RUNTIME_DIR"_s, place.runtimeFolder);
+        environment.insert(u"TMPDIR"_s, place.temporaryFolder);
+        process.setProcessEnvironment(environment);
+        process.start(
+            QCoreApplication::applicationFilePath(), QStringList{ u"--instance"_s } + files);
+    }
+    ~Instance()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(Instance)
+
+    QStringList lines()
+    {
+        m_output += process.readAllStandardOutput();
+        return QString::fromUtf8(m_output).split(u'\n', Qt::SkipEmptyParts);
+    }
+    void signal(int number) const { ::kill(static_cast<pid_t>(process.processId()), number); }
+
+    QProcess process;
+
+private:
+    QByteArray m_output;
+};
+
+const QStringList running{ u"running"_s };
+const QStringList handedOver{ u"handed over"_s };
+
+}
+
+class TestSingleInstance : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void secondStart_handsFilesOver_data();
+    void secondStart_handsFilesOver();
+    void secondStart_onOtherDisplayRuns();
+    void secondStart_recoversFromKilledInstance();
+    void secondStart_doesNotWaitForHangingInstance();
+    void startsAtOnce_leaveOneRunning();
+    void start_withoutPrivateFolderIsOnItsOwn();
+    void hostilePeer_isDropped_data();
+    void hostilePeer_isDropped();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    Place m_place;
+};
+
+void TestSingleInstance::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_place = { .runtimeFolder = m_folder->path(), .temporaryFolder = m_folder->path() };
+}
+
+void TestSingleInstance::secondStart_handsFilesOver_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("received");
+    QTest::newRow("none") << QStringList() << QString();
+    QTest::newRow("absolute") << QStringList{ u"/films/a.mp4"_s, u"/films/b.mp4"_s }
+                              << u"/films/a.mp4|/films/b.mp4"_s;
+    QTest::newRow("relative") << QStringList{ u"a.mp4"_s } << u"%1/a.mp4"_s;
+    QTest::newRow("odd") << QStringList{ u"/f/new\nline \u00fc\"%d.mp4"_s }
+                         << u"/f/new$line \u00fc\"%d.mp4"_s;
+}
+
+void TestSingleInstance::secondStart_handsFilesOver()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QString, received);
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    Instance second(m_place, files);
+    QTRY_COMPARE(second.lines(), handedOver);
+    QTRY_COMPARE(
+        first.lines().value(1), u"received "_s + received.replace(u"%1"_s, QDir::currentPath()));
+    QTRY_COMPARE(second.process.state(), QProcess::NotRunning);
+    QCOMPARE(second.process.exitCode(), 0);
+}
+
+void TestSingleInstance::secondStart_onOtherDisplayRuns()
+{
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    m_place.display = u":2"_s;
+    Instance second(m_place, { u"/films/a.mp4"_s });
+    QTRY_COMPARE(second.lines(), running);
+    QCOMPARE(first.lines(), running);
+}
+
+void TestSingleInstance::secondStart_recoversFromKilledInstance()
+{
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    first.signal(SIGKILL);
+    QVERIFY(first.process.waitForFinished());
+    Instance second(m_place);
+    QTRY_COMPARE(second.lines(), running);
+    Instance third(m_place, { u"/films/a.mp4"_s });
+    QTRY_COMPARE(third.lines(), handedOver);
+    QTRY_COMPARE(second.lines().value(1), u"received /films/a.mp4"_s);
+}
+
+void TestSingleInstance::secondStart_doesNotWaitForHangingInstance()
+{
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    first.signal(SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    Instance second(m_place, { u"/films/a.mp4"_s });
+    QTRY_COMPARE(second.lines(), running);
+    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+    first.signal(SIGCONT);
+    Instance third(m_place, { u"/films/b.mp4"_s });
+    QTRY_COMPARE(third.lines(), handedOver);
+}
+
+void TestSingleInstance::startsAtOnce_leaveOneRunning()
+{
+    std::vector<std::unique_ptr<Instance>> instances;
+    for (int number = 0; number < 4; ++number)
+        instances.push_back(std::make_unique<Instance>(m_place));
+    for (const auto &instance : instances)
+        QTRY_VERIFY(!instance->lines().isEmpty());
+    const auto count = std::count_if(instances.cbegin(), instances.cend(),
+        [](const auto &instance) { return instance->lines().value(0) == running.constFirst(); });
+    QCOMPARE(count, 1);
+}
+
+void TestSingleInstance::start_withoutPrivateFolderIsOnItsOwn()
+{
+    const QFile::Permissions everybody = QFile::Permissions::fromInt(0x7777);
+    const QString user = QString::fromLocal8Bit(::getpwuid(::geteuid())->pw_name);
+    m_place.temporaryFolder = m_folder->filePath(u"tmp"_s);
+    const QString substitute = m_place.temporaryFolder + "/runtime-"_L1 + user;
+    QVERIFY(QDir().mkpath(substitute) && QFile::setPermissions(substitute, everybody));
+    QVERIFY(QFile::setPermissions(m_place.runtimeFolder, everybody));
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    Instance second(m_place);
+    QTRY_COMPARE(second.lines(), running);
+}
+
+void TestSingleInstance::hostilePeer_isDropped_data()
+{
+    QTest::addColumn<QByteArray>("request");
+    QTest::newRow("nonsense") << QByteArray("\x00\xff\xfe nonsense\n", 13);
+    QTest::newRow("empty line") << QByteArray("\n");
+    QTest::newRow("object") << QByteArray("{\"a\":1}\n");
+    QTest::newRow("numbers") << QByteArray("[1,2]\n");
+    QTest::newRow("relative path") << QByteArray("[\"/films/a.mp4\",\"b.mp4\"]\n");
+    QTest::newRow("deep") << QByteArray(100000, '[') + '\n';
+    QTest::newRow("too long") << QByteArray((1 << 20) + 2, 'x');
+}
+
+void TestSingleInstance::hostilePeer_isDropped()
+{
+    QFETCH(QByteArray, request);
+    Instance first(m_place);
+    QTRY_COMPARE(first.lines(), running);
+    const QStringList sockets
+        = QDir(m_folder->path()).entryList({ u"video-converter-*"_s }, QDir::System);
+    QCOMPARE(sockets.size(), 1);
+    QLocalSocket peer;
+    peer.connectToServer(m_folder->filePath(sockets.constFirst()));
+    QVERIFY(peer.waitForConnected());
+    peer.write(request);
+    QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(peer.readAll(), QByteArray());
+    Instance second(m_place, { u"/films/a.mp4"_s });
+    QTRY_COMPARE(second.lines(), handedOver);
+    QTRY_COMPARE(first.lines().value(1), u"received /films/a.mp4"_s);
+}
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--instance")
+        return runInstance(arguments.mid(2));
+    TestSingleInstance test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_single_instance.moc"

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// Untested: what the window asks of the desktop, on macOS. The percentage and the notification are
+// not shown there yet.
+#include "ui/desktop/DesktopNotification.h"
+#include "ui/desktop/FileBrowser.h"
+#include "ui/desktop/KeepAwake.h"
+#include "ui/desktop/LauncherProgress.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QProcess>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace FileBrowser {
+
+void reveal(const QString &filePath)
+{
+    QProcess::startDetached(
+        u"/usr/bin/open"_s, { u"-R"_s, filePath }, QFileInfo(filePath).absolutePath());
+}
+
+void openFolder(const QString &folderPath)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(folderPath));
+}
+
+}
+
+struct KeepAwake::Hold {
+    QProcess process;
+};
+
+KeepAwake::KeepAwake() = default;
+KeepAwake::~KeepAwake() { stop(); }
+
+void KeepAwake::start(const QString & /*reason*/)
+{
+    stop();
+    m_hold = std::make_shared<Hold>();
+    // It ends with this program, however that ends.
+    m_hold->process.start(u"/usr/bin/caffeinate"_s,
+        { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
+}
+
+void KeepAwake::stop()
+{
+    if (m_hold)
+        m_hold->process.kill();
+    m_hold.reset();
+}
+
+void LauncherProgress::show(double /*fraction*/) { }
+void LauncherProgress::finish() { }
+void LauncherProgress::clear() { }
+
+void DesktopNotification::show(const QString & /*title*/, const QString & /*text*/) { }
+void DesktopNotification::close() { }
+void DesktopNotification::actionInvoked(uint /*id*/, const QString & /*action*/) { }
