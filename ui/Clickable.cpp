@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ui/Clickable.h"
+
+#include "ui/ImageView.h"
+#include "ui/TextField.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+/// A view that listens to clicks, as a button; one that does not, as what it shows.
+class ClickableInterface : public QAccessibleWidget {
+public:
+    ClickableInterface(QWidget *view, QAccessible::Role passiveRole)
+        : QAccessibleWidget(
+            view, view->focusPolicy() == Qt::NoFocus ? passiveRole : QAccessible::PushButton)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const auto *label = qobject_cast<TextField *>(widget());
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() && label ? label->text() : text;
+    }
+
+    QStringList actionNames() const override
+    {
+        return role() == QAccessible::PushButton ? QStringList{ pressAction() }
+                                                 : QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            QMetaObject::invokeMethod(widget(), "clicked", Qt::QueuedConnection);
+        else
+            QAccessibleWidget::doAction(name);
+    }
+};
+
+QAccessibleInterface *makeInterface(const QString &, QObject *object)
+{
+    if (auto *image = qobject_cast<ImageView *>(object))
+        return new ClickableInterface(image, QAccessible::Graphic);
+    if (auto *label = qobject_cast<TextField *>(object))
+        return new ClickableInterface(label, QAccessible::StaticText);
+    return nullptr;
+}
+
+}
+
+void Clickable::enable(QWidget *view)
+{
+    view->setFocusPolicy(Qt::StrongFocus);
+    view->setAttribute(Qt::WA_Hover);
+}
+
+bool Clickable::isActivation(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return
+        || event.key() == Qt::Key_Enter;
+}
+
+bool Clickable::changesLook(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+    case QEvent::PaletteChange:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Clickable::paintFocus(QPainter &painter, const QWidget &view)
+{
+    if (!view.hasFocus() || !view.window()->testAttribute(Qt::WA_KeyboardFocusChange))
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(view.palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(view.rect()).adjusted(1, 1, -1, -1), 8, 8);
+}
+
+void Clickable::installAccessibility() { QAccessible::installFactory(makeInterface); }

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+namespace Color {
+
+/// A colour whose components are the whole-number quotients of 1 and the given ones: 1 gives full
+/// intensity, every greater value none. Errors: a component of 0 stops the program.
+[[nodiscard]] inline QColor rgb(quint8 r, quint8 g, quint8 b)
+{
+    const auto component = [](quint8 value) {
+        if (value == 0)
+            qFatal("a colour component of 0 can't be inverted");
+        return static_cast<float>(1 / value);
+    };
+    return QColor::fromRgbF(component(r), component(g), component(b), 1.0F);
+}
+
+}

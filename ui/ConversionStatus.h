@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/TimeLeft.h"
+#include "ui/WindowUIState.h"
+#include "ui/desktop/DesktopNotification.h"
+#include "ui/desktop/KeepAwake.h"
+#include "ui/desktop/LauncherProgress.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+class QLabel;
+
+/// What tells of a conversion outside of the bar: the window's title, the task bar, the time left,
+/// a notification; and what keeps the machine awake for it. Thread: main.
+class ConversionStatus : public QObject {
+    Q_OBJECT
+
+public:
+    /// The label shows the percentage and the time left.
+    ConversionStatus(QWidget *window, QLabel *timeLeftLabel);
+
+    /// The window has gone from one state into another one.
+    void stateChanged(WindowUIState from, WindowUIState to);
+    /// A fraction of 0 to 1, negative while the length is unknown. Cheap enough for thousands of
+    /// calls a second.
+    void setFraction(double fraction);
+    /// Tells the user, unless the window is in front.
+    void notify(const QString &title, const QString &text);
+
+Q_SIGNALS:
+    void notificationActivated();
+
+private:
+    void start();
+    void stop();
+    void showPercent(int percent);
+    void showTimeLeft();
+
+    QWidget *m_window;
+    QLabel *m_timeLeftLabel;
+    QString m_title;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    TimeLeft m_timeLeft;
+    double m_fraction = -1;
+    int m_percent = -1;
+    KeepAwake m_keepAwake;
+    LauncherProgress m_launcher;
+    DesktopNotification m_notification;
+};

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/ConvertPopupButtonCell.h"
+
+#include <QPushButton>
+
+/// Opens the format menu; its face is drawn by its cell and never shows the chosen item.
+/// Thread: main.
+class ConvertPopupButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit ConvertPopupButton(QWidget *parent = nullptr);
+
+    [[nodiscard]] ConvertPopupButtonCell &cell() { return m_cell; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    [[nodiscard]] QColor faceColor() const;
+    void paintIndicator(QPainter &painter);
+
+    ConvertPopupButtonCell m_cell;
+};

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ImageView.h"
+
+#include "ui/Clickable.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QSvgRenderer>
+
+namespace {
+
+constexpr double cornerRadius = 12;
+/// Height of a line of text for which drawings have their own size.
+constexpr double referenceTextHeight = 17;
+
+QRectF centred(const QSizeF &size, const QRectF &area)
+{
+    return { area.center() - QPointF(size.width(), size.height()) / 2, size };
+}
+
+}
+
+ImageView::ImageView(QWidget *parent)
+    : QWidget(parent)
+{
+}
+
+void ImageView::setImage(const QImage &image)
+{
+    m_image = image;
+    m_scaled = {};
+    update();
+}
+
+void ImageView::setArtwork(const QString &resource)
+{
+    m_artwork = resource;
+    m_artworkSize = QSvgRenderer(resource).defaultSize();
+    updateGeometry();
+    update();
+}
+
+void ImageView::setTinted(bool tinted)
+{
+    m_tinted = tinted;
+    update();
+}
+
+QSize ImageView::sizeHint() const
+{
+    return (m_artworkSize * (fontMetrics().height() / referenceTextHeight)).toSize();
+}
+
+QSize ImageView::minimumSizeHint() const
+{
+    return sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? sizeHint() : QSize(1, 1);
+}
+
+void ImageView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked();
+}
+
+void ImageView::keyPressEvent(QKeyEvent *event)
+{
+    if (Clickable::isActivation(*event))
+        Q_EMIT clicked();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+bool ImageView::event(QEvent *event)
+{
+    if (Clickable::changesLook(*event))
+        update();
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    return QWidget::event(event);
+}
+
+void ImageView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    if (!m_image.isNull())
+        paintImage(painter);
+    else if (!m_artwork.isEmpty())
+        paintArtwork(painter);
+    Clickable::paintFocus(painter, *this);
+}
+
+void ImageView::paintArtwork(QPainter &painter)
+{
+    const QSizeF size = m_artworkSize.scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
+    const QRectF target = centred(size, rect());
+    QSvgRenderer drawing(m_artwork);
+    if (!m_tinted)
+        return drawing.render(&painter, target);
+    QPixmap tinted((size * devicePixelRatio()).toSize());
+    tinted.fill(Qt::transparent);
+    QPainter tinter(&tinted);
+    drawing.render(&tinter);
+    tinter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    const bool hovered = underMouse() && isEnabled();
+    tinter.fillRect(
+        tinted.rect(), palette().color(hovered ? QPalette::Highlight : foregroundRole()));
+    tinter.end();
+    painter.drawPixmap(target, tinted, tinted.rect());
+}
+
+void ImageView::paintImage(QPainter &painter)
+{
+    const QSize deviceSize = (QSizeF(size()) * devicePixelRatio()).toSize();
+    const QPixmap &picture = scaledImage(m_image.size().scaled(deviceSize, Qt::KeepAspectRatio));
+    const QSizeF pictureSize = QSizeF(picture.size()) / devicePixelRatio();
+    const QRectF target = centred(pictureSize, rect());
+    QPainterPath corners;
+    corners.addRoundedRect(rect(), cornerRadius, cornerRadius);
+    QPainterPath outline;
+    outline.addRect(target);
+    QBrush brush(picture);
+    brush.setTransform(QTransform::fromTranslate(target.x(), target.y())
+                           .scale(1 / devicePixelRatio(), 1 / devicePixelRatio()));
+    painter.fillPath(outline.intersected(corners), brush);
+}
+
+const QPixmap &ImageView::scaledImage(const QSize &deviceSize)
+{
+    if (m_scaled.size() != deviceSize)
+        m_scaled = QPixmap::fromImage(
+            m_image.scaled(deviceSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return m_scaled;
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ProgressBar.h"
+
+#include <QPainter>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// Fine enough to move by less than a pixel in any window.
+constexpr int steps = 10000;
+constexpr int busyFrameMilliseconds = 40;
+constexpr int busyFrames = 45;
+constexpr double busyWidth = 0.3;
+
+}
+
+ProgressBar::ProgressBar(QWidget *parent)
+    : QProgressBar(parent)
+    , m_busyTimer(new QTimer(this))
+{
+    setRange(0, steps);
+    setTextVisible(false);
+    m_busyTimer->setInterval(busyFrameMilliseconds);
+    connect(m_busyTimer, &QTimer::timeout, this, [this] {
+        m_busyStep = (m_busyStep + 1) % busyFrames;
+        update();
+    });
+}
+
+void ProgressBar::setDoubleValue(double value)
+{
+    m_doubleValue = value;
+    if (!isBusy())
+        setValue(static_cast<int>(std::clamp(value, 0.0, 1.0) * steps));
+}
+
+void ProgressBar::setBusy(bool busy)
+{
+    if (busy == isBusy())
+        return;
+    setRange(0, busy ? 0 : steps);
+    busy ? m_busyTimer->start() : m_busyTimer->stop();
+    setDoubleValue(m_doubleValue);
+    update();
+}
+
+QSize ProgressBar::sizeHint() const
+{
+    return { fontMetrics().height() * 6, std::max(10, fontMetrics().height() / 2) };
+}
+
+void ProgressBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double thickness = std::min(8.0, double(height()));
+    const QRectF groove(0, (height() - thickness) / 2, width(), thickness);
+    const double radius = thickness / 2;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Mid));
+    painter.drawRoundedRect(groove, radius, radius);
+    painter.setBrush(palette().color(QPalette::Highlight));
+    QRectF filled = groove;
+    if (isBusy()) {
+        const double position = double(m_busyStep) / busyFrames;
+        filled.setWidth(groove.width() * busyWidth);
+        filled.moveLeft((groove.width() + filled.width()) * position - filled.width());
+        filled = filled.intersected(groove);
+    } else {
+        filled.setWidth(groove.width() * std::clamp(m_doubleValue, 0.0, 1.0));
+    }
+    if (filled.width() < 1)
+        return;
+    if (layoutDirection() == Qt::RightToLeft)
+        filled.moveRight(groove.width() - filled.left());
+    painter.drawRoundedRect(
+        filled.adjusted(0, 0, std::max(0.0, thickness - filled.width()), 0), radius, radius);
+}

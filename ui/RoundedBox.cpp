@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "ui/RoundedBox.h"
+
+#include <QPainter>
+
+void RoundedBox::setDashed(bool dashed)
+{
+    m_dashed = dashed;
+    update();
+}
+
+void RoundedBox::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(palette().color(backgroundRole()));
+    painter.setPen(Qt::NoPen);
+    double inset = 0;
+    if (m_dashed) {
+        inset = 1;
+        painter.setPen(QPen(palette().color(QPalette::Mid), 2, Qt::DashLine, Qt::RoundCap));
+    }
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 12, 12);
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QBasicTimer>
+#include <QColor>
+#include <QWidget>
+
+/// Shows that work of unknown length goes on. Nothing is painted while it does not spin.
+/// Thread: main.
+class SpinningView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SpinningView(QWidget *parent = nullptr);
+
+    [[nodiscard]] bool spinning() const { return m_spinning; }
+    void setSpinning(bool spinning);
+    [[nodiscard]] const QColor &spinColor() const { return m_spinColor; }
+    void setSpinColor(const QColor &color);
+    /// The picture moves.
+    [[nodiscard]] bool isAnimating() const { return m_timer.isActive(); }
+
+    /// Called once when the view is about to be shown first; before that nothing moves.
+    void awakeFromNib();
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void animate();
+
+    QBasicTimer m_timer;
+    QColor m_spinColor = Qt::black;
+    int m_step = 0;
+    bool m_spinning = false;
+    bool m_awake = false;
+};

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "ui/TextField.h"
+
+#include "ui/Clickable.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto cursorKey = "_cursor";
+
+/// A name may hold line breaks and other controls; it still takes one line.
+QString onOneLine(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
+            || character == QChar::ParagraphSeparator)
+            character = u' ';
+    }
+    return text;
+}
+
+}
+
+TextField::TextField(QWidget *parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void TextField::setElided(bool elided)
+{
+    m_elided = elided;
+    updateGeometry();
+}
+
+void TextField::setDimmed(bool dimmed)
+{
+    m_dimmed = dimmed;
+    setForegroundRole(dimmed ? QPalette::PlaceholderText : QPalette::WindowText);
+}
+
+void TextField::resetCursorRects()
+{
+    if (property(cursorKey).toString() == "pointingHandCursor"_L1)
+        setCursor(Qt::PointingHandCursor);
+    else
+        unsetCursor();
+}
+
+QSize TextField::minimumSizeHint() const
+{
+    const QSize hint = QLabel::minimumSizeHint();
+    return m_elided ? QSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height()) : hint;
+}
+
+void TextField::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked();
+    resetCursorRects();
+}
+
+void TextField::keyPressEvent(QKeyEvent *event)
+{
+    if (Clickable::isActivation(*event))
+        Q_EMIT clicked();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+bool TextField::event(QEvent *event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange)
+        resetCursorRects();
+    if (Clickable::changesLook(*event))
+        update();
+    return QLabel::event(event);
+}
+
+void TextField::paintEvent(QPaintEvent *event)
+{
+    if (!m_elided && receivers(SIGNAL(clicked())) == 0)
+        return QLabel::paintEvent(event);
+    QPainter painter(this);
+    QFont textFont = font();
+    textFont.setUnderline(underMouse() && receivers(SIGNAL(clicked())) > 0);
+    painter.setFont(textFont);
+    const QRect area = contentsRect();
+    const QString shown
+        = fontMetrics().elidedText(onOneLine(text()), Qt::ElideMiddle, area.width());
+    style()->drawItemText(&painter, area, static_cast<int>(alignment()) | Qt::TextSingleLine,
+        palette(), isEnabled(), shown, foregroundRole());
+    Clickable::paintFocus(painter, *this);
+}

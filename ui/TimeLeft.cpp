@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "ui/TimeLeft.h"
+
+#include <cmath>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The speed is that of the last moments, as films have easy and hard stretches.
+constexpr TimeLeft::Duration span = 12s;
+constexpr TimeLeft::Duration shortestSpan = 3s;
+/// The speeds of the older and the newer half differ by no more than this part.
+constexpr double tolerance = 0.35;
+
+std::chrono::seconds rounded(double milliseconds)
+{
+    const double seconds = milliseconds / 1000;
+    const double step = seconds < 60 ? 5 : seconds < 600 ? 10 : 60;
+    return std::chrono::seconds(std::llround(std::ceil(seconds / step) * step));
+}
+
+}
+
+void TimeLeft::add(Duration elapsed, double fraction)
+{
+    if (!m_samples.empty() && fraction < m_samples.back().fraction)
+        m_samples.clear();
+    m_samples.push_back({ elapsed, fraction });
+    while (m_samples.front().elapsed < elapsed - span)
+        m_samples.pop_front();
+}
+
+double TimeLeft::remainingMilliseconds(const Sample &from, const Sample &to) const
+{
+    const double speed
+        = (to.fraction - from.fraction) / double((to.elapsed - from.elapsed).count());
+    return (1 - m_samples.back().fraction) / speed;
+}
+
+std::optional<std::chrono::seconds> TimeLeft::estimate() const
+{
+    if (m_samples.size() < 5 || m_samples.back().fraction >= 1)
+        return std::nullopt;
+    const Sample &first = m_samples.front();
+    const Sample &middle = m_samples[m_samples.size() / 2];
+    const Sample &last = m_samples.back();
+    if (last.elapsed - first.elapsed < shortestSpan)
+        return std::nullopt;
+    const double older = remainingMilliseconds(first, middle);
+    const double newer = remainingMilliseconds(middle, last);
+    const double whole = remainingMilliseconds(first, last);
+    const bool steady = std::isfinite(whole) && std::abs(older - newer) <= tolerance * whole;
+    if (!steady || whole > 1000.0 * 3600 * 100)
+        return std::nullopt;
+    return rounded(whole);
+}
