@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "support/Translation.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool agrees(const QLocale &locale, const QString &localization)
+{
+    const QLocale other(localization);
+    return locale.language() == other.language() && locale.script() == other.script();
+}
+
+}
+
+namespace Translation {
+
+QString language(const QStringList &wanted, const QStringList &localizations)
+{
+    for (const QString &each : wanted) {
+        const QLocale locale(each);
+        if (localizations.contains(each))
+            return each;
+        for (const QString &localization : localizations) {
+            if (agrees(locale, localization))
+                return localization;
+        }
+        if (locale.language() == QLocale::English || locale.language() == QLocale::C)
+            break;
+    }
+    return u"en"_s;
+}
+
+void install(const Bundle &bundle)
+{
+    const QString chosen = language(QLocale::system().uiLanguages(), bundle.localizations());
+    auto *toolkit = new QTranslator(QCoreApplication::instance());
+    if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(toolkit);
+    auto *ours = new QTranslator(QCoreApplication::instance());
+    if (ours->load(bundle.localizationPath(chosen) + u"/video-converter.qm"_s))
+        QCoreApplication::installTranslator(ours);
+}
+
+}
