@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QObject>
+
+#include <functional>
+
+/// Sends texts to the service that takes crash reports.
+/// Thread: the main one.
+class CrashService : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    /// Whether anything may be sent at all: an address is built in, the user has not asked to be
+    /// left alone.
+    [[nodiscard]] static bool isConfigured();
+    /// The user's standing answer that everything may be sent.
+    [[nodiscard]] static bool mayAlwaysSend();
+    static void setMayAlwaysSend();
+
+    /// Posts one text and tells whether the service took it, after 20 s at most.
+    void post(const QByteArray &text, std::function<void(bool taken)> done);
+
+private:
+    QNetworkAccessManager m_network;
+};

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+/// Writes text with write(2) alone, as a signal handler must: no memory, no locks.
+/// Errors: what can't be written is left out.
+class ReportWriter {
+public:
+    explicit ReportWriter(int descriptor);
+
+    ReportWriter &text(const char *text);
+    ReportWriter &decimal(std::uintmax_t number);
+    ReportWriter &hex(std::uintmax_t number);
+
+private:
+    void number(std::uintmax_t number, unsigned base);
+
+    int m_descriptor;
+};

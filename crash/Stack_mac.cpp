@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Untested: nobody has run this on macOS yet.
+#include "crash/ReportWriter.h"
+#include "crash/Stack.h"
+
+#include <cstring>
+#include <dlfcn.h>
+#include <execinfo.h>
+
+void writeStack(ReportWriter &report, void *)
+{
+    void *frames[128];
+    const int count = ::backtrace(frames, 128);
+    for (int index = 0; index < count; ++index) {
+        Dl_info info{};
+        if (::dladdr(frames[index], &info) == 0)
+            continue;
+        const char *slash = std::strrchr(info.dli_fname, '/');
+        report.text("  ").decimal(static_cast<unsigned>(index)).text(" ");
+        report.text(slash ? slash + 1 : info.dli_fname).text("+");
+        report.hex(static_cast<std::uintmax_t>(
+            static_cast<char *>(frames[index]) - static_cast<char *>(info.dli_fbase)));
+        report.text("\n");
+    }
+}

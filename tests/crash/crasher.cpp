@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+// Crashes in the way that its argument names, after starting the crash reporter.
+#include "crash/Crash.h"
+
+#include <QCoreApplication>
+
+#include <atomic>
+#include <climits>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <mutex>
+#include <stdexcept>
+#include <string_view>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+extern "C" void *__libc_malloc(std::size_t size);
+
+namespace {
+
+std::atomic<int *> nowhere = nullptr;
+std::atomic_bool crashInMalloc = false;
+std::mutex mallocMutex;
+
+[[gnu::noinline]] void crashSegv() { *nowhere = 1; }
+
+[[gnu::noinline]] void crashAbort() { std::abort(); }
+
+[[gnu::noinline]] void crashTrap()
+{
+    volatile int number = INT_MAX;
+    number = number + 1;
+}
+
+[[gnu::noinline]] void crashFpe()
+{
+    volatile int number = 0;
+    number = number / number;
+}
+
+[[gnu::noinline]] void crashException() { throw std::runtime_error("/home/user/Secret Film.mp4"); }
+
+[[gnu::noinline]] int crashStack(int depth)
+{
+    volatile char filling[4096] = {};
+    filling[0] = static_cast<char>(depth);
+    return depth < INT_MAX ? crashStack(depth + 1) + filling[0] : 0;
+}
+
+[[gnu::noinline]] void crashThreads()
+{
+    std::atomic_int ready = 0;
+    const auto crash = [&ready] {
+        ++ready;
+        while (ready < 2) { }
+        crashSegv();
+    };
+    std::thread first(crash);
+    std::thread second(crash);
+    first.join();
+    second.join();
+}
+
+[[gnu::noinline]] void crashMalloc()
+{
+    crashInMalloc = true;
+    std::free(std::malloc(10));
+}
+
+// The crash of a child between fork and exec is not the program's.
+[[gnu::noinline]] void crashChild()
+{
+    const pid_t child = ::fork();
+    if (child == 0)
+        crashSegv();
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ::_exit(WIFSIGNALED(status) ? 7 : 0);
+}
+
+// Prints what a child of this process inherits: blocked signals and the library in charge of
+// exceptions.
+void printState()
+{
+    sigset_t blocked;
+    ::pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
+    int count = 0;
+    for (int signal = 1; signal < NSIG; ++signal)
+        count += ::sigismember(&blocked, signal) == 1;
+    Dl_info info{};
+    ::dladdr(::dlsym(RTLD_DEFAULT, "_Unwind_RaiseException"), &info);
+    std::printf("%d blocked, exceptions by %s\n", count, std::strrchr(info.dli_fname, '/') + 1);
+}
+
+}
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+// An allocator whose lock is held when the crash comes: whoever asks it for memory then waits for
+// ever.
+extern "C" void *malloc(std::size_t size)
+{
+    const std::lock_guard lock(mallocMutex);
+    if (crashInMalloc)
+        crashSegv();
+    return __libc_malloc(size);
+}
+#endif
+
+int main(int argc, char **argv)
+{
+    CrashReporter::start();
+    const QCoreApplication application(argc, argv);
+    const std::string_view kind = argc > 1 ? argv[1] : "";
+    if (kind == "segv")
+        crashSegv();
+    else if (kind == "abort")
+        crashAbort();
+    else if (kind == "trap")
+        crashTrap();
+    else if (kind == "fpe")
+        crashFpe();
+    else if (kind == "exception")
+        crashException();
+    else if (kind == "stack")
+        return crashStack(0);
+    else if (kind == "threads")
+        crashThreads();
+    else if (kind == "malloc")
+        crashMalloc();
+    else if (kind == "child")
+        crashChild();
+    else
+        printState();
+    return 0;
+}

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "updates/UpdateDownload.h"
+
+#include "updates/Signature.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Nothing of the address but a known kind gets into the name.
+QString fileKind(const QUrl &url)
+{
+    static const QRegularExpression kinds(u"\\.(deb|dmg|zip|AppImage|tar\\.(?:gz|xz|zst))\\z"_s);
+    const auto match = kinds.match(url.path());
+    return match.hasMatch() ? match.captured(1) : u"download"_s;
+}
+
+// A new file in the folder that is nobody else's.
+bool openNew(QFile &file, const QString &folder, const QString &name, const QString &kind)
+{
+    QDir().mkpath(folder);
+    for (int number = 1; number < 100; ++number) {
+        const QString suffix = number == 1 ? QString() : u" %1"_s.arg(number);
+        file.setFileName(u"%1/%2%3.%4"_s.arg(folder, name, suffix, kind));
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return true;
+    }
+    return false;
+}
+
+}
+
+UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)
+    : QObject(parent)
+    , m_item(std::move(item))
+    , m_target(std::move(target))
+{
+}
+
+void UpdateDownload::start()
+{
+    if (!m_file.open()) {
+        Q_EMIT failed(false);
+        return;
+    }
+    auto *fetch = new Fetch(m_network, m_item.url, m_file, m_target.limits, this);
+    connect(fetch, &Fetch::progressed, this, &UpdateDownload::progressed);
+    connect(fetch, &Fetch::finished, this, &UpdateDownload::finish);
+}
+
+void UpdateDownload::finish(bool complete)
+{
+    const qint64 size = m_file.size();
+    const uchar *bytes = complete && m_file.flush() && size > 0 ? m_file.map(0, size) : nullptr;
+    if (!bytes) {
+        Q_EMIT failed(false);
+        return;
+    }
+    if (!isSignedBy(
+            m_target.publicKey, m_item.signature, { bytes, static_cast<std::size_t>(size) })) {
+        Q_EMIT failed(true);
+        return;
+    }
+    QFile file;
+    const QString name = u"VideoConverter-"_s + m_item.versionText;
+    const bool isOpen = openNew(file, m_target.folder, name, fileKind(m_item.url));
+    if (isOpen && file.write(reinterpret_cast<const char *>(bytes), size) == size && file.flush()) {
+        Q_EMIT saved(file.fileName());
+        return;
+    }
+    if (isOpen)
+        file.remove();
+    Q_EMIT failed(false);
+}

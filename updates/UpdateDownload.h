@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "updates/Appcast.h"
+#include "updates/Fetch.h"
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QTemporaryFile>
+
+/// Fetches the file of one item and, only when its signature verifies, puts it into a folder under
+/// a name of our own that never replaces anything. Thread: the main one.
+class UpdateDownload : public QObject {
+    Q_OBJECT
+public:
+    struct Target {
+        QByteArray publicKey;
+        QString folder;
+        FetchLimits limits;
+    };
+
+    UpdateDownload(AppcastItem item, Target target, QObject *parent = nullptr);
+
+    void start();
+
+Q_SIGNALS:
+    /// The total is -1 while unknown.
+    void progressed(qint64 received, qint64 total);
+    void saved(const QString &path);
+    /// Nothing was kept. `forged`: the file arrived, but is not what the vendor signed.
+    void failed(bool forged);
+
+private:
+    void finish(bool complete);
+
+    AppcastItem m_item;
+    Target m_target;
+    QNetworkAccessManager m_network;
+    QTemporaryFile m_file;
+};

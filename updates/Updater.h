@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "updates/Appcast.h"
+#include "updates/Fetch.h"
+
+#include <QBuffer>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+class UpdateDownload;
+class UpdaterDelegate;
+
+struct UpdaterSettings {
+    /// The running program's.
+    QString version;
+    /// Base64 of the Ed25519 public key; without one nothing is ever downloaded.
+    QString publicKey{};
+    QString downloadFolder{};
+    FetchLimits feedLimits{ qint64{ 1024 } * 1024, std::chrono::seconds(30) };
+    FetchLimits fileLimits{ qint64{ 512 } * 1024 * 1024, std::chrono::minutes(60) };
+
+    /// What this build was configured with.
+    [[nodiscard]] static UpdaterSettings configured();
+};
+
+struct UpdateCheck {
+    enum class Outcome {
+        Available,
+        UpToDate,
+        /// This build has no feed.
+        NotConfigured,
+        /// The feed could not be read.
+        Failed,
+        /// The feed announces newer versions, but nothing that the vendor signed.
+        Untrusted,
+    };
+    Outcome outcome = Outcome::Failed;
+    /// Asked for by the user, who awaits an answer whatever it is.
+    bool byUser = false;
+    /// When one is available.
+    AppcastItem item{};
+    /// The announcement is signed, so the item may be downloaded.
+    bool isDownloadable = false;
+};
+
+/// Looks for newer versions of the program, on the user's command and once a day.
+/// Thread: the main one.
+class Updater : public QObject {
+    Q_OBJECT
+public:
+    explicit Updater(UpdaterSettings settings, QObject *parent = nullptr);
+    ~Updater() override;
+    Q_DISABLE_COPY_MOVE(Updater)
+
+    /// Asked for the feed's address before each check; outlives the updater.
+    void setDelegate(const UpdaterDelegate *delegate) { m_delegate = delegate; }
+    [[nodiscard]] const UpdaterSettings &settings() const { return m_settings; }
+
+    /// The menu's command.
+    void checkForUpdates();
+    /// Checks when a day has passed since the last check, and looks again every hour while the
+    /// program runs. Does nothing in builds without a feed.
+    void checkInBackground();
+    /// A download of an item that was announced as downloadable; the caller starts it and owns it.
+    [[nodiscard]] std::unique_ptr<UpdateDownload> download(const AppcastItem &item) const;
+
+Q_SIGNALS:
+    /// One for each check; those in the background report only what is available.
+    void checked(const UpdateCheck &check);
+
+private:
+    [[nodiscard]] QString feedUrl() const;
+    void start(const QString &feedUrl);
+    void finish(bool complete);
+    [[nodiscard]] UpdateCheck judged(const QByteArray &feed) const;
+    [[nodiscard]] bool isSignedItem(const AppcastItem &item) const;
+
+    UpdaterSettings m_settings;
+    QByteArray m_publicKey;
+    const UpdaterDelegate *m_delegate = nullptr;
+    QNetworkAccessManager m_network;
+    QTimer m_hourly;
+    QBuffer m_feed;
+    std::unique_ptr<Fetch> m_fetch;
+    bool m_byUser = false;
+};

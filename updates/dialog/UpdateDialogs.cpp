@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "updates/dialog/UpdateDialogs.h"
+
+#include "support/Format.h"
+#include "support/Localized.h"
+
+#include <QDesktopServices>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QString outcomeText(UpdateCheck::Outcome outcome, const QString &version)
+{
+    switch (outcome) {
+    case UpdateCheck::Outcome::Available:
+        break;
+    case UpdateCheck::Outcome::UpToDate:
+        return formatted(
+            localized(QT_TRANSLATE_NOOP3("Localizable",
+                "You have the newest version of Video Converter, %@.", "update check")),
+            { version });
+    case UpdateCheck::Outcome::NotConfigured:
+        return localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "Updates are not available in this build.", "update check"));
+    case UpdateCheck::Outcome::Failed:
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "The list of updates could not be read. Please try again later.", "update check"));
+    case UpdateCheck::Outcome::Untrusted:
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "An update was announced, but not by the makers of Video Converter. It is not offered.",
+            "update check: wrong signature"));
+    }
+    return {};
+}
+
+QLabel *plainLabel(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QPlainTextEdit *notesView(const QString &notes)
+{
+    auto *view = new QPlainTextEdit(notes);
+    view->setReadOnly(true);
+    view->setTabChangesFocus(true);
+    view->setAccessibleName(localized(
+        QT_TRANSLATE_NOOP3("Localizable", "What is new", "update dialog, release notes")));
+    return view;
+}
+
+}
+
+UpdateDialogs::UpdateDialogs(Updater &updater, QWidget *window, QUrl site, QObject *parent)
+    : QObject(parent)
+    , m_updater(updater)
+    , m_window(window)
+    , m_site(std::move(site))
+{
+    connect(&updater, &Updater::checked, this, &UpdateDialogs::showCheck);
+}
+
+void UpdateDialogs::showCheck(const UpdateCheck &check)
+{
+    if (check.outcome == UpdateCheck::Outcome::Available)
+        showAvailable(check);
+    else
+        showMessage(outcomeText(check.outcome, m_updater.settings().version));
+}
+
+void UpdateDialogs::showAvailable(const UpdateCheck &check)
+{
+    delete m_offer;
+    auto *dialog = new QDialog(m_window);
+    m_offer = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")));
+    dialog->setMinimumWidth(440);
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addWidget(plainLabel(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+                                               "Video Converter %1$@ is available. You have %2$@.",
+                                               "update dialog: new, own version")),
+        { check.item.displayVersion, m_updater.settings().version })));
+    if (!check.item.notes.isEmpty())
+        layout->addWidget(notesView(check.item.notes));
+    auto *buttons = new QDialogButtonBox;
+    buttons->addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Later", "update dialog, button")),
+        QDialogButtonBox::RejectRole);
+    if (check.isDownloadable) {
+        buttons->addButton(
+            localized(QT_TRANSLATE_NOOP3("Localizable", "Download", "update dialog, button")),
+            QDialogButtonBox::AcceptRole);
+        connect(
+            dialog, &QDialog::accepted, this, [this, item = check.item] { startDownload(item); });
+    } else if (m_site.isValid()) {
+        buttons->addButton(
+            localized(QT_TRANSLATE_NOOP3("Localizable", "Open Web Site", "update dialog, button")),
+            QDialogButtonBox::AcceptRole);
+        connect(dialog, &QDialog::accepted, this, [this] { QDesktopServices::openUrl(m_site); });
+    }
+    connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog->show();
+}
+
+void UpdateDialogs::startDownload(const AppcastItem &item)
+{
+    delete m_progress;
+    m_progress = new QProgressDialog(m_window);
+    m_progress->setAttribute(Qt::WA_DeleteOnClose);
+    m_progress->setAutoClose(false);
+    m_progress->setAutoReset(false);
+    m_progress->setMinimumDuration(0);
+    m_progress->setRange(0, 0);
+    m_progress->setLabelText(formatted(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Downloading version %@", "update download")),
+        { item.displayVersion }));
+    m_download = m_updater.download(item);
+    connect(m_download.get(), &UpdateDownload::progressed, this, &UpdateDialogs::showProgress);
+    connect(m_download.get(), &UpdateDownload::saved, this, &UpdateDialogs::showSaved);
+    connect(m_download.get(), &UpdateDownload::failed, this, &UpdateDialogs::showFailed);
+    connect(m_progress, &QProgressDialog::canceled, this, [this] { m_download.reset(); });
+    m_progress->show();
+    m_download->start();
+}
+
+void UpdateDialogs::showProgress(qint64 received, qint64 total)
+{
+    if (!m_progress || total <= 0)
+        return;
+    m_progress->setMaximum(1000);
+    m_progress->setValue(static_cast<int>(received * 1000 / total));
+}
+
+void UpdateDialogs::showSaved(const QString &path)
+{
+    delete m_progress;
+    m_download.release()->deleteLater();
+    const QFileInfo file(path);
+    QMessageBox *box = showMessage(
+        formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+                      "The update is in your downloads folder as “%@”. Open it to install it.",
+                      "update download")),
+            { file.fileName() }));
+    const auto *open = box->addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Open Folder", "update download, button")),
+        QMessageBox::ActionRole);
+    connect(open, &QPushButton::clicked, this,
+        [folder = file.path()] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+void UpdateDialogs::showFailed(bool forged)
+{
+    delete m_progress;
+    m_download.release()->deleteLater();
+    showMessage(forged
+            ? localized(QT_TRANSLATE_NOOP3("Localizable",
+                "The download was not signed by the makers of Video Converter and has been thrown "
+                "away.",
+                "update download: wrong signature"))
+            : localized(QT_TRANSLATE_NOOP3("Localizable",
+                "The update could not be downloaded. Please try again later.", "update download")));
+}
+
+QMessageBox *UpdateDialogs::showMessage(const QString &text)
+{
+    auto *box = new QMessageBox(QMessageBox::Information,
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")),
+        text, QMessageBox::Ok, m_window);
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+    return box;
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "updates/UpdateDownload.h"
+#include "updates/Updater.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QUrl>
+
+#include <memory>
+
+class QMessageBox;
+class QProgressDialog;
+class QWidget;
+
+/// Shows what the updater finds, downloads on the user's word, and opens nothing by itself.
+/// Thread: the main one.
+class UpdateDialogs : public QObject {
+    Q_OBJECT
+public:
+    /// `window` is the parent of the dialogs, `site` the vendor's web site or empty; both others
+    /// outlive this object.
+    UpdateDialogs(Updater &updater, QWidget *window, QUrl site, QObject *parent = nullptr);
+
+private:
+    void showCheck(const UpdateCheck &check);
+    void showAvailable(const UpdateCheck &check);
+    void startDownload(const AppcastItem &item);
+    void showProgress(qint64 received, qint64 total);
+    void showSaved(const QString &path);
+    void showFailed(bool forged);
+    QMessageBox *showMessage(const QString &text);
+
+    Updater &m_updater;
+    QWidget *m_window;
+    QUrl m_site;
+    QPointer<QWidget> m_offer;
+    std::unique_ptr<UpdateDownload> m_download;
+    QPointer<QProgressDialog> m_progress;
+};
