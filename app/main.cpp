@@ -34,7 +34,7 @@ void describe()
     QApplication::setApplicationName(u"VideoConverter"_s);
     QApplication::setApplicationDisplayName(u"Video Converter"_s);
     QApplication::setApplicationVersion(Configuration::version());
-    QApplication::setDesktopFileName(u"video-converter"_s);
+    QApplication::setDesktopFileName(u"org.example.VideoConverter"_s);
     QApplication::setWindowIcon(QIcon(u":/icons/video-converter.svg"_s));
 }
 
