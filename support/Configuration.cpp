@@ -11,8 +11,9 @@ namespace {
 
 bool isLoopback(const QUrl &url)
 {
+    static const QStringList schemes{ u"http"_s, u"https"_s };
     static const QStringList hosts{ u"localhost"_s, u"127.0.0.1"_s, u"::1"_s };
-    return url.isValid() && hosts.contains(url.host());
+    return schemes.contains(url.scheme()) && hosts.contains(url.host());
 }
 
 QString address(const char *built, const char *variable)

@@ -31,6 +31,19 @@ void runNext()
     block();
 }
 
+// What the blocks hold may need the application object, so they must not live on until the statics
+// go, nor run in a later application.
+void dropBlocks()
+{
+    std::deque<std::function<void()>> dropped;
+    const std::lock_guard lock(mutex);
+    dropped.swap(blocks());
+}
+
+void dropBlocksAtEnd() { qAddPostRoutine(dropBlocks); }
+
+Q_COREAPP_STARTUP_FUNCTION(dropBlocksAtEnd)
+
 }
 
 namespace MainQueue {

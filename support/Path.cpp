@@ -60,7 +60,7 @@ QStringList pathComponents(const QString &path)
     QStringList components = path.split(u'/', Qt::SkipEmptyParts);
     if (path.startsWith(u'/'))
         components.prepend(u"/"_s);
-    if (path.endsWith(u'/') && components.size() > 1)
+    if (path.endsWith(u'/') && components.last() != u"/")
         components.append(u"/"_s);
     return components;
 }

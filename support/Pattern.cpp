@@ -21,7 +21,10 @@ QString matchRegex(const QString &text, const QRegularExpression &expression, in
 {
     if (!expression.isValid())
         return {};
-    const QStringView searched = QStringView(text).first(Text::characterCount(text));
+    QStringView searched = QStringView(text).first(Text::characterCount(text));
+    // Half a surrogate pair at the end would make the expression engine refuse the whole text.
+    if (!searched.empty() && searched.back().isHighSurrogate())
+        searched.chop(1);
     return substringFromCheckingResult(expression.match(searched), index);
 }
 
