@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/CommandLine.h"
+
+class Interruption;
+
+/// The commands. Each prints its result or what went wrong.
+/// Thread: the main thread; event loops run inside.
+
+[[nodiscard]] ExitCode listFormats(const CommandLine &line);
+[[nodiscard]] ExitCode probeFilm(const CommandLine &line, Interruption &interruption);
+[[nodiscard]] ExitCode planConversions(const CommandLine &line, Interruption &interruption);
+[[nodiscard]] ExitCode convertFilms(const CommandLine &line, Interruption &interruption);

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Destination.h"
+
+#include "cli/Examination.h"
+#include "planning/ConversionDescriptor.h"
+#include "support/FileSystem.h"
+#include "support/Localized.h"
+#include "support/Path.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Failure refused(const LocalizedText &text)
+{
+    return { ExitCode::DestinationRefused, localized(text) };
+}
+
+bool mayWrite(const QString &path, int mode)
+{
+    return ::access(QFile::encodeName(path).constData(), mode) == 0;
+}
+
+/// The name, numbered until it differs from all others also where letter case does not count.
+QString uniqueName(const QString &base, const QString &ext, QSet<QString> &taken)
+{
+    QString name = base + u'.' + ext;
+    for (int number = 2; taken.contains(name.toCaseFolded()); ++number)
+        name = base + u' ' + QString::number(number) + u'.' + ext;
+    taken.insert(name.toCaseFolded());
+    return name;
+}
+
+}
+
+std::vector<ConversionItem> conversionItems(const CommandLine &line)
+{
+    const QString ext = conversionDescriptor(line.entries.front().format).ext;
+    QSet<QString> taken;
+    std::vector<ConversionItem> items;
+    for (const QString &film : line.films) {
+        const QString base = Path::stringByDeletingPathExtension(Path::lastPathComponent(film));
+        const QString destPath = line.folder.isEmpty()
+            ? line.output
+            : line.folder + u'/' + uniqueName(base, ext, taken);
+        items.push_back({ film, absolutePath(film), absolutePath(destPath) });
+    }
+    return items;
+}
+
+std::optional<Failure> folderRefusal(const QString &folder)
+{
+    const QFileInfo info(folder);
+    if (!info.exists())
+        return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination's folder does not exist.",
+            "Why a conversion's result can't be written"));
+    if (!info.isDir())
+        return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination's folder is a file.",
+            "Why a conversion's result can't be written"));
+    if (!mayWrite(folder, W_OK | X_OK))
+        return refused(
+            QT_TRANSLATE_NOOP3("Localizable", "The destination's folder may not be written to.",
+                "Why a conversion's result can't be written"));
+    return std::nullopt;
+}
+
+std::optional<Failure> destinationRefusal(
+    const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite)
+{
+    const QFileInfo info(destPath);
+    const auto isDestination
+        = [&](const ConversionItem &item) { return isSameFile(item.path, destPath); };
+    if (std::any_of(items.begin(), items.end(), isDestination))
+        return refused(QT_TRANSLATE_NOOP3("Localizable",
+            "The result can't replace a film that is to be converted.",
+            "Why a conversion's result can't be written"));
+    if (info.isDir() || destPath.endsWith(u'/'))
+        return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.",
+            "Why a conversion's result can't be written"));
+    if (!info.exists() && info.isSymbolicLink())
+        return refused(
+            QT_TRANSLATE_NOOP3("Localizable", "The destination is a link that leads nowhere.",
+                "Why a conversion's result can't be written"));
+    if (!info.exists())
+        return folderRefusal(Path::stringByDeletingLastPathComponent(destPath));
+    if (!isRegularFile(destPath))
+        return refused(
+            QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.",
+                "Why a conversion's result can't be written"));
+    if (!overwrite)
+        return refused(QT_TRANSLATE_NOOP3("Localizable",
+            "The destination exists already; --overwrite replaces it.",
+            "Why a conversion's result can't be written"));
+    if (!mayWrite(destPath, W_OK))
+        return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.",
+            "Why a conversion's result can't be written"));
+    return std::nullopt;
+}
+
+QString linkTarget(const QString &destPath)
+{
+    const QString target = QFileInfo(destPath).canonicalFilePath();
+    return target.isEmpty() ? destPath : target;
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/CommandLine.h"
+
+#include <optional>
+#include <vector>
+
+/// One film on its way.
+struct ConversionItem {
+    /// As the user wrote it.
+    QString film;
+    /// Absolute paths.
+    QString path;
+    QString destPath;
+};
+
+/// The films of a command line with their destinations. In a folder each gets its film's name with
+/// the output's extension, and a number where two films bear the same name.
+[[nodiscard]] std::vector<ConversionItem> conversionItems(const CommandLine &line);
+
+/// Why nothing can be written to a folder.
+[[nodiscard]] std::optional<Failure> folderRefusal(const QString &folder);
+/// Why a file must not be written: nothing but an ordinary file is replaced, that only when it is
+/// allowed, and a film that this run reads never.
+[[nodiscard]] std::optional<Failure> destinationRefusal(
+    const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite);
+/// The file itself where the destination is a link to one: so it is what is removed when a
+/// conversion fails.
+[[nodiscard]] QString linkTarget(const QString &destPath);

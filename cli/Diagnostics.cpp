@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Diagnostics.h"
+
+#include "cli/Output.h"
+#include "support/Console.h"
+
+#include <QtGlobal>
+
+#include <atomic>
+
+namespace {
+
+std::atomic<bool> shown = false;
+
+void takeMessage(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message)
+{
+    if (type == QtFatalMsg)
+        Output::errorLine(message);
+    else
+        Console::print(message);
+}
+
+}
+
+namespace Diagnostics {
+
+void take()
+{
+    Console::setSink([](const QString &line) {
+        if (shown)
+            Output::errorLine(line);
+    });
+    qInstallMessageHandler(takeMessage);
+}
+
+void show() { shown = true; }
+
+void tell(const QByteArray &output)
+{
+    if (shown)
+        Output::errorBytes(output);
+}
+
+}

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/CommandLine.h"
+
+/// Texts of --help.
+namespace Help {
+
+[[nodiscard]] QString general();
+[[nodiscard]] QString of(Verb verb);
+
+}

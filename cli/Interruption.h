@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/ExitCode.h"
+
+#include <QObject>
+
+/// The wish to stop: Ctrl-C, SIGTERM, a terminal that was closed, or a reader of the output that
+/// has gone. One object per program, on the main thread.
+class Interruption : public QObject {
+    Q_OBJECT
+
+public:
+    Interruption();
+    ~Interruption() override;
+    Q_DISABLE_COPY_MOVE(Interruption)
+
+    /// Number of the first signal that came, 0 before. Thread: any.
+    [[nodiscard]] static int signal();
+    /// Behaves as if a signal had come. Thread: any, also a signal handler.
+    static void request(int signalNumber);
+
+    /// What an interrupted command ends with.
+    [[nodiscard]] static Failure failure();
+
+Q_SIGNALS:
+    void arrived();
+};

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "cli/JsonReporter.h"
+
+#include "cli/Interruption.h"
+#include "cli/Output.h"
+#include "support/FileSystem.h"
+
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+template <class Number> QJsonValue valueOrNull(const std::optional<Number> &number)
+{
+    return number ? QJsonValue(*number) : QJsonValue(QJsonValue::Null);
+}
+
+void print(const QJsonObject &object)
+{
+    Output::json(QJsonDocument(object), QJsonDocument::Compact);
+}
+
+int exitStatus(ExitCode code)
+{
+    const int status = static_cast<int>(code);
+    return code == ExitCode::Cancelled ? status + Interruption::signal() : status;
+}
+
+}
+
+std::chrono::milliseconds JsonReporter::interval() const { return 500ms; }
+
+void JsonReporter::started(const ConversionItem &item)
+{
+    m_lastCompleted = -1;
+    print({ { u"event"_s, u"started"_s }, { u"input"_s, item.path },
+        { u"output"_s, item.destPath } });
+}
+
+void JsonReporter::progressed(const ConversionItem &item, const ProgressSample &sample)
+{
+    if (sample.completed == m_lastCompleted)
+        return;
+    m_lastCompleted = sample.completed;
+    const auto total = sample.total > 0 ? std::optional(sample.total) : std::nullopt;
+    print({ { u"event"_s, u"progress"_s }, { u"input"_s, item.path },
+        { u"seconds"_s, sample.completed }, { u"total"_s, valueOrNull(total) },
+        { u"percent"_s, valueOrNull(sample.percent()) },
+        { u"speed"_s, valueOrNull(sample.speed()) },
+        { u"left"_s, valueOrNull(sample.secondsLeft()) } });
+}
+
+void JsonReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)
+{
+    print({ { u"event"_s, u"converted"_s }, { u"input"_s, item.path },
+        { u"output"_s, item.destPath }, { u"size"_s, static_cast<qint64>(fileSize(item.destPath)) },
+        { u"elapsed"_s, static_cast<double>(elapsed.count()) / 1000 } });
+}
+
+void JsonReporter::failed(const ConversionItem &item, const Failure &failure)
+{
+    print({ { u"event"_s, failure.code == ExitCode::Cancelled ? u"cancelled"_s : u"failed"_s },
+        { u"input"_s, item.path }, { u"output"_s, item.destPath },
+        { u"code"_s, exitStatus(failure.code) }, { u"message"_s, failure.message } });
+    printFailure(item, failure);
+}
+
+void JsonReporter::summedUp(int converted, int all)
+{
+    print({ { u"event"_s, u"summary"_s }, { u"converted"_s, converted }, { u"all"_s, all } });
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Output.h"
+
+#include "cli/Interruption.h"
+#include "cli/ShownText.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::atomic<bool> failed = false;
+
+// Once the program is to stop, nobody waits for a reader that does not read.
+bool isWritable(int descriptor)
+{
+    struct pollfd output {
+        descriptor, POLLOUT, 0
+    };
+    const int milliseconds = Interruption::signal() == 0 ? 200 : 0;
+    return ::poll(&output, 1, milliseconds) > 0;
+}
+
+void write(int descriptor, const QByteArray &bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        if (!isWritable(descriptor)) {
+            if (Interruption::signal() != 0)
+                return;
+            continue;
+        }
+        // A pipe that is ready takes so many bytes at once without blocking.
+        const qsizetype count = std::min<qsizetype>(bytes.size() - done, 4096);
+        const ssize_t written
+            = ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(count));
+        if (written >= 0) {
+            done += written;
+        } else if (errno == EPIPE) {
+            Interruption::request(SIGPIPE);
+            return;
+        } else if (errno != EINTR && errno != EAGAIN) {
+            failed = failed || descriptor == STDOUT_FILENO;
+            return;
+        }
+    }
+}
+
+}
+
+namespace Output {
+
+void line(const QString &text) { write(STDOUT_FILENO, text.toUtf8() + '\n'); }
+
+void json(const QJsonDocument &document, QJsonDocument::JsonFormat format)
+{
+    QByteArray bytes = document.toJson(format);
+    if (!bytes.endsWith('\n'))
+        bytes += '\n';
+    write(STDOUT_FILENO, bytes);
+}
+
+void raw(const QString &text) { write(STDOUT_FILENO, text.toUtf8()); }
+
+void errorLine(const QString &text) { errorBytes(text.toUtf8() + '\n'); }
+
+void errorBytes(const QByteArray &bytes) { write(STDERR_FILENO, bytes); }
+
+ExitCode failure(const QString &file, const Failure &failure)
+{
+    errorLine(printable(file) + u": "_s + failure.message);
+    return failure.code;
+}
+
+bool hasFailed() { return failed; }
+
+int terminalColumns()
+{
+    if (::isatty(STDOUT_FILENO) == 0 || qgetenv("TERM") == "dumb")
+        return 0;
+    struct winsize size { };
+    const bool known = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return known ? size.ws_col : 80;
+}
+
+}

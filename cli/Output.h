@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/ExitCode.h"
+
+#include <QJsonDocument>
+#include <QString>
+
+/// Standard output and standard error. A reader that has gone interrupts the program.
+/// Thread: any; a line is written whole.
+namespace Output {
+
+void line(const QString &text);
+void json(const QJsonDocument &document, QJsonDocument::JsonFormat format);
+/// As it stands, without an end of line.
+void raw(const QString &text);
+void errorLine(const QString &text);
+void errorBytes(const QByteArray &bytes);
+/// Says what went wrong with a file; gives the code on.
+ExitCode failure(const QString &file, const Failure &failure);
+
+/// Standard output did not take everything, for another reason than a reader that has gone.
+[[nodiscard]] bool hasFailed();
+
+/// Columns of the terminal that standard output is; 0 when it is none that can move its cursor.
+[[nodiscard]] int terminalColumns();
+
+}

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/Examination.h"
+#include "cli/Output.h"
+#include "cli/ShownText.h"
+#include "support/Format.h"
+#include "support/Localized.h"
+
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+qint64 wholeSeconds(const JSON &info)
+{
+    return static_cast<qint64>(info[u"format"_s][u"duration"_s].stringValue().toDouble());
+}
+
+QJsonObject jsonOf(const FilmDescription &film)
+{
+    QJsonValue cover = QJsonValue::Null;
+    if (film.cover)
+        cover = QJsonObject{ { u"width"_s, film.cover->width() },
+            { u"height"_s, film.cover->height() } };
+    return { { u"info"_s, film.info.value() }, { u"duration"_s, film.duration },
+        { u"seconds"_s, wholeSeconds(film.info) }, { u"cover"_s, cover } };
+}
+
+/// Such as "video, h264, 1920 x 1080" or "audio, aac, 48000 Hz, 2 channels".
+QString streamText(const JSON &stream)
+{
+    QStringList parts{ stream[u"codec_type"_s].stringValue(),
+        stream[u"codec_name"_s].stringValue() };
+    if (const auto width = stream[u"width"_s].integer())
+        parts << QString::number(*width) + u" x "_s
+                + QString::number(stream[u"height"_s].intValue());
+    if (const QString rate = stream[u"sample_rate"_s].stringValue(); !rate.isEmpty())
+        parts << rate + u" Hz"_s;
+    if (const auto channels = stream[u"channels"_s].integer())
+        parts << formatted(localized(QT_TRANSLATE_NOOP3(
+                               "Localizable", "%d ch", "Number of sound channels, abbreviated")),
+            { *channels });
+    parts.removeAll(QString());
+    return printable(parts.join(u", "_s));
+}
+
+void printField(const LocalizedText &name, const QString &value)
+{
+    Output::line((localized(name) + u": "_s).leftJustified(12) + value);
+}
+
+void printText(const FilmDescription &film)
+{
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Length", "Property of a film"), film.duration);
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Container", "Property of a film"),
+        printable(film.info[u"format"_s][u"format_long_name"_s].stringValue()));
+    int index = 0;
+    for (const JSON &stream : film.info[u"streams"_s].array())
+        printField(QT_TRANSLATE_NOOP3("Localizable", "Stream", "Property of a film"),
+            u"%1, %2"_s.arg(index++).arg(streamText(stream)));
+    const QString none
+        = localized(QT_TRANSLATE_NOOP3("Localizable", "none", "A film has no cover picture"));
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Cover", "Property of a film"),
+        film.cover ? u"%1 x %2"_s.arg(film.cover->width()).arg(film.cover->height()) : none);
+}
+
+}
+
+ExitCode probeFilm(const CommandLine &line, Interruption &interruption)
+{
+    const QString &name = line.films.first();
+    const auto result = examined(absolutePath(name), interruption);
+    if (const auto *failure = std::get_if<Failure>(&result))
+        return Output::failure(name, *failure);
+    const auto &film = std::get<FilmDescription>(result);
+    if (line.json)
+        Output::json(QJsonDocument(jsonOf(film)), QJsonDocument::Indented);
+    else
+        printText(film);
+    return ExitCode::Done;
+}

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ProgressLine.h"
+
+#include "cli/ShownText.h"
+#include "support/DurationInfo.h"
+#include "support/Format.h"
+#include "support/Localized.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+QString leftJustified(const QString &text, int columns)
+{
+    return text + QString(std::max(0, columns - columnsOf(text)), u' ');
+}
+
+QString bar(const ProgressSample &sample, int width)
+{
+    if (const std::optional<int> percent = sample.percent())
+        return QString(*percent * width / 100, u'#').leftJustified(width, u'-');
+    constexpr int blockWidth = 3;
+    const int way = std::max(1, width - blockWidth);
+    const auto step = static_cast<int>(sample.elapsed / 200ms % (2 * way));
+    return QString(way - std::abs(way - step), u'-') + QString(blockWidth, u'#')
+        + QString(std::abs(way - step), u'-');
+}
+
+}
+
+std::optional<int> ProgressSample::percent() const
+{
+    if (total <= 0)
+        return std::nullopt;
+    const double fraction = static_cast<double>(completed) / static_cast<double>(total);
+    return static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 100);
+}
+
+std::optional<double> ProgressSample::speed() const
+{
+    if (completed <= 0 || elapsed < 1s)
+        return std::nullopt;
+    return static_cast<double>(completed) * 1000 / static_cast<double>(elapsed.count());
+}
+
+std::optional<qint64> ProgressSample::secondsLeft() const
+{
+    const std::optional<double> current = speed();
+    if (!current || total < completed)
+        return std::nullopt;
+    const double seconds = std::ceil(static_cast<double>(total - completed) / *current);
+    // A crawling start is no ground for a forecast of years.
+    return seconds < 1e9 ? std::optional(static_cast<qint64>(seconds)) : std::nullopt;
+}
+
+QString progressText(const ProgressSample &sample)
+{
+    QStringList parts;
+    if (const auto percent = sample.percent())
+        parts << QString::number(*percent).rightJustified(3) + u'%';
+    else
+        parts << formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@ so far",
+                               "Time that a conversion of unknown length has taken")),
+            { DurationInfo(sample.elapsed / 1s).toString() });
+    if (const auto speed = sample.speed())
+        parts << QString::number(*speed, 'f', *speed < 10 ? 1 : 0) + u'x';
+    if (const auto left = sample.secondsLeft())
+        parts << formatted(localized(QT_TRANSLATE_NOOP3(
+                               "Localizable", "%@ left", "Time that a conversion still needs")),
+            { DurationInfo(*left).toString() });
+    return parts.join(u"  "_s);
+}
+
+QString progressBar(const QString &film, const ProgressSample &sample, int columns)
+{
+    const QString text = progressText(sample);
+    const int nameWidth = std::clamp(columns / 4, 8, 24);
+    const QString name = leftJustified(elided(printable(film), nameWidth), nameWidth);
+    // Room for the longest text, so that the bar keeps its width; the last column stays free.
+    const int barWidth = std::min(40, columns - nameWidth - 32);
+    if (barWidth < 8)
+        return elided(name + u' ' + text, columns - 1);
+    return elided(name + u" ["_s + bar(sample, barWidth) + u"] "_s + text, columns - 1);
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <optional>
+
+/// How far a conversion is at a moment.
+/// Units: seconds of media; `total` is not positive while the length is unknown.
+struct ProgressSample {
+    qint64 completed = 0;
+    qint64 total = -1;
+    std::chrono::milliseconds elapsed{};
+
+    /// 0 to 100; absent while the length is unknown.
+    [[nodiscard]] std::optional<int> percent() const;
+    /// Seconds of media for each second; absent until there is something to judge by.
+    [[nodiscard]] std::optional<double> speed() const;
+    [[nodiscard]] std::optional<qint64> secondsLeft() const;
+};
+
+/// Percent, speed and time left, as far as they are known; else the time since the start.
+[[nodiscard]] QString progressText(const ProgressSample &sample);
+/// The same behind the film's name and a bar, which runs to and fro while the length is unknown.
+[[nodiscard]] QString progressBar(const QString &film, const ProgressSample &sample, int columns);

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ShownText.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cwchar>
+
+using namespace Qt::StringLiterals;
+
+QString printable(const QString &text)
+{
+    // Also the marks that turn the order of what follows; joiners and plain direction marks may
+    // stay.
+    static const QRegularExpression obeyed(
+        uR"([\p{Cc}\p{Zl}\p{Zp}\x{202A}-\x{202E}\x{2066}-\x{2069}])"_s);
+    return QString(text).replace(obeyed, u"?"_s);
+}
+
+QString shellQuoted(const QString &word)
+{
+    static const QRegularExpression harmless(uR"(\A[A-Za-z0-9_@%+=:,./-]+\z)"_s);
+    if (harmless.match(word).hasMatch())
+        return word;
+    return u'\'' + QString(word).replace(u'\'', uR"('\'')"_s) + u'\'';
+}
+
+QString shellQuoted(const QStringList &words)
+{
+    QStringList quoted;
+    for (const QString &word : words)
+        quoted << shellQuoted(word);
+    return quoted.join(u' ');
+}
+
+int columnsOf(const QString &text)
+{
+    int columns = 0;
+    for (const char32_t character : text.toStdU32String())
+        columns += std::max(0, ::wcwidth(static_cast<wchar_t>(character)));
+    return columns;
+}
+
+QString elided(const QString &text, int columns)
+{
+    if (columnsOf(text) <= columns)
+        return text;
+    std::u32string head = text.toStdU32String();
+    std::u32string tail = head.substr(head.size() / 2);
+    head.resize(head.size() / 2);
+    const auto joined
+        = [&] { return QString::fromStdU32String(head) + u'…' + QString::fromStdU32String(tail); };
+    while (columnsOf(joined()) > columns && !tail.empty()) {
+        if (head.size() >= tail.size())
+            head.pop_back();
+        else
+            tail.erase(0, 1);
+    }
+    return joined();
+}

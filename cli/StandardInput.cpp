@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "cli/StandardInput.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+int original = -1;
+
+}
+
+namespace StandardInput {
+
+void setAside()
+{
+    original = ::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    int nothing = ::open("/dev/null", O_RDWR);
+    ::dup2(nothing, STDIN_FILENO);
+    while (nothing >= 0 && nothing <= STDERR_FILENO)
+        nothing = ::open("/dev/null", O_RDWR);
+    if (nothing >= 0)
+        ::close(nothing);
+}
+
+QByteArray readAll(qint64 limit)
+{
+    QFile input;
+    if (original < 0 || !input.open(original, QIODevice::ReadOnly))
+        return {};
+    return input.read(limit);
+}
+
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "cli/TerminalReporter.h"
+
+#include "cli/Output.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+void clearLine() { Output::raw(u"\r\u001b[K"_s); }
+
+}
+
+std::chrono::milliseconds TerminalReporter::interval() const { return 200ms; }
+
+void TerminalReporter::started(const ConversionItem &item) { progressed(item, {}); }
+
+void TerminalReporter::progressed(const ConversionItem &item, const ProgressSample &sample)
+{
+    Output::raw(u'\r' + progressBar(item.film, sample, Output::terminalColumns()) + u"\u001b[K"_s);
+}
+
+void TerminalReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)
+{
+    clearLine();
+    PlainReporter::converted(item, elapsed);
+}
+
+void TerminalReporter::failed(const ConversionItem &item, const Failure &failure)
+{
+    clearLine();
+    PlainReporter::failed(item, failure);
+}

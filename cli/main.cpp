@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/Diagnostics.h"
+#include "cli/Interruption.h"
+#include "cli/Output.h"
+#include "cli/StandardInput.h"
+#include "engine/FFMPEG.h"
+#include "support/Configuration.h"
+#include "support/Localized.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+ExitCode run(const CommandLine &line)
+{
+    Interruption interruption;
+    switch (line.verb) {
+    case Verb::Formats:
+        return listFormats(line);
+    case Verb::Probe:
+        return probeFilm(line, interruption);
+    case Verb::Plan:
+        return planConversions(line, interruption);
+    case Verb::Convert:
+        return convertFilms(line, interruption);
+    }
+    return ExitCode::Usage;
+}
+
+ExitCode answer(const Answer &answer)
+{
+    if (answer.code == ExitCode::Done)
+        Output::line(answer.text);
+    else
+        Output::errorLine(answer.text);
+    return answer.code;
+}
+
+int exitStatus(ExitCode code)
+{
+    if (Interruption::signal() != 0)
+        return static_cast<int>(ExitCode::Cancelled) + Interruption::signal();
+    if (Output::hasFailed())
+        Output::errorLine(localized(QT_TRANSLATE_NOOP3("Localizable",
+            "The output can't be written.", "Standard output is a file on a full disk")));
+    return Output::hasFailed() && code == ExitCode::Done ? 1 : static_cast<int>(code);
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    StandardInput::setAside();
+    Diagnostics::take();
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"video-converter-cli"_s);
+    QCoreApplication::setApplicationVersion(Configuration::version());
+
+    // Translations are installed here, before the first text is made.
+
+    const auto parsed = parsedCommandLine(QCoreApplication::arguments());
+    if (const auto *text = std::get_if<Answer>(&parsed))
+        return exitStatus(answer(*text));
+    const auto &line = std::get<CommandLine>(parsed);
+    if (line.verbose)
+        Diagnostics::show();
+    const ExitCode code = run(line);
+    FFMPEG::shutDown();
+    return exitStatus(code);
+}
