@@ -197,6 +197,8 @@ void TestConversion::failures_areReportedAndCleanedUp_data()
     QTest::newRow("exit status") << QByteArray("exit:1");
     QTest::newRow("killed") << QByteArray("signal:9");
     QTest::newRow("crashed") << QByteArray("signal:11");
+    QTest::newRow("result cut off by a full disk, status 0")
+        << QByteArray(R"(print:size=1kB\rError writing trailer of /out.mp4: No space left\n)");
 }
 
 void TestConversion::failures_areReportedAndCleanedUp()
