@@ -116,7 +116,7 @@ void ConversionRun::readChunk(const QByteArray &chunk)
 // stopped short.
 void ConversionRun::judge(const Task &task)
 {
-    if (m_progress->isCancelled() || task.terminationStatus() != 0)
+    if (m_progress->isCancelled() || !hasSucceeded(task))
         return;
     const qint64 completed = m_progress->completedUnitCount();
     const qint64 remaining = m_progress->totalUnitCount() - completed;
@@ -130,6 +130,11 @@ void ConversionRun::judge(const Task &task)
     postError(formatted(format, { DurationInfo(completed).toString() }));
 }
 
+bool ConversionRun::hasSucceeded(const Task &task) const
+{
+    return task.terminationStatus() == 0 && !ToolOutput::reportsLostOutput(m_output);
+}
+
 void ConversionRun::finish(Task &task, bool launched)
 {
     // Read once: a cancel that comes while this goes on must not meet half of each branch.
@@ -139,7 +144,7 @@ void ConversionRun::finish(Task &task, bool launched)
         // before that is removed.
         task.terminate();
         removeDestination();
-    } else if (launched && task.terminationStatus() == 0) {
+    } else if (launched && hasSucceeded(task)) {
         m_progress->setCompletedUnitCount(m_progress->totalUnitCount());
     } else {
         Console::print(u"error occured: "_s + Text::stringValue(m_output));

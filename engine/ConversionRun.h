@@ -36,6 +36,7 @@ private:
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);
     void judge(const Task &task);
+    [[nodiscard]] bool hasSucceeded(const Task &task) const;
     void finish(Task &task, bool launched);
     void postError(const std::optional<QString> &errmsg);
     void removeDestination() const;

@@ -58,6 +58,15 @@ std::optional<qint64> lastReportedPosition(const QString &block)
     return getFFMpegDuration(Pattern::substringFromCheckingResult(last, 1));
 }
 
+bool reportsLostOutput(const QByteArray &output)
+{
+    // "Error writing trailer of out.mp4: No space left on device", newer versions with "[out#0/mp4
+    // @ 0x55d0] " in front; only statistics follow.
+    static const QRegularExpression regexp = expression(
+        uR"(^(?:\[[^\]]*\] )?Error (?:writing trailer|closing file)\b)"_s, Pattern::lineOptions);
+    return regexp.match(QString::fromLatin1(output.right(16384))).hasMatch();
+}
+
 QString decodedBlock(const QByteArray &block)
 {
     QString text = Text::stringValue(block);
