@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextBoundaryFinder>
 
 namespace {
 
@@ -18,15 +19,34 @@ void showPlainText(const QMessageBox &box)
         label->setTextFormat(Qt::PlainText);
 }
 
+// Lets a name without spaces go on in the next line instead of leaving the alert.
+QString breakable(const QString &text)
+{
+    constexpr qsizetype longestRun = 40;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    QString result;
+    qsizetype start = 0;
+    for (qsizetype run = 0; finder.toNextBoundary() >= 0; start = finder.position()) {
+        const QStringView character = QStringView(text).sliced(start, finder.position() - start);
+        run = character.front().isSpace() ? 0 : run + 1;
+        if (run > longestRun) {
+            result += QChar(0x200B);
+            run = 1;
+        }
+        result += character;
+    }
+    return result;
+}
+
 }
 
 void displayError(const QString &message, const QString &informativeText)
 {
     QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    box.setText(message);
+    box.setText(breakable(message));
     if (!informativeText.isEmpty())
-        box.setInformativeText(informativeText);
+        box.setInformativeText(breakable(informativeText));
     showPlainText(box);
     box.exec();
 }
@@ -41,7 +61,7 @@ bool displayQuestion(const QString &question)
     QMessageBox box(
         QMessageBox::Information, {}, {}, QMessageBox::NoButton, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    box.setText(question);
+    box.setText(breakable(question));
     QPushButton *no = box.addButton(localized(noText), QMessageBox::NoRole);
     QPushButton *yes = box.addButton(localized(yesText), QMessageBox::YesRole);
     box.setDefaultButton(no);

@@ -26,12 +26,21 @@ QString withExtension(const QString &path, const QString &extension)
     return path.endsWith(u'.') ? path + extension : path + u'.' + extension;
 }
 
-bool mayReplace(const QString &path)
+bool mayUse(const QString &path, bool hasAsked)
 {
-    return displayQuestion(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+    const QString name = Path::lastPathComponent(path);
+    if (QFileInfo(path).isDir()) {
+        displayError(formatted(
+            localized(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
+                "alert of the save panel, with the name of a folder")),
+            { name }));
+        return false;
+    }
+    return hasAsked || !QFileInfo::exists(path)
+        || displayQuestion(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
                                          "“%@” already exists. Do you want to replace it?",
                                          "question of the save panel, with the name of a file")),
-        { Path::lastPathComponent(path) }));
+            { name }));
 }
 
 }
@@ -43,6 +52,7 @@ SaveSheet::SaveSheet(
             "Convert"),
         folder)
     , m_extension(std::move(extension))
+    , m_proposed(filename + u'.' + m_extension)
 {
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
@@ -54,7 +64,7 @@ SaveSheet::SaveSheet(
         text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
                  "name label for save panel (<= 15 symbols)"),
             "Result filename:"));
-    selectFile(filename + u'.' + m_extension);
+    selectFile(m_proposed);
 }
 
 void SaveSheet::accept()
@@ -65,13 +75,11 @@ void SaveSheet::accept()
     const QString chosen = isNative ? selectedFiles().value(0) : typedPath();
     if (chosen.isEmpty())
         return;
-    if (QFileInfo(chosen).isDir() && !isNative) {
-        setDirectory(chosen);
-        return;
-    }
+    if (!isNative && QFileInfo(chosen).isDir())
+        return enterFolder(chosen);
     const QString path = withExtension(chosen, m_extension);
-    const bool isAgreed = (isNative && path == chosen) || !QFileInfo::exists(path);
-    if (QFileInfo(path).isDir() || !(isAgreed || mayReplace(path))) {
+    const bool hasAsked = isNative && path == chosen;
+    if (!mayUse(path, hasAsked)) {
         if (isNative)
             comeAgain(path);
         return;
@@ -80,15 +88,24 @@ void SaveSheet::accept()
     QDialog::accept();
 }
 
+QLineEdit *SaveSheet::nameField() const { return findChild<QLineEdit *>(u"fileNameEdit"_s); }
+
 // The dialog's own reading of the field takes quotation marks for separators of several names.
 QString SaveSheet::typedPath() const
 {
-    const QString name = findChild<QLineEdit *>(u"fileNameEdit"_s)->text();
+    const QString name = nameField()->text();
     if (name.isEmpty())
         return {};
     if (name.startsWith("~/"_L1))
         return QDir::homePath() + name.sliced(1);
     return QDir::cleanPath(directory().absoluteFilePath(name));
+}
+
+// Keeps the name that was to be used before the folder's name was typed over it.
+void SaveSheet::enterFolder(const QString &path)
+{
+    setDirectory(path);
+    nameField()->setText(m_proposed);
 }
 
 void SaveSheet::comeAgain(const QString &path)

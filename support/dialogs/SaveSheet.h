@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QString>
 
+class QLineEdit;
+
 /// File dialog for one result with one allowed extension; used through runSaveToSheet().
 class SaveSheet : public QFileDialog {
     Q_OBJECT
@@ -18,9 +20,12 @@ protected:
     void accept() override;
 
 private:
+    [[nodiscard]] QLineEdit *nameField() const;
     [[nodiscard]] QString typedPath() const;
+    void enterFolder(const QString &path);
     void comeAgain(const QString &path);
 
     QString m_extension;
+    QString m_proposed;
     QString m_path;
 };
