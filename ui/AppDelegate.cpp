@@ -54,18 +54,49 @@ void keepPlaces(const QWidget &area)
     }
 }
 
+void enlarge(QLabel *label, double factor)
+{
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setWeight(QFont::DemiBold);
+    label->setFont(font);
+}
+
+void styleTexts(const Ui::MainWindow &outlets)
+{
+    enlarge(outlets.dragFileHereLabel, 1.45);
+    enlarge(outlets.movieNameLabel, 1.15);
+    outlets.openFromFolderLabel->setForegroundRole(QPalette::Link);
+    QFont headingFont = outlets.formatMenu->font();
+    headingFont.setBold(true);
+    for (QAction *heading :
+        { outlets.devicesHeading, outlets.formatsHeading, outlets.mp4QualityHeading })
+        heading->setFont(headingFont);
+}
+
+void giveRoom(QPushButton *button, int line)
+{
+    button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
+}
+
 }
 
 AppDelegate::AppDelegate()
     : m_outlets(std::make_unique<Ui::MainWindow>())
 {
+    // A static library's resources are not there by themselves.
+    Q_INIT_RESOURCE(artwork);
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->timeLeftLabel);
     keepPlaces(*m_outlets->dropAcceptor);
-    for (QWidget *view : std::initializer_list<QWidget *>{
-             m_outlets->openFromFolderLabel, m_outlets->openFolderImageView })
-        Clickable::enable(view);
+    styleTexts(*m_outlets);
+    const int line = m_window.fontMetrics().height();
+    m_window.resize(line * 36, line * 31);
+    giveRoom(m_outlets->startOverButton, line);
+    m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
+    Clickable::enable(m_outlets->openFromFolderLabel);
+    Clickable::enable(m_outlets->openFolderImageView);
     connectOutlets();
     connectMenus();
     m_window.installEventFilter(this);
@@ -173,6 +204,8 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     }
+    if (watched == &m_window && event->type() == QEvent::PaletteChange)
+        m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     if (watched == qApp && event->type() == QEvent::FileOpen) {
         takeFiles({ static_cast<QFileOpenEvent *>(event)->file() });
         return true;

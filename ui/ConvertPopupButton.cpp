@@ -23,7 +23,7 @@ QSize ConvertPopupButton::sizeHint() const
 {
     const QSize text = fontMetrics().size(Qt::TextSingleLine, m_cell.title());
     const int line = fontMetrics().height();
-    return { text.width() + line * 7, line * 2 + 4 };
+    return { text.width() + line * 7, line * 2 + 6 };
 }
 
 bool ConvertPopupButton::event(QEvent *event)
@@ -71,8 +71,9 @@ void ConvertPopupButton::paintIndicator(QPainter &painter)
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
     painter.setPen(pen);
+    const double titleCentre = m_cell.titleRectForBounds(rect()).center().y();
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
-    painter.translate(leftToRight ? width() - inset : inset, height() / 2.0);
+    painter.translate(leftToRight ? width() - inset : inset, titleCentre);
     const double offset = m_cell.pullsDown() ? -arrow / 2 : arrow;
     const QPointF down[] = { { -arrow, offset }, { 0, offset + arrow }, { arrow, offset } };
     painter.drawPolyline(down, 3);

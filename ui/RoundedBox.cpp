@@ -9,11 +9,17 @@ void RoundedBox::setDashed(bool dashed)
     update();
 }
 
+void RoundedBox::setFill(const QColor &fill)
+{
+    m_fill = fill;
+    update();
+}
+
 void RoundedBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(palette().color(backgroundRole()));
+    painter.setBrush(m_fill.isValid() ? m_fill : palette().color(QPalette::Base));
     painter.setPen(Qt::NoPen);
     double inset = 0;
     if (m_dashed) {

@@ -1,0 +1,400 @@
+// SPDX-License-Identifier: MIT
+#include "engine/FFMPEG.h"
+#include "support/Bundle.h"
+#include "support/Defaults.h"
+#include "tests/fixtures/Media.h"
+#include "tests/fixtures/Processes.h"
+#include "tests/fixtures/ToolSwap.h"
+#include "tests/ui/User.h"
+#include "tests/ui/desktop/DesktopStandIn.h"
+#include "ui/AppDelegate.h"
+#include "ui/DropBox.h"
+#include "ui/ImageView.h"
+#include "ui/ProgressBar.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileOpenEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto question
+    = "Attention! Current converting process will be cancelled.\nAre you sure you want to continue?"_L1;
+constexpr char hundredSeconds[] = "print:Duration: 00:01:40.00, start: 0.000000\\n|output|";
+
+}
+
+class tst_workflow : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<AppDelegate> m_delegate;
+    std::unique_ptr<User> m_user;
+    QString m_film;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString url(const QString &name) const { return QUrl::fromLocalFile(path(name)).toString(); }
+
+    bool waitFor(WindowUIState state, int milliseconds = 20000)
+    {
+        return QTest::qWaitFor([&] { return m_delegate->uiState() == state; }, milliseconds);
+    }
+
+    bool open(const QString &name)
+    {
+        return m_user->drop({ url(name) }) && waitFor(WindowUIState::CoverIsSet);
+    }
+
+    /// Starts converting the film with a tool that follows the script.
+    std::unique_ptr<ToolSwap> convertWith(const QByteArray &script)
+    {
+        if (!open(u"film.mov"_s))
+            return nullptr;
+        auto swap = std::make_unique<ToolSwap>(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
+        m_user->names << u"result"_s;
+        m_user->choose(u"MKV"_s);
+        return swap;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QApplication::setQuitOnLastWindowClosed(false);
+        QApplication::setApplicationName(u"tst_workflow"_s);
+    }
+
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        Defaults::remove(u"LastSaveFolder"_s);
+        Defaults::remove(u"LastOpenFolder"_s);
+        m_film = path(u"film.mov"_s);
+        static const QByteArray film = [this] {
+            Media::film(m_film, 3);
+            QFile file(m_film);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        }();
+        QFile file(m_film);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(film) > 0);
+        m_delegate = std::make_unique<AppDelegate>();
+        m_user = std::make_unique<User>(*m_delegate->window());
+        m_delegate->applicationDidFinishLaunching();
+        m_delegate->window()->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_delegate->window()));
+    }
+
+    void cleanup()
+    {
+        m_delegate.reset();
+        m_user.reset();
+        QTRY_COMPARE(Processes::children(), QStringList());
+    }
+
+    void film_becomesAnother()
+    {
+        QVERIFY(open(u"film.mov"_s));
+        QCOMPARE(m_user->find<QLabel>("movieNameLabel")->text(), u"film.mov"_s);
+        QCOMPARE(m_user->find<QLabel>("movieDurationLabel")->text(), u"3s"_s);
+        QVERIFY(!m_user->find<ImageView>("movieCoverImageView")->image().isNull());
+        QCOMPARE(m_delegate->selectedFileExt(), u"mov"_s);
+
+        m_user->acceptsProposal = true;
+        m_user->choose(u"WebM"_s);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QCOMPARE(m_user->proposal, u"film.webm"_s);
+        QCOMPARE(m_delegate->resultFilePath(), path(u"film.webm"_s));
+        FFMPEG::shutDown();
+        QCOMPARE(Media::streamEntry(path(u"film.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
+        QCOMPARE(m_user->read, QStringList());
+
+        m_user->click("startOverButton");
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(open(u"film.webm"_s));
+    }
+
+    void keyboard_isEnough()
+    {
+        auto *window = m_delegate->window();
+        m_user->names << m_film << u"by keyboard"_s;
+        QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(QApplication::focusWidget(), m_user->view("convertToButton"));
+        QTimer::singleShot(0, this, [this] {
+            auto *menu = m_user->find<QMenu>("formatMenu");
+            QTest::keyClick(menu, Qt::Key_Up);
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
+        QCOMPARE(QApplication::focusWidget(), m_user->view("openFolderImageView"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(m_user->view("openFromFolderLabel")->hasFocus());
+        m_user->names << m_film;
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+    }
+
+    void file_arrivesOnEveryWay_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char *way : { "label", "menu", "paste", "open event", "take" })
+            QTest::newRow(way) << QString::fromLatin1(way);
+    }
+    void file_arrivesOnEveryWay()
+    {
+        QFETCH(const QString, way);
+        QTest::mouseMove(m_delegate->window());
+        QMimeData files;
+        const auto bring = [&] {
+            if (way == "label"_L1 || way == "menu"_L1) {
+                m_user->names = { m_film };
+                way == "label"_L1 ? m_user->click("openFromFolderLabel")
+                                  : m_user->find<QAction>("openAction")->trigger();
+            } else if (way == "paste"_L1) {
+                auto *copied = new QMimeData;
+                copied->setUrls({ QUrl::fromLocalFile(m_film) });
+                QApplication::clipboard()->setMimeData(copied);
+                QTest::keyClick(m_delegate->window(), Qt::Key_V, Qt::ControlModifier);
+            } else if (way == "open event"_L1) {
+                QFileOpenEvent event(m_film);
+                QApplication::sendEvent(qApp, &event);
+            } else {
+                m_delegate->takeFiles({ m_film, u"/ignored"_s });
+            }
+        };
+        // Only while drops are.
+        m_delegate->setUiState(WindowUIState::Converting);
+        bring();
+        QTest::qWait(20);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
+        QCOMPARE(m_user->sheets, 0);
+        m_delegate->setUiState(WindowUIState::InitialState);
+        bring();
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(m_delegate->processingFilePath(), m_film);
+    }
+
+    void drop_ofSomethingElseIsIgnored()
+    {
+        QVERIFY(!m_user->drop({}));
+        m_user->drop({ u"http://localhost/film.mov"_s });
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        // While a message stands, too.
+        m_user->whileReading = [this] {
+            m_user->whileReading = {};
+            m_user->drop({ url(u"film.mov"_s) });
+            m_delegate->takeFiles({ m_film });
+        };
+        m_delegate->takeFiles({ path(u"gone.mov"_s) });
+        QTRY_COMPARE(m_user->read.size(), 1);
+        QTest::qWait(50);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+    }
+
+    void badFile_isRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("folder") << u"folder.mov"_s;
+        QTest::newRow("gone") << u"gone.mov"_s;
+        QTest::newRow("empty") << u"empty.mov"_s;
+        QTest::newRow("text") << u"text.mov"_s;
+    }
+    void badFile_isRefused()
+    {
+        QFETCH(const QString, name);
+        QDir(m_folder->path()).mkdir(u"folder.mov"_s);
+        QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
+        QFile text(path(u"text.mov"_s));
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no film at all\n") > 0);
+        QVERIFY(open(u"film.mov"_s));
+        QVERIFY(m_user->drop({ url(name) }));
+        QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QCOMPARE(m_delegate->processingFilePath(), m_film);
+        QVERIFY(open(u"film.mov"_s));
+    }
+
+    void sheets_canBeLeft()
+    {
+        m_user->click("openFromFolderLabel");
+        QTRY_COMPARE(m_user->sheets, 1);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(open(u"film.mov"_s));
+        for (const int count : { 2, 3 }) {
+            m_user->choose(u"GIF"_s);
+            QTRY_COMPARE(m_user->sheets, count);
+            QTRY_VERIFY(!QApplication::activeModalWidget());
+            QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
+        }
+        const QAction unknown(u"Betamax"_s);
+        m_delegate->rawFormatMenuItemPressed(&unknown);
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void source_isNeverTheDestination()
+    {
+        QVERIFY(QFile::rename(m_film, path(u"film.mp4"_s)));
+        QVERIFY(QFile::link(path(u"film.mp4"_s), path(u"link.mp4"_s)));
+        const qint64 size = QFileInfo(path(u"film.mp4"_s)).size();
+        QVERIFY(open(u"film.mp4"_s));
+        m_user->saysYes = true;
+        m_user->names << u"film.mp4"_s << u"./link.mp4"_s << u"other"_s;
+        m_user->choose(u"MP4"_s);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QCOMPARE(m_user->proposal, u"film 2.mp4"_s);
+        QCOMPARE(m_user->sheets, 3);
+        QCOMPARE(m_user->read.count(u"The video can't be converted into itself"_s), 2);
+        QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
+        QCOMPARE(QFileInfo(path(u"film.mp4"_s)).size(), size);
+    }
+
+    void cancel_asksFirst()
+    {
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:3000:20000");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        QTRY_VERIFY(m_user->find<ProgressBar>("progressBar")->doubleValue() > 0.01);
+        QTRY_VERIFY(m_delegate->window()->windowTitle().startsWith("1% – "_L1));
+        QTest::keyClick(m_delegate->window(), Qt::Key_Escape);
+        QCOMPARE(m_user->read, QStringList(question));
+        QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
+
+        m_user->saysYes = true;
+        m_user->click("cancelProgressImageView");
+        QVERIFY(waitFor(WindowUIState::InitialState, 1000));
+        QCOMPARE(m_user->read, QStringList({ question, question }));
+        QTRY_VERIFY(!QFile::exists(path(u"result.mkv"_s)));
+        QTest::qWait(50);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(!m_delegate->window()->windowTitle().contains(u'%'));
+    }
+
+    void cancel_comesTooLate()
+    {
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:3000");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        m_user->saysYes = true;
+        m_user->whileReading = [this] { QVERIFY(waitFor(WindowUIState::ConversionIsDone)); };
+        m_user->click("cancelProgressButton");
+        QCOMPARE(m_delegate->uiState(), WindowUIState::ConversionIsDone);
+        FFMPEG::shutDown();
+        QVERIFY(QFile::exists(path(u"result.mkv"_s)));
+    }
+
+    void failure_isTold_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<WindowUIState>("state");
+        QTest::newRow("exit status")
+            << QByteArray("sleep:50|exit:1") << u"Error processing 100%d %@.mov"_s
+            << WindowUIState::InitialState;
+        QTest::newRow("signal") << QByteArray("signal:9") << u"Error processing 100%d %@.mov"_s
+                                << WindowUIState::InitialState;
+        QTest::newRow("stopped short") << QByteArray(hundredSeconds) + "reports:10:10000|exit:0"
+                                       << QString() << WindowUIState::ConversionIsDone;
+        QTest::newRow("short after one report")
+            << QByteArray(hundredSeconds) + "print:time=00:00:05.00 bitrate\\n|sleep:50|exit:0"
+            << u"Error processing 100%d %@.mov\nThe converting progress was finished at 5s"_s
+            << WindowUIState::ConversionIsDone;
+    }
+    void failure_isTold()
+    {
+        QFETCH(const QByteArray, script);
+        QVERIFY(QFile::rename(m_film, path(u"100%d %@.mov"_s)));
+        QVERIFY(open(u"100%d %@.mov"_s));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
+        m_user->names << u"result"_s;
+        m_user->choose(u"MKV"_s);
+        QFETCH(const QString, message);
+        if (!message.isEmpty())
+            QTRY_COMPARE(m_user->read, QStringList(message));
+        QFETCH(const WindowUIState, state);
+        QVERIFY(waitFor(state));
+        QVERIFY(open(u"100%d %@.mov"_s) || state == WindowUIState::InitialState);
+    }
+
+    void missingTool_leavesTheWindowUsable()
+    {
+        QVERIFY(open(u"film.mov"_s));
+        {
+            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::Nothing);
+            m_user->names << u"result"_s;
+            m_user->choose(u"MKV"_s);
+            QVERIFY(waitFor(WindowUIState::InitialState));
+            const ToolSwap probeSwap(u"ffprobe"_s, ToolSwap::With::UnexecutableFile);
+            m_delegate->takeFiles({ m_film });
+            QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
+        }
+        QVERIFY(open(u"film.mov"_s));
+    }
+
+    void unknownLength_looksBusy()
+    {
+        const auto swap = convertWith("output|print:Duration: N/A, start: 0.0\\n|sleep:300|exit:0");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        QVERIFY(m_user->find<ProgressBar>("progressBar")->isBusy());
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+    }
+
+    void close_asksAndWaits()
+    {
+        auto *window = m_delegate->window();
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "deaf|reports:3000:20000");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        QVERIFY(!window->close());
+        QCOMPARE(m_user->read, QStringList(question));
+        QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
+        m_user->saysYes = true;
+        QVERIFY(!window->close());
+        QVERIFY(window->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 10000);
+        QVERIFY(!QFile::exists(path(u"result.mkv"_s)));
+    }
+
+    void close_leavesTheLastBytesAlone()
+    {
+        auto *window = m_delegate->window();
+        const auto swap
+            = convertWith(QByteArray(hundredSeconds) + "reports:100:100|sleep:500|exit:0");
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QVERIFY(!window->close());
+        QTRY_VERIFY(!window->isVisible());
+        QCOMPARE(m_user->read, QStringList());
+        QVERIFY(QFile::exists(path(u"result.mkv"_s)));
+    }
+
+    void desktop_isTold()
+    {
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(u"org.freedesktop.FileManager1"_s));
+        QVERIFY(desktop.offer(u"org.freedesktop.Notifications"_s));
+        desktop.answer(u"ShowItems"_s, {});
+        desktop.answer(u"Notify"_s, { 7U });
+        QWidget front;
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:1000|exit:0");
+        front.show();
+        front.activateWindow();
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        m_user->click("openFolderImageView");
+        QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
+        QCOMPARE(desktop.calls(u"ShowItems"_s).constFirst().arguments().constFirst().toStringList(),
+            QStringList(url(u"result.mkv"_s)));
+    }
+};
+
+QTEST_MAIN(tst_workflow)
+#include "tst_workflow.moc"
