@@ -48,7 +48,7 @@ void FFMPEG::collectMovieInfo(
 }
 
 void FFMPEG::collectMovieInfo(const QString &path, std::function<void(ProbeRefusal)> errorHandler,
-    InfoHandler completionHandler)
+    InfoHandler completionHandler, Cover coverWish)
 {
     // A FIFO would make the tool wait for ever.
     if (!isRegularFile(path)) {
@@ -67,12 +67,15 @@ void FFMPEG::collectMovieInfo(const QString &path, std::function<void(ProbeRefus
         }
         const qint64 seconds = std::get<qint64>(result);
         const DurationInfo duration(seconds);
-        getFFmpegMovieCover(
-            path, MovieProbe::coverOffset(duration), [=, info = *json](const QImage &cover) {
-                completionHandler(info, cover, duration.toString());
-                Analytics::send(
-                    QString(), u"adding_video"_s, u"size"_s, MovieProbe::lengthBucket(seconds));
-            });
+        const auto complete = [=, info = *json](const QImage &cover) {
+            completionHandler(info, cover, duration.toString());
+            Analytics::send(
+                QString(), u"adding_video"_s, u"size"_s, MovieProbe::lengthBucket(seconds));
+        };
+        if (coverWish == Cover::Taken)
+            getFFmpegMovieCover(path, MovieProbe::coverOffset(duration), complete);
+        else
+            complete({});
     });
 }
 

@@ -24,6 +24,9 @@ enum class ProbeRefusal {
     SizeDiffers,
 };
 
+/// Whether a probe takes the film's cover, which costs a run of its own.
+enum class Cover { Taken, LeftOut };
+
 /// Examines films and converts them, each time by one run of a tool of the application's bundle.
 /// Thread: call on the main thread; every call returns at once. All handlers run on the main
 /// thread.
@@ -40,9 +43,10 @@ public:
     /// Describes a film. Exactly one of the handlers runs.
     static void collectMovieInfo(
         const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler);
-    /// The same, with the reason of a refusal.
+    /// The same, with the reason of a refusal, and without a cover where that is left out.
     static void collectMovieInfo(const QString &path,
-        std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler);
+        std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler,
+        Cover cover = Cover::Taken);
 
     /// Converts a probed film. The progress object is indeterminate until the tool tells the
     /// length. Cancelling it stops the tool and removes the partly written output. Errors:
