@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "tests/cli/Command.h"
+
+#include "support/Bundle.h"
+
+#include <QDirIterator>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <csignal>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr unsigned nobody = 65534;
+
+QString copiedProgram()
+{
+    const QString copy = Bundle::main().bundlePath() + u"/Contents/MacOS/video-converter-cli"_s;
+    QFile::remove(copy);
+    if (!QFile::copy(QStringLiteral(VC_CLI_PROGRAM), copy))
+        qFatal("The program can't be copied to %s", qPrintable(copy));
+    return copy;
+}
+
+// Runs in the child between fork and exec.
+void prepareChild(bool unprivileged)
+{
+    // A test run in the background of a script has it ignored.
+    ::signal(SIGINT, SIG_DFL);
+    if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+        ::_exit(126);
+}
+
+}
+
+QList<QJsonObject> Finished::events() const
+{
+    QList<QJsonObject> events;
+    for (const QString &line : out.split(u'\n', Qt::SkipEmptyParts))
+        events << QJsonDocument::fromJson(line.toUtf8()).object();
+    return events;
+}
+
+Command::Command()
+{
+    if (!m_folder.isValid())
+        qFatal("No temporary folder");
+}
+
+QString Command::program()
+{
+    static const QString program = copiedProgram();
+    return program;
+}
+
+QStringList Command::listing() const
+{
+    QStringList entries;
+    QDirIterator all(m_folder.path(),
+        QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
+        QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        const QFileInfo info(all.next());
+        const qint64 size = info.isFile() ? info.size() : -1;
+        entries << info.filePath().sliced(m_folder.path().size()) + u' ' + QString::number(size);
+    }
+    entries.sort();
+    return entries;
+}
+
+QByteArray Command::contents(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Command::write(const QString &name, const QByteArray &bytes) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s can't be written", qPrintable(file.fileName()));
+}
+
+bool Command::dropPrivileges()
+{
+    if (::geteuid() != 0)
+        return true;
+    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
+    m_unprivileged = true;
+    m_unprivileged = run({ u"--version"_s }).exitCode == 0;
+    return m_unprivileged;
+}
+
+std::unique_ptr<QProcess> Command::start(const QStringList &arguments) const
+{
+    auto process = std::make_unique<QProcess>();
+    process->setWorkingDirectory(m_folder.path());
+    process->setProgram(program());
+    process->setArguments(arguments);
+    process->setChildProcessModifier(
+        [unprivileged = m_unprivileged] { prepareChild(unprivileged); });
+    process->start();
+    return process;
+}
+
+Finished Command::wait(QProcess &process)
+{
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished(60'000))
+        process.kill();
+    return { .exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+        .out = QString::fromUtf8(process.readAllStandardOutput()),
+        .err = QString::fromUtf8(process.readAllStandardError()) };
+}
+
+Finished Command::run(const QStringList &arguments, const QByteArray &input) const
+{
+    const auto process = start(arguments);
+    process->write(input);
+    process->closeWriteChannel();
+    return wait(*process);
+}
