@@ -49,9 +49,9 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME video-converter)
 set(CPACK_PACKAGE_CONTACT "The Video Converter authors <video-converter@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "convert a film for another device or format")
-set(CPACK_PACKAGE_DESCRIPTION "Drop a film on the window, pick a device, a format or a quality, name the result
-and watch it being made. What already suits the target is copied as it is; only
-the rest is encoded anew.
+set(CPACK_PACKAGE_DESCRIPTION "Drop a film on the window, pick a device, a format or a quality, name the
+result and watch it being made. What already suits the target is copied as it
+is; only the rest is encoded anew.
 .
 The package also has a headless command with the same engine.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
