@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int iconSize = 96;
+constexpr int narrowest = 240;
 
 QString programName()
 {
@@ -55,6 +56,7 @@ AboutWindow::AboutWindow()
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 24);
     layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addStrut(narrowest);
 
     auto *icon = addLabel(layout, {});
     icon->setPixmap(QApplication::windowIcon().pixmap(iconSize));

@@ -45,14 +45,13 @@ bool mayUse(const QString &path, bool hasAsked)
 
 }
 
-SaveSheet::SaveSheet(
-    QWidget *window, const QString &folder, const QString &filename, QString extension)
+SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QString extension)
     : QFileDialog(window,
         text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
             "Convert"),
         folder)
     , m_extension(std::move(extension))
-    , m_proposed(filename + u'.' + m_extension)
+    , m_proposed(std::move(name))
 {
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
@@ -79,13 +78,13 @@ void SaveSheet::accept()
         return enterFolder(chosen);
     const QString path = withExtension(chosen, m_extension);
     const bool hasAsked = isNative && path == chosen;
-    if (!mayUse(path, hasAsked)) {
-        if (isNative)
-            comeAgain(path);
-        return;
+    if (mayUse(path, hasAsked)) {
+        m_path = path;
+        QDialog::accept();
+    } else if (isNative) {
+        m_refusedPath = path;
+        QDialog::reject();
     }
-    m_path = path;
-    QDialog::accept();
 }
 
 QLineEdit *SaveSheet::nameField() const { return findChild<QLineEdit *>(u"fileNameEdit"_s); }
@@ -106,14 +105,4 @@ void SaveSheet::enterFolder(const QString &path)
 {
     setDirectory(path);
     nameField()->setText(m_proposed);
-}
-
-void SaveSheet::comeAgain(const QString &path)
-{
-    hide();
-    const auto show = [this, path] {
-        selectFile(path);
-        open();
-    };
-    QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }

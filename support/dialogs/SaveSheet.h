@@ -7,14 +7,16 @@
 class QLineEdit;
 
 /// File dialog for one result with one allowed extension; used through runSaveToSheet().
+/// Has no Q_OBJECT: the toolkit takes the desktop's own dialog only for its very own class.
 class SaveSheet : public QFileDialog {
-    Q_OBJECT
-
 public:
-    SaveSheet(QWidget *window, const QString &folder, const QString &filename, QString extension);
+    SaveSheet(QWidget *window, const QString &folder, QString name, QString extension);
 
     /// The confirmed path, once the dialog has been accepted.
     [[nodiscard]] QString path() const { return m_path; }
+    /// The path that a dialog of the desktop gave but the user did not want to replace, once it has
+    /// been rejected for that. Such a dialog has closed itself and can't be shown again.
+    [[nodiscard]] QString refusedPath() const { return m_refusedPath; }
 
 protected:
     void accept() override;
@@ -23,9 +25,9 @@ private:
     [[nodiscard]] QLineEdit *nameField() const;
     [[nodiscard]] QString typedPath() const;
     void enterFolder(const QString &path);
-    void comeAgain(const QString &path);
 
     QString m_extension;
     QString m_proposed;
     QString m_path;
+    QString m_refusedPath;
 };

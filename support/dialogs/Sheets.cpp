@@ -27,6 +27,24 @@ void rememberFolderOf(const QString &path, const QString &key)
     Defaults::setValue(key, Path::stringByDeletingLastPathComponent(path));
 }
 
+void openSaveSheet(QWidget *window, const QString &folder, const QString &name, const QString &ext,
+    const std::function<void(const QString &path)> &path)
+{
+    auto *sheet = new SaveSheet(window, folder, name, ext);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] {
+        rememberFolderOf(sheet->path(), lastSaveFolder);
+        path(sheet->path());
+    });
+    QObject::connect(sheet, &QDialog::rejected, sheet, [=] {
+        const QString refused = sheet->refusedPath();
+        if (!refused.isEmpty())
+            openSaveSheet(window, Path::stringByDeletingLastPathComponent(refused),
+                Path::lastPathComponent(refused), ext, path);
+    });
+    sheet->open();
+}
+
 }
 
 void runChooseSheet(
@@ -51,13 +69,7 @@ void runChooseSheet(
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
     const std::function<void(const QString &path)> &path, const QString &startFolder)
 {
-    auto *sheet = new SaveSheet(window, saveFolder(startFolder), filename, ext);
-    sheet->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] {
-        rememberFolderOf(sheet->path(), lastSaveFolder);
-        path(sheet->path());
-    });
-    sheet->open();
+    openSaveSheet(window, saveFolder(startFolder), filename + u'.' + ext, ext, path);
 }
 
 QString saveFolder(const QString &startFolder)

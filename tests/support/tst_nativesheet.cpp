@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "Answering.h"
+#include "support/Defaults.h"
+#include "support/dialogs/Sheets.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusInterface>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDir>
+#include <QFile>
+#include <QLibraryInfo>
+#include <QSocketNotifier>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QWidget>
+
+#include <sys/socket.h>
+#include <unistd.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+/// The desktop's dialog service, which runs file dialogs in a process of its own. It keeps what it
+/// is asked and answers when it is told to.
+class Portal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+    Q_PROPERTY(uint version MEMBER m_version CONSTANT)
+
+public:
+    static int run(int argc, char *argv[], int connectedToTest)
+    {
+        const QCoreApplication app(argc, argv);
+        Portal portal;
+        auto bus = QDBusConnection::sessionBus();
+        bus.registerObject(objectPath, &portal,
+            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties);
+        bus.registerService(service);
+        const bool isReported = ::write(connectedToTest, "r", 1) == 1;
+        const QSocketNotifier testsEnd(connectedToTest, QSocketNotifier::Read);
+        connect(&testsEnd, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
+        return isReported ? QCoreApplication::exec() : 1;
+    }
+
+    static inline const QString service = u"org.freedesktop.portal.Desktop"_s;
+    static inline const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
+
+public Q_SLOTS:
+    QDBusObjectPath SaveFile(const QString & /*parentWindow*/, const QString &title,
+        const QVariantMap &options, const QDBusMessage &message)
+    {
+        m_caller = message.service();
+        m_call = options;
+        m_call.insert(u"title"_s, title);
+        return QDBusObjectPath(m_request);
+    }
+
+    /// What the last dialog was asked with, once.
+    QVariantMap TakeCall() { return std::exchange(m_call, {}); }
+
+    /// No address means that the user cancelled.
+    void Answer(const QString &url) const
+    {
+        auto signal = QDBusMessage::createTargetedSignal(
+            m_caller, m_request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        signal << (url.isEmpty() ? 1U : 0U) << QVariantMap{ { u"uris"_s, QStringList{ url } } };
+        QDBusConnection::sessionBus().send(signal);
+    }
+
+private:
+    const uint m_version = 3;
+    const QString m_request = u"/request"_s;
+    QString m_caller;
+    QVariantMap m_call;
+};
+
+namespace {
+
+QVariant portal(const QString &method, const QVariantList &arguments = {})
+{
+    QDBusInterface chooser(Portal::service, Portal::objectPath,
+        u"org.freedesktop.portal.FileChooser"_s, QDBusConnection::sessionBus());
+    return chooser.callWithArgumentList(QDBus::Block, method, arguments).arguments().value(0);
+}
+
+void answer(const QString &path)
+{
+    const QUrl url = path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path);
+    portal(u"Answer"_s, { url.toString(QUrl::FullyEncoded) });
+}
+
+}
+
+class TestNativeSheet : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void typedName_isTakenAsItIs();
+    void appendedExtension_isAskedAbout();
+    void cancelledDialog_callsNothing();
+
+private:
+    void save();
+    static void awaitDialog(const QString &name);
+    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QWidget> m_window;
+    QStringList m_paths;
+};
+
+void TestNativeSheet::initTestCase()
+{
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
+    if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
+        QSKIP("The toolkit's theme for the desktop portal is not installed");
+}
+
+void TestNativeSheet::init()
+{
+    Defaults::remove(u"LastSaveFolder"_s);
+    m_paths.clear();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_window = std::make_unique<QWidget>();
+    m_window->show();
+    m_window->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+    QFile film(path(u"film.mp4"_s));
+    QVERIFY(film.open(QIODevice::WriteOnly));
+}
+
+void TestNativeSheet::save()
+{
+    runSaveToSheet(
+        m_window.get(), u"proposed"_s, u"mp4"_s, [this](const QString &path) { m_paths += path; },
+        m_folder->path());
+    awaitDialog(u"proposed.mp4"_s);
+}
+
+// The dialog hears its answer only after it has read the reply to its request; so let it.
+void TestNativeSheet::awaitDialog(const QString &name)
+{
+    QVariantMap call;
+    QVERIFY(QTest::qWaitFor([&] {
+        call = qdbus_cast<QVariantMap>(portal(u"TakeCall"_s));
+        return !call.isEmpty();
+    }));
+    QCOMPARE(call.value(u"title"_s).toString(), u"Convert"_s);
+    QCOMPARE(call.value(u"accept_label"_s).toString(), u"Convert"_s);
+    QCOMPARE(call.value(u"current_name"_s).toString(), name);
+    for (int i = 0; i < 3; ++i) {
+        portal(u"TakeCall"_s);
+        QCoreApplication::processEvents();
+    }
+}
+
+void TestNativeSheet::typedName_isTakenAsItIs()
+{
+    save();
+    // The desktop has asked about the existing file itself.
+    const Answering answering([](QMessageBox &box) { box.close(); });
+    answer(path(u"film.mp4"_s));
+    QTRY_COMPARE(m_paths, QStringList{ path(u"film.mp4"_s) });
+    QVERIFY(!answering.wasShown);
+}
+
+void TestNativeSheet::appendedExtension_isAskedAbout()
+{
+    save();
+    {
+        const Answering refusal(
+            [](QMessageBox &box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
+        answer(path(u"film"_s));
+        QTRY_VERIFY(refusal.wasShown);
+    }
+    awaitDialog(u"film.mp4"_s);
+    QVERIFY(m_paths.isEmpty());
+
+    const Answering agreement([](QMessageBox &box) {
+        QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(box.focusWidget(), Qt::Key_Space);
+    });
+    answer(path(u"film"_s));
+    QTRY_COMPARE(m_paths, QStringList{ path(u"film.mp4"_s) });
+    QVERIFY(agreement.wasShown);
+    QTRY_VERIFY(!QApplication::activeModalWidget());
+}
+
+void TestNativeSheet::cancelledDialog_callsNothing()
+{
+    save();
+    answer({});
+    QTRY_VERIFY(!QApplication::activeModalWidget());
+    QVERIFY(m_paths.isEmpty());
+}
+
+int main(int argc, char *argv[])
+{
+    // The service has to be there before the desktop's theme is loaded, and ends with this process.
+    int ends[2];
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0)
+        return 1;
+    if (::fork() == 0) {
+        ::close(ends[0]);
+        return Portal::run(argc, argv, ends[1]);
+    }
+    ::close(ends[1]);
+    char ready = 0;
+    if (::read(ends[0], &ready, 1) != 1)
+        return 1;
+
+    qputenv("QT_QPA_PLATFORMTHEME", "xdgdesktopportal");
+    const QApplication app(argc, argv);
+    TestNativeSheet test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_nativesheet.moc"
