@@ -119,7 +119,7 @@ std::optional<Failure> converted(const ConversionItem &item, const CommandLine &
 {
     if (auto refusal = destinationRefusal(item.destPath, all, line.overwrite))
         return refusal;
-    const auto film = examined(item.path, interruption);
+    const auto film = examined(item.path, Cover::LeftOut, interruption);
     if (const auto *refusal = std::get_if<Failure>(&film))
         return *refusal;
     return Conversion(item, reporter)

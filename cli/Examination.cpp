@@ -2,7 +2,6 @@
 #include "cli/Examination.h"
 
 #include "cli/Interruption.h"
-#include "engine/FFMPEG.h"
 #include "support/Bundle.h"
 #include "support/FileSystem.h"
 #include "support/Format.h"
@@ -11,6 +10,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <cerrno>
 #include <functional>
@@ -99,7 +99,7 @@ struct Answer {
     }
 };
 
-void ask(const QString &path, const std::shared_ptr<Answer> &answer)
+void ask(const QString &path, Cover coverWish, const std::shared_ptr<Answer> &answer)
 {
     const auto refuse = [answer](ProbeRefusal refusal) {
         const ExitCode code = refusal == ProbeRefusal::ToolNotLaunched ? ExitCode::ToolsMissing
@@ -111,17 +111,20 @@ void ask(const QString &path, const std::shared_ptr<Answer> &answer)
             .duration = duration,
             .cover = cover.isNull() ? std::nullopt : std::optional(cover.size()) });
     };
-    FFMPEG::collectMovieInfo(path, refuse, accept);
+    FFMPEG::collectMovieInfo(path, refuse, accept, coverWish);
 }
 
 }
 
 QString absolutePath(const QString &path)
 {
-    return path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path;
+    static const QRegularExpression nothing(u"/(?:\\.?/)+"_s);
+    QString absolute = path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path;
+    return absolute.replace(nothing, u"/"_s);
 }
 
-std::variant<FilmDescription, Failure> examined(const QString &path, Interruption &interruption)
+std::variant<FilmDescription, Failure> examined(
+    const QString &path, Cover cover, Interruption &interruption)
 {
     if (const QString refusal = fileRefusal(path); !refusal.isEmpty())
         return Failure{ ExitCode::InputRefused, refusal };
@@ -131,7 +134,7 @@ std::variant<FilmDescription, Failure> examined(const QString &path, Interruptio
     const auto answer = std::make_shared<Answer>();
     answer->wake = [&loop] { loop.quit(); };
     QObject::connect(&interruption, &Interruption::arrived, &loop, &QEventLoop::quit);
-    ask(path, answer);
+    ask(path, cover, answer);
     if (Interruption::signal() == 0)
         loop.exec();
     answer->wake = nullptr;

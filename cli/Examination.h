@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/ExitCode.h"
+#include "engine/FFMPEG.h"
 #include "support/JSON.h"
 
 #include <QSize>
@@ -21,10 +22,11 @@ struct FilmDescription {
 };
 
 /// The path, made absolute: the tools take a relative one that begins with a dash for an option,
-/// and one with a colon for a protocol. Nothing else about it is changed.
+/// and one with a colon for a protocol. "//" and "/./" become "/"; a ".." may lead through a link
+/// and stays.
 [[nodiscard]] QString absolutePath(const QString &path);
 
 /// Examines the film at an absolute path and waits for the result; Cancelled when the program is
 /// interrupted. Thread: the main thread; an event loop runs inside.
 [[nodiscard]] std::variant<FilmDescription, Failure> examined(
-    const QString &path, Interruption &interruption);
+    const QString &path, Cover cover, Interruption &interruption);

@@ -92,7 +92,7 @@ ExitCode planConversions(const CommandLine &line, Interruption &interruption)
         print(line, std::get<JSON>(saved));
         return ExitCode::Done;
     }
-    const auto result = examined(absolutePath(line.films.first()), interruption);
+    const auto result = examined(absolutePath(line.films.first()), Cover::LeftOut, interruption);
     if (const auto *failure = std::get_if<Failure>(&result))
         return Output::failure(line.films.first(), *failure);
     print(line, std::get<FilmDescription>(result).info);

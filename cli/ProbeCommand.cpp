@@ -70,7 +70,7 @@ void printText(const FilmDescription &film)
 ExitCode probeFilm(const CommandLine &line, Interruption &interruption)
 {
     const QString &name = line.films.first();
-    const auto result = examined(absolutePath(name), interruption);
+    const auto result = examined(absolutePath(name), Cover::Taken, interruption);
     if (const auto *failure = std::get_if<Failure>(&result))
         return Output::failure(name, *failure);
     const auto &film = std::get<FilmDescription>(result);

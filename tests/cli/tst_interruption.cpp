@@ -143,13 +143,12 @@ void TestInterruption::signal_endsTheWholeList()
     const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|forever");
     const auto process = m_command.start({ u"convert"_s, u"--to"_s, u"MKV"_s, u"film.mp4"_s,
         u"second.mp4"_s, u"-d"_s, u"."_s, u"--json"_s });
-    // The cover's tool is the same fake one, so the signal comes while the cover or the conversion
-    // runs.
     QTRY_VERIFY_WITH_TIMEOUT(
-        !Processes::withArgument(m_command.path(u"film.mp4"_s)).isEmpty(), 10'000);
+        !Processes::withArgument(m_command.path(u"film.mkv"_s)).isEmpty(), 10'000);
     QCOMPARE(::kill(static_cast<pid_t>(process->processId()), SIGTERM), 0);
     const Finished stopped = Command::wait(*process);
     QCOMPARE(stopped.exitCode, 143);
+    QVERIFY2(stopped.out.contains(u"\"cancelled\""_s), qPrintable(stopped.out));
     QVERIFY2(!stopped.out.contains(u"second.mp4"_s), qPrintable(stopped.out));
     QVERIFY(QFile::remove(m_command.path(u"second.mp4"_s)));
     QCOMPARE(files(), QStringList{ u"film.mp4"_s });
