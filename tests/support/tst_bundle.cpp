@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -32,7 +31,6 @@ private Q_SLOTS:
     void doNotTrack_isObeyed();
     void text_hasTranslationOrEnglish_data();
     void text_hasTranslationOrEnglish();
-    void language_isThatOfTheLocale();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -197,14 +195,6 @@ void TestBundle::text_hasTranslationOrEnglish()
     OneText translator;
     QCoreApplication::installTranslator(&translator);
     QTEST(localized(text), "translated");
-}
-
-void TestBundle::language_isThatOfTheLocale()
-{
-    QLocale::setDefault(QLocale(u"pt_BR"_s));
-    QCOMPARE(languageCode(), std::optional(u"pt"_s));
-    QLocale::setDefault(QLocale::c());
-    QCOMPARE(languageCode(), std::nullopt);
 }
 
 int main(int argc, char *argv[])

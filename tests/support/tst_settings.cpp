@@ -3,7 +3,6 @@
 #include "support/Preferences.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QSettings>
 #include <QTest>
 
@@ -22,7 +21,6 @@ private Q_SLOTS:
     void firstLaunchOfOtherType_isReplaced();
     void key_isItsExactText_data();
     void key_isItsExactText();
-    void unwritableStore_isIgnored();
 
 private:
     // Reads the store as another run of the program does, from the disk.
@@ -126,17 +124,6 @@ void TestSettings::key_isItsExactText()
     QTEST(key, "key");
     if (key)
         QCOMPARE(rawValue(*key), text);
-}
-
-void TestSettings::unwritableStore_isIgnored()
-{
-    QProcess run;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_CONFIG_HOME"_s, u"/dev/null/none"_s);
-    run.setProcessEnvironment(environment);
-    run.start(QCoreApplication::applicationFilePath(), { u"firstRun_isRemembered"_s });
-    QVERIFY(run.waitForFinished());
-    QCOMPARE(run.exitStatus(), QProcess::NormalExit);
 }
 
 QTEST_GUILESS_MAIN(TestSettings)

@@ -19,7 +19,6 @@ class TestStatic : public QObject {
 private Q_SLOTS:
     void site_followsTheLanguage_data();
     void site_followsTheLanguage();
-    void aboutBox_isMadeOnce();
     void aboutBox_showsThisProgram();
     void aboutBox_showsCreditsAsPlainText();
     void aboutBox_hasWebSiteOnlyIfThereIsOne();
@@ -60,13 +59,6 @@ void TestStatic::site_followsTheLanguage()
     QTEST(Static::siteAddress(root, language, localizations), "site");
     QTEST(lines, "lines");
     Console::setSink([](const QString &) {});
-}
-
-void TestStatic::aboutBox_isMadeOnce()
-{
-    QCOMPARE(&Static::aboutWindow(), &Static::aboutWindow());
-    QCOMPARE(&Static::applicationURL(), &Static::applicationURL());
-    QCOMPARE(Static::onceToken, 0);
 }
 
 void TestStatic::aboutBox_showsThisProgram()
