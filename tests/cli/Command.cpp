@@ -48,6 +48,9 @@ Command::Command()
 {
     if (!m_folder.isValid())
         qFatal("No temporary folder");
+    // The texts are compared in English.
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
 }
 
 QString Command::program()
