@@ -1,0 +1,868 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Conversion Log</source>
+        <comment>title of the log&apos;s window</comment>
+        <translation>Registro de conversión</translation>
+    </message>
+    <message>
+        <source>Show Conversion Log</source>
+        <comment>menu command, opens a window</comment>
+        <translation>Mostrar el registro de conversión</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <comment>menu command</comment>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Film to open.</source>
+        <comment>help on the command line</comment>
+        <translation>Vídeo que se abrirá.</translation>
+    </message>
+    <message>
+        <source>Try &apos;video-converter-cli --help&apos;.</source>
+        <comment>Command line: follows a message about wrong usage</comment>
+        <translation>Pruebe «video-converter-cli --help».</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right one</comment>
+        <translation>No hay ninguna salida llamada «%@»; ¿quería decir «%@»?</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
+        <comment>Command line: wrong value of --to</comment>
+        <translation>No hay ninguna salida llamada «%@»; el comando «formats» las enumera.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; does not take --%@.</source>
+        <comment>Command line: a command and an option that does not belong to it</comment>
+        <translation>«%@» no admite --%@.</translation>
+    </message>
+    <message>
+        <source>--%@ needs one value.</source>
+        <comment>Command line: an option given twice or with an empty value</comment>
+        <translation>--%@ necesita un único valor.</translation>
+    </message>
+    <message>
+        <source>&apos;formats&apos; takes no files.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«formats» no admite archivos.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; takes exactly one file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«probe» admite exactamente un archivo.</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«plan» admite un vídeo y un archivo de salida, o solo --info.</translation>
+    </message>
+    <message>
+        <source>There is no film to convert.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>No hay ningún vídeo que convertir.</translation>
+    </message>
+    <message>
+        <source>&apos;convert&apos; needs either --output or --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«convert» necesita --output o --folder.</translation>
+    </message>
+    <message>
+        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>No se pueden guardar varios vídeos en un solo archivo de salida; use --folder.</translation>
+    </message>
+    <message>
+        <source>--to NAME is missing.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Falta --to NOMBRE.</translation>
+    </message>
+    <message>
+        <source>There is no command named &quot;%@&quot;.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>No hay ningún comando llamado «%@».</translation>
+    </message>
+    <message>
+        <source>%@; that much was kept.</source>
+        <comment>After: The converting progress was finished at 12s</comment>
+        <translation>%@; se ha conservado lo convertido hasta ahí.</translation>
+    </message>
+    <message>
+        <source>The tool that converts films can&apos;t be started.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>No se puede iniciar la herramienta que convierte los vídeos.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder does not exist.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La carpeta de destino no existe.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder is a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La carpeta de destino es un archivo.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>No se permite escribir en la carpeta de destino.</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El resultado no puede reemplazar un vídeo que se va a convertir.</translation>
+    </message>
+    <message>
+        <source>The destination is a folder, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El destino es una carpeta, no un archivo.</translation>
+    </message>
+    <message>
+        <source>The destination is a link that leads nowhere.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El destino es un enlace que no lleva a ninguna parte.</translation>
+    </message>
+    <message>
+        <source>The destination is a pipe or a device, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El destino es una tubería o un dispositivo, no un archivo.</translation>
+    </message>
+    <message>
+        <source>The destination exists already; --overwrite replaces it.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El destino ya existe; --overwrite lo reemplaza.</translation>
+    </message>
+    <message>
+        <source>The destination may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>No se permite escribir en el destino.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a film.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Es una carpeta, no un vídeo.</translation>
+    </message>
+    <message>
+        <source>The file may not be read: permission denied.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>No se puede leer el archivo: permiso denegado.</translation>
+    </message>
+    <message>
+        <source>This is a pipe or a device, not a file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Es una tubería o un dispositivo, no un archivo.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>The file has gone.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo ha desaparecido.</translation>
+    </message>
+    <message>
+        <source>The tool that examines films can&apos;t be started.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>No se puede iniciar la herramienta que analiza los vídeos.</translation>
+    </message>
+    <message>
+        <source>The file is no film, or it is damaged or incomplete.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo no es un vídeo, o está dañado o incompleto.</translation>
+    </message>
+    <message>
+        <source>The file does not tell how long it plays.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo no indica su duración.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s size can&apos;t be found out.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>No se puede averiguar el tamaño del archivo.</translation>
+    </message>
+    <message>
+        <source>The film is shorter than one second.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El vídeo dura menos de un segundo.</translation>
+    </message>
+    <message>
+        <source>The file is still being written, or could be read only in part.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>El archivo aún se está escribiendo o solo se pudo leer en parte.</translation>
+    </message>
+    <message>
+        <source>The tool %@ is missing or can&apos;t be run.</source>
+        <comment>Path of a program</comment>
+        <translation>La herramienta %@ falta o no se puede ejecutar.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Calidad MP4</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts films.
+
+  formats   lists the outputs that --to takes
+  probe     describes a film
+  plan      prints the tool&apos;s command line without running it
+  convert   converts films
+
+video-converter-cli COMMAND --help tells more about a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several films it is that of the first that was not converted.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation>Uso: video-converter-cli COMANDO [OPCIONES]
+Convierte vídeos.
+
+  formats   enumera las salidas que admite --to
+  probe     describe un vídeo
+  plan      muestra la línea de comandos de la herramienta sin ejecutarla
+  convert   convierte vídeos
+
+video-converter-cli COMANDO --help explica un comando. Todos los comandos admiten:
+  --json      muestra JSON
+  --verbose   muestra en el error estándar diagnósticos y todo lo que dice la herramienta
+  -h, --help  muestra esta ayuda
+  --version   muestra la versión
+
+Estado de salida: 0 correcto, 1 falló una conversión, 2 uso incorrecto,
+3 vídeo rechazado, 4 destino rechazado, 5 faltan las herramientas, 128 + N detenido por
+la señal N (130 tras Ctrl-C). Con varios vídeos es el del primero que no se convirtió.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli formats [--json]
+Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli formats [--json]
+Enumera las salidas que admite --to: dispositivos, formatos y calidades MP4.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a film. With --json: all that the tool says of it (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli probe ARCHIVO [--json]
+Describe un vídeo. Con --json: todo lo que la herramienta dice de él (info), su duración
+(duration, seconds) y el tamaño de su portada o null (cover).</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
+       video-converter-cli plan --to NAME --info JSONFILE [--json]
+Prints the tool&apos;s command line, quoted for a shell, without running it.
+
+  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
+  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+                   (- for standard input) and prints only the arguments that depend
+                   on it
+  --json           prints one object: name of the output, list of arguments</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli plan --to NOMBRE ARCHIVO SALIDA [--json]
+     video-converter-cli plan --to NOMBRE --info ARCHIVO_JSON [--json]
+Muestra la línea de comandos de la herramienta, entrecomillada para un intérprete de
+comandos, sin ejecutarla.
+
+  --to NOMBRE          la salida, una de las que enumera «formats», o bien all (todas)
+  --info ARCHIVO_JSON  toma la descripción del vídeo de un archivo creado con
+                       «probe --json» (- para la entrada estándar) y muestra solo los
+                       argumentos que dependen de ella
+  --json               muestra un objeto: nombre de la salida, lista de argumentos</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
+  --overwrite          replaces files that exist; a film itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli convert --to NOMBRE ARCHIVO -o SALIDA
+     video-converter-cli convert --to NOMBRE ARCHIVO... -d CARPETA
+Convierte vídeos, uno tras otro. Ctrl-C detiene y no deja ningún archivo a medias.
+
+  --to NOMBRE           la salida, una de las que enumera «formats»
+  -o, --output SALIDA   el archivo en el que escribir
+  -d, --folder CARPETA  la carpeta en la que escribir; los archivos reciben los nombres
+                        de los vídeos
+  --overwrite           reemplaza los archivos existentes; nunca el vídeo original
+  --json                muestra un objeto JSON por línea
+
+Un nombre que empieza con un guion va después de --, como en:
+convert --to GIF -o a.gif -- -a.mov</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <comment>The user stopped the program</comment>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>The output can&apos;t be written.</source>
+        <comment>Standard output is a file on a full disk</comment>
+        <translation>No se puede escribir la salida.</translation>
+    </message>
+    <message>
+        <source>%@: converted to %@ in %@</source>
+        <comment>Film, file that was made of it, time that it took</comment>
+        <translation>%@: convertido en %@ (tardó %@)</translation>
+    </message>
+    <message>
+        <source>%d of %d films converted</source>
+        <comment>Sum after the conversion of several films</comment>
+        <translation>Vídeos convertidos: %d de %d</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be opened.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>No se puede abrir el archivo.</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>El archivo no contiene JSON.</translation>
+    </message>
+    <message>
+        <source>%d ch</source>
+        <comment>Number of sound channels, abbreviated</comment>
+        <translation>canales: %d</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <comment>Property of a film</comment>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <comment>Property of a film</comment>
+        <translation>Contenedor</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <comment>Property of a film</comment>
+        <translation>Flujo</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>A film has no cover picture</comment>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <comment>Property of a film</comment>
+        <translation>Portada</translation>
+    </message>
+    <message>
+        <source>%@ so far</source>
+        <comment>Time that a conversion of unknown length has taken</comment>
+        <translation>%@ hasta ahora</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>Time that a conversion still needs</comment>
+        <translation>quedan %@</translation>
+    </message>
+    <message>
+        <source>There is no space left on the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>No queda espacio en el disco de destino.</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Se ha agotado la cuota de disco.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk does not take a file so large.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El disco de destino no admite un archivo tan grande.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk is read-only.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El disco de destino es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>Permission was denied to read the film or to write the result.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Se denegó el permiso para leer el vídeo o escribir el resultado.</translation>
+    </message>
+    <message>
+        <source>The installed tool has no encoder %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta instalada no tiene el codificador %@.</translation>
+    </message>
+    <message>
+        <source>The installed tool can&apos;t write the format %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta instalada no puede escribir el formato %@.</translation>
+    </message>
+    <message>
+        <source>The film or the destination&apos;s folder has gone.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El vídeo o la carpeta de destino han desaparecido.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name is too long.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El nombre de destino es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>A disk reported an error.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Un disco ha notificado un error.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>No había memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>The film holds nothing that this output can take.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El vídeo no contiene nada que esta salida admita.</translation>
+    </message>
+    <message>
+        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>El codificador no admite la imagen o el sonido del vídeo tal como están.</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta no dio señales durante demasiado tiempo y se detuvo.</translation>
+    </message>
+    <message>
+        <source>The tool was stopped from outside.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta fue detenida desde fuera del programa.</translation>
+    </message>
+    <message>
+        <source>The film&apos;s data is damaged.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Los datos del vídeo están dañados.</translation>
+    </message>
+    <message>
+        <source>The tool failed: %@</source>
+        <comment>Why a conversion failed; the tool&apos;s own words follow</comment>
+        <translation>Error de la herramienta: %@</translation>
+    </message>
+    <message>
+        <source>The tool was killed before it was done.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta se cerró a la fuerza antes de terminar.</translation>
+    </message>
+    <message>
+        <source>Video Converter quit unexpectedly the last time.</source>
+        <comment>crash question, title</comment>
+        <translation>Video Converter se cerró inesperadamente la última vez.</translation>
+    </message>
+    <message>
+        <source>May a report be sent to its makers? It says where the program stopped, its version and your system; nothing about your files is in it. “Always Send” also tells them when the program starts and how it ended.</source>
+        <comment>crash question, text</comment>
+        <translation>¿Permite enviar un informe a los creadores del programa? Indica en qué punto se detuvo el programa, su versión y el sistema que usted utiliza; no contiene nada sobre sus archivos. «Enviar siempre» también les comunica cuándo se inicia el programa y cómo terminó.</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <comment>crash question, button</comment>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Always Send</source>
+        <comment>crash question, button</comment>
+        <translation>Enviar siempre</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Send</source>
+        <comment>crash question, button</comment>
+        <translation>No enviar</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace the film it is made from.</source>
+        <comment>Error message when source and destination are one file</comment>
+        <translation>El resultado no puede reemplazar al vídeo del que procede.</translation>
+    </message>
+    <message>
+        <source>The converting progress was finished at %@</source>
+        <comment>Error message format string when file has not been converted at full length</comment>
+        <translation>La conversión se detuvo en %@</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <comment>about box, with the version number</comment>
+        <translation>Versión %@</translation>
+    </message>
+    <message>
+        <source>About %@</source>
+        <comment>about box, with the program&apos;s name</comment>
+        <translation>Acerca de %@</translation>
+    </message>
+    <message>
+        <source>Visit Web Site</source>
+        <comment>button of the about box</comment>
+        <translation>Visitar el sitio web</translation>
+    </message>
+    <message>
+        <source>Alert.No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Alert.Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>“%@” is a folder. Choose another name.</source>
+        <comment>alert of the save panel, with the name of a folder</comment>
+        <translation>«%@» es una carpeta. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <comment>question of the save panel, with the name of a file</comment>
+        <translation>«%@» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelTitle</source>
+        <comment>title for save panel</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelPrompt</source>
+        <comment>prompt for save panel</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelNameFieldLabel</source>
+        <comment>name label for save panel (&lt;= 15 symbols)</comment>
+        <translation>Guardar como:</translation>
+    </message>
+    <message>
+        <source>%dd %dh %dm %ds</source>
+        <comment>format string for days/hours/minutes/seconds</comment>
+        <translation>%d&#xa0;d %d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dh %dm %ds</source>
+        <comment>format string for hours/minutes/seconds</comment>
+        <translation>%d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dm %ds</source>
+        <comment>format string for minutes/seconds</comment>
+        <translation>%d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%ds</source>
+        <comment>format string for seconds</comment>
+        <translation>%d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>Video not supported</source>
+        <comment>Error message &apos;Video not supported&apos;</comment>
+        <translation>Vídeo no compatible</translation>
+    </message>
+    <message>
+        <source>Attention! Current converting process will be cancelled.
+Are you sure you want to continue?</source>
+        <comment>Cancel progress alert message text</comment>
+        <translation>¡Atención! Se cancelará la conversión en curso.
+¿Seguro que desea continuar?</translation>
+    </message>
+    <message>
+        <source>The video can&apos;t be converted into itself</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>El vídeo no se puede convertir en sí mismo</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder for the result.</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>Elija otro nombre u otra carpeta para el resultado.</translation>
+    </message>
+    <message>
+        <source>Error processing %@</source>
+        <comment>Error message on conversion failure</comment>
+        <translation>Error al procesar %@</translation>
+    </message>
+    <message>
+        <source>Converting a video</source>
+        <comment>why the machine stays awake</comment>
+        <translation>Conversión de un vídeo</translation>
+    </message>
+    <message>
+        <source>%d%% – %@</source>
+        <comment>window title while converting: percentage, program name</comment>
+        <translation>%d&#xa0;%% – %@</translation>
+    </message>
+    <message>
+        <source>%d%%, about %@ left</source>
+        <comment>percentage converted and time left, such as 1m 30s</comment>
+        <translation>%d&#xa0;%%, quedan aprox. %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <comment>percentage converted</comment>
+        <translation>%d&#xa0;%%</translation>
+    </message>
+    <message>
+        <source>Convert.buttonTitle</source>
+        <comment>convert button title</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>You have the newest version of Video Converter, %@.</source>
+        <comment>update check</comment>
+        <translation>Tiene la versión más reciente de Video Converter, la %@.</translation>
+    </message>
+    <message>
+        <source>Updates are not available in this build.</source>
+        <comment>update check</comment>
+        <translation>Esta compilación no ofrece actualizaciones.</translation>
+    </message>
+    <message>
+        <source>The list of updates could not be read. Please try again later.</source>
+        <comment>update check</comment>
+        <translation>No se pudo leer la lista de actualizaciones. Inténtelo de nuevo más tarde.</translation>
+    </message>
+    <message>
+        <source>An update was announced, but not by the makers of Video Converter. It is not offered.</source>
+        <comment>update check: wrong signature</comment>
+        <translation>Se anunció una actualización, pero no procede de los creadores de Video Converter. No se ofrecerá.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <comment>update dialog, release notes</comment>
+        <translation>Novedades</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <comment>update dialog, title</comment>
+        <translation>Actualización de software</translation>
+    </message>
+    <message>
+        <source>Video Converter %1$@ is available. You have %2$@.</source>
+        <comment>update dialog: new, own version</comment>
+        <translation>Video Converter %1$@ está disponible. Usted tiene la versión %2$@.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>update dialog, button</comment>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <comment>update dialog, button</comment>
+        <translation>Descargar</translation>
+    </message>
+    <message>
+        <source>Open Web Site</source>
+        <comment>update dialog, button</comment>
+        <translation>Abrir el sitio web</translation>
+    </message>
+    <message>
+        <source>Downloading version %@</source>
+        <comment>update download</comment>
+        <translation>Descargando la versión %@</translation>
+    </message>
+    <message>
+        <source>The update is in your downloads folder as “%@”. Open it to install it.</source>
+        <comment>update download</comment>
+        <translation>La actualización está en su carpeta de descargas como «%@». Ábrala para instalarla.</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <comment>update download, button</comment>
+        <translation>Abrir la carpeta</translation>
+    </message>
+    <message>
+        <source>The download was not signed by the makers of Video Converter and has been thrown away.</source>
+        <comment>update download: wrong signature</comment>
+        <translation>La descarga no está firmada por los creadores de Video Converter y se ha eliminado.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Please try again later.</source>
+        <comment>update download</comment>
+        <translation>No se pudo descargar la actualización. Inténtelo de nuevo más tarde.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Video Converter</source>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagen del vídeo</translation>
+    </message>
+    <message>
+        <source>Examining the video</source>
+        <translation>Analizando el vídeo</translation>
+    </message>
+    <message>
+        <source>Drop area</source>
+        <translation>Zona para soltar</translation>
+    </message>
+    <message>
+        <source>Drag a video here</source>
+        <translation>Arrastre un vídeo aquí</translation>
+    </message>
+    <message>
+        <source>or choose it from a folder</source>
+        <translation>o elíjalo en una carpeta</translation>
+    </message>
+    <message>
+        <source>Choose a video to convert</source>
+        <translation>Elegir un vídeo para convertir</translation>
+    </message>
+    <message>
+        <source>Choose what the video becomes</source>
+        <translation>Elegir en qué se convertirá el vídeo</translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation>Convirtiendo…</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Tiempo restante</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>Progreso de la conversión</translation>
+    </message>
+    <message>
+        <source>Cancel the conversion</source>
+        <translation>Cancelar la conversión</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Conversion complete</source>
+        <translation>Conversión completada</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Show the converted file in its folder</source>
+        <translation>Mostrar el archivo convertido en su carpeta</translation>
+    </message>
+    <message>
+        <source>Convert Another</source>
+        <translation>Convertir otro</translation>
+    </message>
+    <message>
+        <source>Start over with another video</source>
+        <translation>Empezar de nuevo con otro vídeo</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Convert &amp;To</source>
+        <translation>Con&amp;vertir a</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>heading in the format menu</comment>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>heading in the format menu</comment>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>Audio (MP3)</source>
+        <comment>item of the format menu</comment>
+        <translation>Solo audio (MP3)</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>heading in the format menu</comment>
+        <translation>Calidad MP4</translation>
+    </message>
+    <message>
+        <source>MP4 Low Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 calidad baja</translation>
+    </message>
+    <message>
+        <source>MP4 Medium Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 calidad media</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Conversion</source>
+        <translation>&amp;Cancelar la conversión</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Convert &amp;Another</source>
+        <translation>Convertir &amp;otro</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Video</source>
+        <translation>&amp;Pegar vídeo</translation>
+    </message>
+    <message>
+        <source>&amp;About Video Converter</source>
+        <translation>&amp;Acerca de Video Converter</translation>
+    </message>
+</context>
+</TS>

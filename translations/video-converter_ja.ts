@@ -1,0 +1,866 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Conversion Log</source>
+        <comment>title of the log&apos;s window</comment>
+        <translation>変換ログ</translation>
+    </message>
+    <message>
+        <source>Show Conversion Log</source>
+        <comment>menu command, opens a window</comment>
+        <translation>変換ログを表示</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <comment>menu command</comment>
+        <translation>アップデートを確認…</translation>
+    </message>
+    <message>
+        <source>Film to open.</source>
+        <comment>help on the command line</comment>
+        <translation>開く動画。</translation>
+    </message>
+    <message>
+        <source>Try &apos;video-converter-cli --help&apos;.</source>
+        <comment>Command line: follows a message about wrong usage</comment>
+        <translation>「video-converter-cli --help」を参照してください。</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right one</comment>
+        <translation>「%@」という出力形式はありません。「%@」ではありませんか？</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
+        <comment>Command line: wrong value of --to</comment>
+        <translation>「%@」という出力形式はありません。コマンド「formats」で一覧を表示できます。</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; does not take --%@.</source>
+        <comment>Command line: a command and an option that does not belong to it</comment>
+        <translation>「%@」に --%@ は指定できません。</translation>
+    </message>
+    <message>
+        <source>--%@ needs one value.</source>
+        <comment>Command line: an option given twice or with an empty value</comment>
+        <translation>--%@ には値を 1 つ指定してください。</translation>
+    </message>
+    <message>
+        <source>&apos;formats&apos; takes no files.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「formats」にファイルは指定できません。</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; takes exactly one file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「probe」にはファイルを 1 つだけ指定してください。</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「plan」には動画と出力ファイル、または --info だけを指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no film to convert.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>変換する動画がありません。</translation>
+    </message>
+    <message>
+        <source>&apos;convert&apos; needs either --output or --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「convert」には --output か --folder のどちらかが必要です。</translation>
+    </message>
+    <message>
+        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>複数の動画を 1 つの出力ファイルにはできません。--folder を使ってください。</translation>
+    </message>
+    <message>
+        <source>--to NAME is missing.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--to 名前 が指定されていません。</translation>
+    </message>
+    <message>
+        <source>There is no command named &quot;%@&quot;.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「%@」というコマンドはありません。</translation>
+    </message>
+    <message>
+        <source>%@; that much was kept.</source>
+        <comment>After: The converting progress was finished at 12s</comment>
+        <translation>%@。そこまでの結果は残してあります。</translation>
+    </message>
+    <message>
+        <source>The tool that converts films can&apos;t be started.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>動画を変換するツールを起動できません。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder does not exist.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先のフォルダーがありません。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder is a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先のフォルダーとして指定されたものはファイルです。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先のフォルダーへの書き込みが許可されていません。</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>変換結果で、これから変換する動画を置き換えることはできません。</translation>
+    </message>
+    <message>
+        <source>The destination is a folder, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先はファイルではなくフォルダーです。</translation>
+    </message>
+    <message>
+        <source>The destination is a link that leads nowhere.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先は参照先のないリンクです。</translation>
+    </message>
+    <message>
+        <source>The destination is a pipe or a device, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先はファイルではなくパイプまたはデバイスです。</translation>
+    </message>
+    <message>
+        <source>The destination exists already; --overwrite replaces it.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先はすでに存在します。置き換えるには --overwrite を指定してください。</translation>
+    </message>
+    <message>
+        <source>The destination may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先への書き込みが許可されていません。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>そのようなファイルはありません。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a film.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>これは動画ではなくフォルダーです。</translation>
+    </message>
+    <message>
+        <source>The file may not be read: permission denied.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルを読み取れません: アクセスが拒否されました。</translation>
+    </message>
+    <message>
+        <source>This is a pipe or a device, not a file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>これはファイルではなくパイプまたはデバイスです。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>The file has gone.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The tool that examines films can&apos;t be started.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>動画を解析するツールを起動できません。</translation>
+    </message>
+    <message>
+        <source>The file is no film, or it is damaged or incomplete.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルが動画でないか、破損しているか、不完全です。</translation>
+    </message>
+    <message>
+        <source>The file does not tell how long it plays.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルに再生時間の情報がありません。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s size can&apos;t be found out.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルのサイズを取得できません。</translation>
+    </message>
+    <message>
+        <source>The film is shorter than one second.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>動画の長さが 1 秒未満です。</translation>
+    </message>
+    <message>
+        <source>The file is still being written, or could be read only in part.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ファイルがまだ書き込み中か、一部しか読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>The tool %@ is missing or can&apos;t be run.</source>
+        <comment>Path of a program</comment>
+        <translation>ツール %@ が見つからないか、実行できません。</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>MP4 の画質</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts films.
+
+  formats   lists the outputs that --to takes
+  probe     describes a film
+  plan      prints the tool&apos;s command line without running it
+  convert   converts films
+
+video-converter-cli COMMAND --help tells more about a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several films it is that of the first that was not converted.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation>使い方: video-converter-cli コマンド [オプション]
+動画を変換します。
+
+  formats   --to に指定できる出力形式を一覧表示します
+  probe     動画の情報を表示します
+  plan      ツールのコマンドラインを実行せずに表示します
+  convert   動画を変換します
+
+各コマンドの詳細は「video-converter-cli コマンド --help」で表示されます。
+すべてのコマンドで使えるオプション:
+  --json      JSON で出力します
+  --verbose   診断情報とツールの全出力を標準エラー出力に表示します
+  -h, --help  このヘルプを表示します
+  --version   バージョンを表示します
+
+終了ステータス: 0 完了、1 変換に失敗、2 使い方の誤り、3 動画を拒否、4 保存先を拒否、
+5 ツールが見つからない、128 + N シグナル N により停止 (Ctrl-C の場合は 130)。
+動画が複数の場合は、変換されなかった最初の動画のステータスになります。</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli formats [--json]
+Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help of the headless command</comment>
+        <translation>使い方: video-converter-cli formats [--json]
+--to に指定できる出力形式 (デバイス、形式、MP4 の画質) を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a film. With --json: all that the tool says of it (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation>使い方: video-converter-cli probe ファイル [--json]
+動画の情報を表示します。--json を付けると、ツールが返すすべての情報 (info)、
+再生時間 (duration、seconds)、カバー画像のサイズまたは null (cover) を出力します。</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
+       video-converter-cli plan --to NAME --info JSONFILE [--json]
+Prints the tool&apos;s command line, quoted for a shell, without running it.
+
+  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
+  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+                   (- for standard input) and prints only the arguments that depend
+                   on it
+  --json           prints one object: name of the output, list of arguments</source>
+        <comment>Help of the headless command</comment>
+        <translation>使い方: video-converter-cli plan --to 名前 ファイル 出力先 [--json]
+        video-converter-cli plan --to 名前 --info JSONファイル [--json]
+ツールのコマンドラインを、シェル用に引用符を付けて、実行せずに表示します。
+
+  --to 名前            「formats」の一覧にある出力形式の 1 つ、または all (すべて)
+  --info JSONファイル  「probe --json」で作ったファイル (- は標準入力) から動画の
+                       情報を読み取り、それによって決まる引数だけを表示します
+  --json               オブジェクトを 1 つ出力します (出力形式の名前と引数のリスト)</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
+  --overwrite          replaces files that exist; a film itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation>使い方: video-converter-cli convert --to 名前 ファイル -o 出力先
+        video-converter-cli convert --to 名前 ファイル... -d フォルダー
+動画を順番に変換します。Ctrl-C で停止し、未完成のファイルは残りません。
+
+  --to 名前                「formats」の一覧にある出力形式の 1 つ
+  -o, --output 出力先      書き出すファイル
+  -d, --folder フォルダー  書き出すフォルダー (ファイル名は動画の名前になります)
+  --overwrite              既存のファイルを置き換えます (元の動画は置き換えません)
+  --json                   1 行に 1 つの JSON オブジェクトを出力します
+
+ダッシュで始まる名前は -- の後に指定します。例:
+convert --to GIF -o a.gif -- -a.mov</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <comment>The user stopped the program</comment>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>The output can&apos;t be written.</source>
+        <comment>Standard output is a file on a full disk</comment>
+        <translation>出力を書き込めません。</translation>
+    </message>
+    <message>
+        <source>%@: converted to %@ in %@</source>
+        <comment>Film, file that was made of it, time that it took</comment>
+        <translation>%@: %@ に変換しました (所要時間 %@)</translation>
+    </message>
+    <message>
+        <source>%d of %d films converted</source>
+        <comment>Sum after the conversion of several films</comment>
+        <translation>変換した動画: %d / %d</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be opened.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>ファイルを開けません。</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>ファイルに JSON が含まれていません。</translation>
+    </message>
+    <message>
+        <source>%d ch</source>
+        <comment>Number of sound channels, abbreviated</comment>
+        <translation>%d ch</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <comment>Property of a film</comment>
+        <translation>再生時間</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <comment>Property of a film</comment>
+        <translation>コンテナー</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <comment>Property of a film</comment>
+        <translation>ストリーム</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>A film has no cover picture</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <comment>Property of a film</comment>
+        <translation>カバー画像</translation>
+    </message>
+    <message>
+        <source>%@ so far</source>
+        <comment>Time that a conversion of unknown length has taken</comment>
+        <translation>経過%@</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>Time that a conversion still needs</comment>
+        <translation>残り%@</translation>
+    </message>
+    <message>
+        <source>There is no space left on the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>保存先のディスクに空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ディスクの割り当て容量を使い切りました。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk does not take a file so large.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>保存先のディスクはこのサイズのファイルに対応していません。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk is read-only.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>保存先のディスクは読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>Permission was denied to read the film or to write the result.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>動画の読み取りまたは結果の書き込みが許可されませんでした。</translation>
+    </message>
+    <message>
+        <source>The installed tool has no encoder %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>インストールされているツールにエンコーダー %@ がありません。</translation>
+    </message>
+    <message>
+        <source>The installed tool can&apos;t write the format %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>インストールされているツールは形式 %@ で書き出せません。</translation>
+    </message>
+    <message>
+        <source>The film or the destination&apos;s folder has gone.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>動画または保存先のフォルダーがなくなりました。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name is too long.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>保存先の名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>A disk reported an error.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ディスクがエラーを報告しました。</translation>
+    </message>
+    <message>
+        <source>There was not enough memory.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>メモリーが足りませんでした。</translation>
+    </message>
+    <message>
+        <source>The film holds nothing that this output can take.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>この出力形式に変換できる内容が動画に含まれていません。</translation>
+    </message>
+    <message>
+        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>エンコーダーはこの動画の映像または音声をそのままでは処理できません。</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ツールの応答が長時間なかったため、停止しました。</translation>
+    </message>
+    <message>
+        <source>The tool was stopped from outside.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ツールがプログラムの外部から停止されました。</translation>
+    </message>
+    <message>
+        <source>The film&apos;s data is damaged.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>動画のデータが破損しています。</translation>
+    </message>
+    <message>
+        <source>The tool failed: %@</source>
+        <comment>Why a conversion failed; the tool&apos;s own words follow</comment>
+        <translation>ツールのエラー: %@</translation>
+    </message>
+    <message>
+        <source>The tool was killed before it was done.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ツールは完了する前に強制終了されました。</translation>
+    </message>
+    <message>
+        <source>Video Converter quit unexpectedly the last time.</source>
+        <comment>crash question, title</comment>
+        <translation>Video Converter は前回、予期せず終了しました。</translation>
+    </message>
+    <message>
+        <source>May a report be sent to its makers? It says where the program stopped, its version and your system; nothing about your files is in it. “Always Send” also tells them when the program starts and how it ended.</source>
+        <comment>crash question, text</comment>
+        <translation>開発元にレポートを送信してもよろしいですか？レポートには、プログラムが停止した箇所、プログラムのバージョン、お使いのシステムが記録されます。お客様のファイルに関する情報は一切含まれません。「常に送信」を選ぶと、プログラムの起動と、どのように終了したかも通知されます。</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <comment>crash question, button</comment>
+        <translation>送信</translation>
+    </message>
+    <message>
+        <source>Always Send</source>
+        <comment>crash question, button</comment>
+        <translation>常に送信</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Send</source>
+        <comment>crash question, button</comment>
+        <translation>送信しない</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace the film it is made from.</source>
+        <comment>Error message when source and destination are one file</comment>
+        <translation>変換結果で元の動画を置き換えることはできません。</translation>
+    </message>
+    <message>
+        <source>The converting progress was finished at %@</source>
+        <comment>Error message format string when file has not been converted at full length</comment>
+        <translation>変換は%@の時点で終了しました</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <comment>about box, with the version number</comment>
+        <translation>バージョン %@</translation>
+    </message>
+    <message>
+        <source>About %@</source>
+        <comment>about box, with the program&apos;s name</comment>
+        <translation>%@ について</translation>
+    </message>
+    <message>
+        <source>Visit Web Site</source>
+        <comment>button of the about box</comment>
+        <translation>Web サイトを開く</translation>
+    </message>
+    <message>
+        <source>Alert.No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Alert.Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>“%@” is a folder. Choose another name.</source>
+        <comment>alert of the save panel, with the name of a folder</comment>
+        <translation>「%@」はフォルダーです。別の名前を指定してください。</translation>
+    </message>
+    <message>
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <comment>question of the save panel, with the name of a file</comment>
+        <translation>「%@」はすでに存在します。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelTitle</source>
+        <comment>title for save panel</comment>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelPrompt</source>
+        <comment>prompt for save panel</comment>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelNameFieldLabel</source>
+        <comment>name label for save panel (&lt;= 15 symbols)</comment>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>%dd %dh %dm %ds</source>
+        <comment>format string for days/hours/minutes/seconds</comment>
+        <translation>%d日%d時間%d分%d秒</translation>
+    </message>
+    <message>
+        <source>%dh %dm %ds</source>
+        <comment>format string for hours/minutes/seconds</comment>
+        <translation>%d時間%d分%d秒</translation>
+    </message>
+    <message>
+        <source>%dm %ds</source>
+        <comment>format string for minutes/seconds</comment>
+        <translation>%d分%d秒</translation>
+    </message>
+    <message>
+        <source>%ds</source>
+        <comment>format string for seconds</comment>
+        <translation>%d秒</translation>
+    </message>
+    <message>
+        <source>Video not supported</source>
+        <comment>Error message &apos;Video not supported&apos;</comment>
+        <translation>この動画には対応していません</translation>
+    </message>
+    <message>
+        <source>Attention! Current converting process will be cancelled.
+Are you sure you want to continue?</source>
+        <comment>Cancel progress alert message text</comment>
+        <translation>実行中の変換はキャンセルされます。
+本当によろしいですか？</translation>
+    </message>
+    <message>
+        <source>The video can&apos;t be converted into itself</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>動画をそれ自身に上書きして変換することはできません</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder for the result.</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>変換結果に別の名前または別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>Error processing %@</source>
+        <comment>Error message on conversion failure</comment>
+        <translation>%@ の処理中にエラーが発生しました</translation>
+    </message>
+    <message>
+        <source>Converting a video</source>
+        <comment>why the machine stays awake</comment>
+        <translation>動画を変換中</translation>
+    </message>
+    <message>
+        <source>%d%% – %@</source>
+        <comment>window title while converting: percentage, program name</comment>
+        <translation>%d%% – %@</translation>
+    </message>
+    <message>
+        <source>%d%%, about %@ left</source>
+        <comment>percentage converted and time left, such as 1m 30s</comment>
+        <translation>%d%%、残り約%@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <comment>percentage converted</comment>
+        <translation>%d%%</translation>
+    </message>
+    <message>
+        <source>Convert.buttonTitle</source>
+        <comment>convert button title</comment>
+        <translation>変換</translation>
+    </message>
+    <message>
+        <source>You have the newest version of Video Converter, %@.</source>
+        <comment>update check</comment>
+        <translation>Video Converter は最新バージョン %@ です。</translation>
+    </message>
+    <message>
+        <source>Updates are not available in this build.</source>
+        <comment>update check</comment>
+        <translation>このビルドではアップデートを利用できません。</translation>
+    </message>
+    <message>
+        <source>The list of updates could not be read. Please try again later.</source>
+        <comment>update check</comment>
+        <translation>アップデートの一覧を読み込めませんでした。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>An update was announced, but not by the makers of Video Converter. It is not offered.</source>
+        <comment>update check: wrong signature</comment>
+        <translation>アップデートの通知がありましたが、Video Converter の開発元によるものではないため、提供しません。</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <comment>update dialog, release notes</comment>
+        <translation>新機能</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <comment>update dialog, title</comment>
+        <translation>ソフトウェアアップデート</translation>
+    </message>
+    <message>
+        <source>Video Converter %1$@ is available. You have %2$@.</source>
+        <comment>update dialog: new, own version</comment>
+        <translation>Video Converter %1$@ が利用可能です。現在のバージョンは %2$@ です。</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>update dialog, button</comment>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <comment>update dialog, button</comment>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Open Web Site</source>
+        <comment>update dialog, button</comment>
+        <translation>Web サイトを開く</translation>
+    </message>
+    <message>
+        <source>Downloading version %@</source>
+        <comment>update download</comment>
+        <translation>バージョン %@ をダウンロード中</translation>
+    </message>
+    <message>
+        <source>The update is in your downloads folder as “%@”. Open it to install it.</source>
+        <comment>update download</comment>
+        <translation>アップデートは「%@」としてダウンロードフォルダーに保存されました。開いてインストールしてください。</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <comment>update download, button</comment>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>The download was not signed by the makers of Video Converter and has been thrown away.</source>
+        <comment>update download: wrong signature</comment>
+        <translation>ダウンロードしたファイルは Video Converter の開発元によって署名されていないため、破棄しました。</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Please try again later.</source>
+        <comment>update download</comment>
+        <translation>アップデートをダウンロードできませんでした。後でもう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Video Converter</source>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>動画の画像</translation>
+    </message>
+    <message>
+        <source>Examining the video</source>
+        <translation>動画を解析中</translation>
+    </message>
+    <message>
+        <source>Drop area</source>
+        <translation>ドロップ領域</translation>
+    </message>
+    <message>
+        <source>Drag a video here</source>
+        <translation>ここに動画をドラッグ</translation>
+    </message>
+    <message>
+        <source>or choose it from a folder</source>
+        <translation>またはフォルダーから選択</translation>
+    </message>
+    <message>
+        <source>Choose a video to convert</source>
+        <translation>変換する動画を選択</translation>
+    </message>
+    <message>
+        <source>Choose what the video becomes</source>
+        <translation>変換後の形式を選択</translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation>変換中…</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>残り時間</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>変換の進行状況</translation>
+    </message>
+    <message>
+        <source>Cancel the conversion</source>
+        <translation>変換をキャンセル</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Conversion complete</source>
+        <translation>変換が完了しました</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>フォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Show the converted file in its folder</source>
+        <translation>変換したファイルをフォルダーで表示</translation>
+    </message>
+    <message>
+        <source>Convert Another</source>
+        <translation>別の動画を変換</translation>
+    </message>
+    <message>
+        <source>Start over with another video</source>
+        <translation>別の動画で最初からやり直す</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Convert &amp;To</source>
+        <translation>変換後の形式(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>heading in the format menu</comment>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>heading in the format menu</comment>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Audio (MP3)</source>
+        <comment>item of the format menu</comment>
+        <translation>音声のみ (MP3)</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>heading in the format menu</comment>
+        <translation>MP4 の画質</translation>
+    </message>
+    <message>
+        <source>MP4 Low Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 低画質</translation>
+    </message>
+    <message>
+        <source>MP4 Medium Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 中画質</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>開く(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Conversion</source>
+        <translation>変換をキャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>フォルダーで表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Convert &amp;Another</source>
+        <translation>別の動画を変換(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Video</source>
+        <translation>動画を貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;About Video Converter</source>
+        <translation>Video Converter について(&amp;A)</translation>
+    </message>
+</context>
+</TS>

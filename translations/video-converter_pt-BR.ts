@@ -1,0 +1,866 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Conversion Log</source>
+        <comment>title of the log&apos;s window</comment>
+        <translation>Registro da conversão</translation>
+    </message>
+    <message>
+        <source>Show Conversion Log</source>
+        <comment>menu command, opens a window</comment>
+        <translation>Mostrar registro da conversão</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <comment>menu command</comment>
+        <translation>Verificar atualizações…</translation>
+    </message>
+    <message>
+        <source>Film to open.</source>
+        <comment>help on the command line</comment>
+        <translation>Vídeo a ser aberto.</translation>
+    </message>
+    <message>
+        <source>Try &apos;video-converter-cli --help&apos;.</source>
+        <comment>Command line: follows a message about wrong usage</comment>
+        <translation>Tente “video-converter-cli --help”.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right one</comment>
+        <translation>Não existe uma saída chamada “%@”; você quis dizer “%@”?</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
+        <comment>Command line: wrong value of --to</comment>
+        <translation>Não existe uma saída chamada “%@”; o comando “formats” lista as disponíveis.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; does not take --%@.</source>
+        <comment>Command line: a command and an option that does not belong to it</comment>
+        <translation>“%@” não aceita --%@.</translation>
+    </message>
+    <message>
+        <source>--%@ needs one value.</source>
+        <comment>Command line: an option given twice or with an empty value</comment>
+        <translation>--%@ precisa de um único valor.</translation>
+    </message>
+    <message>
+        <source>&apos;formats&apos; takes no files.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>“formats” não aceita arquivos.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; takes exactly one file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>“probe” aceita exatamente um arquivo.</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>“plan” aceita um vídeo e um arquivo de saída, ou somente --info.</translation>
+    </message>
+    <message>
+        <source>There is no film to convert.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Não há nenhum vídeo para converter.</translation>
+    </message>
+    <message>
+        <source>&apos;convert&apos; needs either --output or --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>“convert” precisa de --output ou --folder.</translation>
+    </message>
+    <message>
+        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Não é possível gravar vários vídeos em um só arquivo de saída; use --folder.</translation>
+    </message>
+    <message>
+        <source>--to NAME is missing.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Falta --to NOME.</translation>
+    </message>
+    <message>
+        <source>There is no command named &quot;%@&quot;.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Não existe um comando chamado “%@”.</translation>
+    </message>
+    <message>
+        <source>%@; that much was kept.</source>
+        <comment>After: The converting progress was finished at 12s</comment>
+        <translation>%@; o que foi convertido até esse ponto foi mantido.</translation>
+    </message>
+    <message>
+        <source>The tool that converts films can&apos;t be started.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Não é possível iniciar a ferramenta que converte os vídeos.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder does not exist.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>A pasta de destino não existe.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder is a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>A pasta de destino é um arquivo.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Não é permitido gravar na pasta de destino.</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O resultado não pode substituir um vídeo que será convertido.</translation>
+    </message>
+    <message>
+        <source>The destination is a folder, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O destino é uma pasta, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>The destination is a link that leads nowhere.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O destino é um link que não leva a lugar nenhum.</translation>
+    </message>
+    <message>
+        <source>The destination is a pipe or a device, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O destino é um pipe ou um dispositivo, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>The destination exists already; --overwrite replaces it.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O destino já existe; --overwrite o substitui.</translation>
+    </message>
+    <message>
+        <source>The destination may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Não é permitido gravar no destino.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo não existe.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a film.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Isto é uma pasta, não um vídeo.</translation>
+    </message>
+    <message>
+        <source>The file may not be read: permission denied.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Não é possível ler o arquivo: permissão negada.</translation>
+    </message>
+    <message>
+        <source>This is a pipe or a device, not a file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Isto é um pipe ou um dispositivo, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo está vazio.</translation>
+    </message>
+    <message>
+        <source>The file has gone.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo desapareceu.</translation>
+    </message>
+    <message>
+        <source>The tool that examines films can&apos;t be started.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Não é possível iniciar a ferramenta que analisa os vídeos.</translation>
+    </message>
+    <message>
+        <source>The file is no film, or it is damaged or incomplete.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo não é um vídeo ou está danificado ou incompleto.</translation>
+    </message>
+    <message>
+        <source>The file does not tell how long it plays.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo não informa a sua duração.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s size can&apos;t be found out.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Não é possível descobrir o tamanho do arquivo.</translation>
+    </message>
+    <message>
+        <source>The film is shorter than one second.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O vídeo dura menos de um segundo.</translation>
+    </message>
+    <message>
+        <source>The file is still being written, or could be read only in part.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>O arquivo ainda está sendo gravado ou só pôde ser lido em parte.</translation>
+    </message>
+    <message>
+        <source>The tool %@ is missing or can&apos;t be run.</source>
+        <comment>Path of a program</comment>
+        <translation>A ferramenta %@ está ausente ou não pode ser executada.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Qualidade MP4</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts films.
+
+  formats   lists the outputs that --to takes
+  probe     describes a film
+  plan      prints the tool&apos;s command line without running it
+  convert   converts films
+
+video-converter-cli COMMAND --help tells more about a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several films it is that of the first that was not converted.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation>Uso: video-converter-cli COMANDO [OPÇÕES]
+Converte vídeos.
+
+  formats   lista as saídas que --to aceita
+  probe     descreve um vídeo
+  plan      mostra a linha de comando da ferramenta sem executá-la
+  convert   converte vídeos
+
+video-converter-cli COMANDO --help explica um comando. Todos os comandos aceitam:
+  --json      mostra JSON
+  --verbose   mostra na saída de erro diagnósticos e tudo o que a ferramenta diz
+  -h, --help  mostra esta ajuda
+  --version   mostra a versão
+
+Código de saída: 0 concluído, 1 uma conversão falhou, 2 uso incorreto, 3 vídeo recusado,
+4 destino recusado, 5 faltam as ferramentas, 128 + N interrompido pelo sinal N
+(130 após Ctrl-C). Com vários vídeos, é o do primeiro que não foi convertido.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli formats [--json]
+Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli formats [--json]
+Lista as saídas que --to aceita: dispositivos, formatos e qualidades MP4.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a film. With --json: all that the tool says of it (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli probe ARQUIVO [--json]
+Descreve um vídeo. Com --json: tudo o que a ferramenta diz sobre ele (info), a duração
+(duration, seconds) e o tamanho da capa ou null (cover).</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
+       video-converter-cli plan --to NAME --info JSONFILE [--json]
+Prints the tool&apos;s command line, quoted for a shell, without running it.
+
+  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
+  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+                   (- for standard input) and prints only the arguments that depend
+                   on it
+  --json           prints one object: name of the output, list of arguments</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli plan --to NOME ARQUIVO SAÍDA [--json]
+     video-converter-cli plan --to NOME --info ARQUIVO_JSON [--json]
+Mostra a linha de comando da ferramenta, com aspas para um shell, sem executá-la.
+
+  --to NOME            a saída, uma das que “formats” lista, ou all (todas)
+  --info ARQUIVO_JSON  obtém a descrição do vídeo de um arquivo criado por
+                       “probe --json” (- para a entrada padrão) e mostra somente os
+                       argumentos que dependem dela
+  --json               mostra um objeto: nome da saída, lista de argumentos</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
+  --overwrite          replaces files that exist; a film itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation>Uso: video-converter-cli convert --to NOME ARQUIVO -o SAÍDA
+     video-converter-cli convert --to NOME ARQUIVO... -d PASTA
+Converte vídeos, um após o outro. Ctrl-C interrompe e não deixa nenhum arquivo inacabado.
+
+  --to NOME           a saída, uma das que “formats” lista
+  -o, --output SAÍDA  o arquivo a gravar
+  -d, --folder PASTA  a pasta onde gravar; os arquivos recebem os nomes dos vídeos
+  --overwrite         substitui arquivos existentes; nunca o próprio vídeo
+  --json              mostra um objeto JSON por linha
+
+Um nome que começa com hífen vem depois de --, como em:
+convert --to GIF -o a.gif -- -a.mov</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <comment>The user stopped the program</comment>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>The output can&apos;t be written.</source>
+        <comment>Standard output is a file on a full disk</comment>
+        <translation>Não é possível gravar a saída.</translation>
+    </message>
+    <message>
+        <source>%@: converted to %@ in %@</source>
+        <comment>Film, file that was made of it, time that it took</comment>
+        <translation>%@: convertido em %@ (levou %@)</translation>
+    </message>
+    <message>
+        <source>%d of %d films converted</source>
+        <comment>Sum after the conversion of several films</comment>
+        <translation>Vídeos convertidos: %d de %d</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be opened.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>Não é possível abrir o arquivo.</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>O arquivo não contém JSON.</translation>
+    </message>
+    <message>
+        <source>%d ch</source>
+        <comment>Number of sound channels, abbreviated</comment>
+        <translation>canais: %d</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <comment>Property of a film</comment>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <comment>Property of a film</comment>
+        <translation>Contêiner</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <comment>Property of a film</comment>
+        <translation>Fluxo</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>A film has no cover picture</comment>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <comment>Property of a film</comment>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>%@ so far</source>
+        <comment>Time that a conversion of unknown length has taken</comment>
+        <translation>%@ até agora</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>Time that a conversion still needs</comment>
+        <translation>faltam %@</translation>
+    </message>
+    <message>
+        <source>There is no space left on the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Não há mais espaço no disco de destino.</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A cota de disco foi esgotada.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk does not take a file so large.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O disco de destino não aceita um arquivo tão grande.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk is read-only.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O disco de destino é somente leitura.</translation>
+    </message>
+    <message>
+        <source>Permission was denied to read the film or to write the result.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Foi negada a permissão para ler o vídeo ou gravar o resultado.</translation>
+    </message>
+    <message>
+        <source>The installed tool has no encoder %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A ferramenta instalada não tem o codificador %@.</translation>
+    </message>
+    <message>
+        <source>The installed tool can&apos;t write the format %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A ferramenta instalada não consegue gravar o formato %@.</translation>
+    </message>
+    <message>
+        <source>The film or the destination&apos;s folder has gone.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O vídeo ou a pasta de destino desapareceu.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name is too long.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O nome do destino é longo demais.</translation>
+    </message>
+    <message>
+        <source>A disk reported an error.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Um disco relatou um erro.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Não havia memória suficiente.</translation>
+    </message>
+    <message>
+        <source>The film holds nothing that this output can take.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O vídeo não contém nada que esta saída aceite.</translation>
+    </message>
+    <message>
+        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>O codificador não aceita a imagem ou o som do vídeo como estão.</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A ferramenta ficou sem responder por tempo demais e foi interrompida.</translation>
+    </message>
+    <message>
+        <source>The tool was stopped from outside.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A ferramenta foi interrompida de fora do programa.</translation>
+    </message>
+    <message>
+        <source>The film&apos;s data is damaged.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Os dados do vídeo estão danificados.</translation>
+    </message>
+    <message>
+        <source>The tool failed: %@</source>
+        <comment>Why a conversion failed; the tool&apos;s own words follow</comment>
+        <translation>Falha da ferramenta: %@</translation>
+    </message>
+    <message>
+        <source>The tool was killed before it was done.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>A ferramenta foi encerrada à força antes de terminar.</translation>
+    </message>
+    <message>
+        <source>Video Converter quit unexpectedly the last time.</source>
+        <comment>crash question, title</comment>
+        <translation>O Video Converter foi encerrado inesperadamente da última vez.</translation>
+    </message>
+    <message>
+        <source>May a report be sent to its makers? It says where the program stopped, its version and your system; nothing about your files is in it. “Always Send” also tells them when the program starts and how it ended.</source>
+        <comment>crash question, text</comment>
+        <translation>Permite o envio de um relatório aos criadores do programa? Ele informa em que ponto o programa parou, a versão dele e o seu sistema; não contém nada sobre os seus arquivos. “Sempre enviar” também os informa de quando o programa é iniciado e de como foi encerrado.</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <comment>crash question, button</comment>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>Always Send</source>
+        <comment>crash question, button</comment>
+        <translation>Sempre enviar</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Send</source>
+        <comment>crash question, button</comment>
+        <translation>Não enviar</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace the film it is made from.</source>
+        <comment>Error message when source and destination are one file</comment>
+        <translation>O resultado não pode substituir o vídeo do qual é feito.</translation>
+    </message>
+    <message>
+        <source>The converting progress was finished at %@</source>
+        <comment>Error message format string when file has not been converted at full length</comment>
+        <translation>A conversão parou em %@</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <comment>about box, with the version number</comment>
+        <translation>Versão %@</translation>
+    </message>
+    <message>
+        <source>About %@</source>
+        <comment>about box, with the program&apos;s name</comment>
+        <translation>Sobre o %@</translation>
+    </message>
+    <message>
+        <source>Visit Web Site</source>
+        <comment>button of the about box</comment>
+        <translation>Visitar o site</translation>
+    </message>
+    <message>
+        <source>Alert.No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>Alert.Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>“%@” is a folder. Choose another name.</source>
+        <comment>alert of the save panel, with the name of a folder</comment>
+        <translation>“%@” é uma pasta. Escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <comment>question of the save panel, with the name of a file</comment>
+        <translation>“%@” já existe. Deseja substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelTitle</source>
+        <comment>title for save panel</comment>
+        <translation>Converter</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelPrompt</source>
+        <comment>prompt for save panel</comment>
+        <translation>Converter</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelNameFieldLabel</source>
+        <comment>name label for save panel (&lt;= 15 symbols)</comment>
+        <translation>Salvar como:</translation>
+    </message>
+    <message>
+        <source>%dd %dh %dm %ds</source>
+        <comment>format string for days/hours/minutes/seconds</comment>
+        <translation>%d&#xa0;d %d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dh %dm %ds</source>
+        <comment>format string for hours/minutes/seconds</comment>
+        <translation>%d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dm %ds</source>
+        <comment>format string for minutes/seconds</comment>
+        <translation>%d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%ds</source>
+        <comment>format string for seconds</comment>
+        <translation>%d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>Video not supported</source>
+        <comment>Error message &apos;Video not supported&apos;</comment>
+        <translation>Vídeo não compatível</translation>
+    </message>
+    <message>
+        <source>Attention! Current converting process will be cancelled.
+Are you sure you want to continue?</source>
+        <comment>Cancel progress alert message text</comment>
+        <translation>Atenção! A conversão em andamento será cancelada.
+Tem certeza de que deseja continuar?</translation>
+    </message>
+    <message>
+        <source>The video can&apos;t be converted into itself</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>O vídeo não pode ser convertido nele mesmo</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder for the result.</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>Escolha outro nome ou outra pasta para o resultado.</translation>
+    </message>
+    <message>
+        <source>Error processing %@</source>
+        <comment>Error message on conversion failure</comment>
+        <translation>Erro ao processar %@</translation>
+    </message>
+    <message>
+        <source>Converting a video</source>
+        <comment>why the machine stays awake</comment>
+        <translation>Conversão de um vídeo</translation>
+    </message>
+    <message>
+        <source>%d%% – %@</source>
+        <comment>window title while converting: percentage, program name</comment>
+        <translation>%d%% – %@</translation>
+    </message>
+    <message>
+        <source>%d%%, about %@ left</source>
+        <comment>percentage converted and time left, such as 1m 30s</comment>
+        <translation>%d%%, faltam cerca de %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <comment>percentage converted</comment>
+        <translation>%d%%</translation>
+    </message>
+    <message>
+        <source>Convert.buttonTitle</source>
+        <comment>convert button title</comment>
+        <translation>Converter</translation>
+    </message>
+    <message>
+        <source>You have the newest version of Video Converter, %@.</source>
+        <comment>update check</comment>
+        <translation>Você tem a versão mais recente do Video Converter, a %@.</translation>
+    </message>
+    <message>
+        <source>Updates are not available in this build.</source>
+        <comment>update check</comment>
+        <translation>Esta compilação não oferece atualizações.</translation>
+    </message>
+    <message>
+        <source>The list of updates could not be read. Please try again later.</source>
+        <comment>update check</comment>
+        <translation>Não foi possível ler a lista de atualizações. Tente novamente mais tarde.</translation>
+    </message>
+    <message>
+        <source>An update was announced, but not by the makers of Video Converter. It is not offered.</source>
+        <comment>update check: wrong signature</comment>
+        <translation>Uma atualização foi anunciada, mas não pelos criadores do Video Converter. Ela não será oferecida.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <comment>update dialog, release notes</comment>
+        <translation>Novidades</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <comment>update dialog, title</comment>
+        <translation>Atualização de software</translation>
+    </message>
+    <message>
+        <source>Video Converter %1$@ is available. You have %2$@.</source>
+        <comment>update dialog: new, own version</comment>
+        <translation>O Video Converter %1$@ está disponível. Você tem a versão %2$@.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>update dialog, button</comment>
+        <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <comment>update dialog, button</comment>
+        <translation>Baixar</translation>
+    </message>
+    <message>
+        <source>Open Web Site</source>
+        <comment>update dialog, button</comment>
+        <translation>Abrir o site</translation>
+    </message>
+    <message>
+        <source>Downloading version %@</source>
+        <comment>update download</comment>
+        <translation>Baixando a versão %@</translation>
+    </message>
+    <message>
+        <source>The update is in your downloads folder as “%@”. Open it to install it.</source>
+        <comment>update download</comment>
+        <translation>A atualização está na sua pasta de downloads como “%@”. Abra-a para instalar.</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <comment>update download, button</comment>
+        <translation>Abrir a pasta</translation>
+    </message>
+    <message>
+        <source>The download was not signed by the makers of Video Converter and has been thrown away.</source>
+        <comment>update download: wrong signature</comment>
+        <translation>O download não foi assinado pelos criadores do Video Converter e foi descartado.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Please try again later.</source>
+        <comment>update download</comment>
+        <translation>Não foi possível baixar a atualização. Tente novamente mais tarde.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Video Converter</source>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Imagem do vídeo</translation>
+    </message>
+    <message>
+        <source>Examining the video</source>
+        <translation>Analisando o vídeo</translation>
+    </message>
+    <message>
+        <source>Drop area</source>
+        <translation>Área de soltar</translation>
+    </message>
+    <message>
+        <source>Drag a video here</source>
+        <translation>Arraste um vídeo para cá</translation>
+    </message>
+    <message>
+        <source>or choose it from a folder</source>
+        <translation>ou escolha-o em uma pasta</translation>
+    </message>
+    <message>
+        <source>Choose a video to convert</source>
+        <translation>Escolher um vídeo para converter</translation>
+    </message>
+    <message>
+        <source>Choose what the video becomes</source>
+        <translation>Escolher em que o vídeo será convertido</translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation>Convertendo…</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Tempo restante</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>Progresso da conversão</translation>
+    </message>
+    <message>
+        <source>Cancel the conversion</source>
+        <translation>Cancelar a conversão</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Conversion complete</source>
+        <translation>Conversão concluída</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Mostrar na pasta</translation>
+    </message>
+    <message>
+        <source>Show the converted file in its folder</source>
+        <translation>Mostrar o arquivo convertido na pasta em que está</translation>
+    </message>
+    <message>
+        <source>Convert Another</source>
+        <translation>Converter outro</translation>
+    </message>
+    <message>
+        <source>Start over with another video</source>
+        <translation>Começar de novo com outro vídeo</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>Convert &amp;To</source>
+        <translation>Con&amp;verter para</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>heading in the format menu</comment>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>heading in the format menu</comment>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>Audio (MP3)</source>
+        <comment>item of the format menu</comment>
+        <translation>Somente áudio (MP3)</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>heading in the format menu</comment>
+        <translation>Qualidade MP4</translation>
+    </message>
+    <message>
+        <source>MP4 Low Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 qualidade baixa</translation>
+    </message>
+    <message>
+        <source>MP4 Medium Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 qualidade média</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Conversion</source>
+        <translation>&amp;Cancelar conversão</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostrar na pasta</translation>
+    </message>
+    <message>
+        <source>Convert &amp;Another</source>
+        <translation>Converter &amp;outro</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Video</source>
+        <translation>&amp;Colar vídeo</translation>
+    </message>
+    <message>
+        <source>&amp;About Video Converter</source>
+        <translation>&amp;Sobre o Video Converter</translation>
+    </message>
+</context>
+</TS>
