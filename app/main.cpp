@@ -1,15 +1,26 @@
 // SPDX-License-Identifier: MIT
-#include "Translations.h"
+#include "HelpMenu.h"
 #include "analytics/Analytics.h"
+#include "crash/Crash.h"
+#include "crash/CrashReports.h"
+#include "crash/SessionEvents.h"
+#include "crash/dialog/CrashQuestion.h"
 #include "engine/FFMPEG.h"
 #include "support/Configuration.h"
+#include "support/Localized.h"
+#include "support/Translation.h"
 #include "ui/AppDelegate.h"
 #include "ui/Appearance.h"
 #include "ui/desktop/SingleInstance.h"
+#include "updates/Updater.h"
+#include "updates/UpdaterDelegate.h"
+#include "updates/dialog/UpdateDialogs.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -38,16 +49,53 @@ void describe()
     QApplication::setWindowIcon(QIcon(u":/icons/video-converter.svg"_s));
 }
 
-QStringList filesOnCommandLine()
+/// Ends the program when only help or the version is asked for.
+QStringList filesOnCommandLine(const QApplication &application)
 {
-    QStringList paths = QApplication::arguments().mid(1);
-    paths.removeAll(u"--"_s);
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(u"film"_s,
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Film to open.", "help on the command line")),
+        u"[film]"_s);
+    parser.process(application);
+    QStringList paths = parser.positionalArguments();
     for (QString &path : paths)
         path = QFileInfo(path).absoluteFilePath();
     return paths;
 }
 
-int runWindow(SingleInstance &instance)
+/// What the program does with its vendor's servers, where it has any.
+class Services {
+public:
+    explicit Services(AppDelegate &delegate)
+        : m_window(delegate.window())
+        , m_updater(UpdaterSettings::configured())
+        , m_dialogs(m_updater, m_window, QUrl(Configuration::siteUrl()))
+        , m_helpMenu(delegate, m_updater)
+    {
+        m_updater.setDelegate(&m_updaterDelegate);
+    }
+
+    void start()
+    {
+        m_session.begin();
+        m_crashReports.uploadPending(
+            [this](const QString &report) { return askToSendReport(m_window, report); });
+        m_updater.checkInBackground();
+    }
+
+private:
+    QWidget *m_window;
+    UpdaterDelegate m_updaterDelegate;
+    Updater m_updater;
+    UpdateDialogs m_dialogs;
+    HelpMenu m_helpMenu;
+    CrashReports m_crashReports;
+    SessionEvents m_session;
+};
+
+int runWindow(SingleInstance &instance, const QStringList &films)
 {
     const Appearance appearance;
     AppDelegate delegate;
@@ -58,7 +106,10 @@ int runWindow(SingleInstance &instance)
             delegate.applicationShouldHandleReopen(false);
             delegate.takeFiles(paths);
         });
-    delegate.takeFiles(filesOnCommandLine());
+    delegate.takeFiles(films);
+    Services services(delegate);
+    // Once the window stands: its first question may be one about an earlier crash.
+    QTimer::singleShot(0, &delegate, [&services] { services.start(); });
     return QApplication::exec();
 }
 
@@ -67,14 +118,17 @@ int runWindow(SingleInstance &instance)
 int main(int argc, char *argv[])
 {
     detachStandardInput();
-    QApplication application(argc, argv);
+    CrashReporter::start();
+    const QApplication application(argc, argv);
     describe();
+    const QLocale language(Translation::install(Bundle::main()));
+    QApplication::setLayoutDirection(language.textDirection());
+    const QStringList films = filesOnCommandLine(application);
     SingleInstance instance;
-    if (instance.handOver(filesOnCommandLine()))
+    if (instance.handOver(films))
         return 0;
     Analytics::start();
-    installTranslations(application);
-    const int status = runWindow(instance);
+    const int status = runWindow(instance, films);
     FFMPEG::shutDown();
     return status;
 }

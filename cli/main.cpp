@@ -7,6 +7,7 @@
 #include "engine/FFMPEG.h"
 #include "support/Configuration.h"
 #include "support/Localized.h"
+#include "support/Translation.h"
 
 #include <QCoreApplication>
 
@@ -59,7 +60,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(u"video-converter-cli"_s);
     QCoreApplication::setApplicationVersion(Configuration::version());
 
-    // Translations are installed here, before the first text is made.
+    Translation::install(Bundle::main());
 
     const auto parsed = parsedCommandLine(QCoreApplication::arguments());
     if (const auto *text = std::get_if<Answer>(&parsed))

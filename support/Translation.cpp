@@ -36,15 +36,17 @@ QString language(const QStringList &wanted, const QStringList &localizations)
     return u"en"_s;
 }
 
-void install(const Bundle &bundle)
+QString install(const Bundle &bundle)
 {
     const QString chosen = language(QLocale::system().uiLanguages(), bundle.localizations());
     auto *toolkit = new QTranslator(QCoreApplication::instance());
-    if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s,
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(toolkit);
     auto *ours = new QTranslator(QCoreApplication::instance());
     if (ours->load(bundle.localizationPath(chosen) + u"/video-converter.qm"_s))
         QCoreApplication::installTranslator(ours);
+    return chosen;
 }
 
 }
