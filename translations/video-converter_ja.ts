@@ -361,7 +361,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>Length</source>
         <comment>Property of a film</comment>
-        <translation>再生時間</translation>
+        <translation>動画の長さ</translation>
     </message>
     <message>
         <source>Container</source>

@@ -335,7 +335,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>%@: converted to %@ in %@</source>
         <comment>Film, file that was made of it, time that it took</comment>
-        <translation>%@：已转换为 %@，用时 %@</translation>
+        <translation>%@: 已转换为 %@，用时 %@</translation>
     </message>
     <message>
         <source>%d of %d films converted</source>
@@ -370,7 +370,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>Stream</source>
         <comment>Property of a film</comment>
-        <translation>媒体流</translation>
+        <translation>轨道</translation>
     </message>
     <message>
         <source>none</source>
