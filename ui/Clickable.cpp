@@ -13,10 +13,12 @@ namespace {
 /// A view that listens to clicks, as a button; one that does not, as what it shows.
 class ClickableInterface : public QAccessibleWidget {
 public:
-    ClickableInterface(QWidget *view, QAccessible::Role passiveRole)
-        : QAccessibleWidget(
-            view, view->focusPolicy() == Qt::NoFocus ? passiveRole : QAccessible::PushButton)
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::Role role() const override
     {
+        const bool isButton = widget()->focusPolicy() != Qt::NoFocus;
+        return isButton ? QAccessible::PushButton : QAccessibleWidget::role();
     }
 
     QString text(QAccessible::Text kind) const override

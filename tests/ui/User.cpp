@@ -24,14 +24,21 @@ User::User(QMainWindow &window)
 
 void User::look()
 {
+    // The test's X server has no window manager that would give the focus back.
+    if (!QApplication::activeWindow() && !QApplication::activeModalWidget())
+        m_window.activateWindow();
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
     if (!dialog || !dialog->isVisible() || dialog == m_answered)
         return;
     m_answered = dialog;
-    if (auto *box = qobject_cast<QMessageBox *>(dialog))
-        answer(box);
-    else if (auto *sheet = qobject_cast<QFileDialog *>(dialog))
-        answer(sheet);
+    // An answer may bring up the next dialog, and a timer does not fire inside its own slot.
+    const auto act = [this, dialog = QPointer(dialog)] {
+        if (auto *box = qobject_cast<QMessageBox *>(dialog))
+            answer(box);
+        else if (auto *sheet = qobject_cast<QFileDialog *>(dialog))
+            answer(sheet);
+    };
+    QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
 }
 
 void User::answer(QMessageBox *box)

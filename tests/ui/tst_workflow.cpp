@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/FFMPEG.h"
 #include "support/Bundle.h"
+#include "support/Console.h"
 #include "support/Defaults.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
@@ -70,6 +71,7 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
+        Console::setSink([](const QString &) {});
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::setApplicationName(u"tst_workflow"_s);
     }
@@ -91,6 +93,7 @@ private Q_SLOTS:
         m_user = std::make_unique<User>(*m_delegate->window());
         m_delegate->applicationDidFinishLaunching();
         m_delegate->window()->show();
+        m_delegate->window()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_delegate->window()));
     }
 
@@ -100,6 +103,8 @@ private Q_SLOTS:
         m_user.reset();
         QTRY_COMPARE(Processes::children(), QStringList());
     }
+
+    void cleanupTestCase() { FFMPEG::shutDown(); }
 
     void film_becomesAnother()
     {
@@ -114,7 +119,7 @@ private Q_SLOTS:
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_user->proposal, u"film.webm"_s);
         QCOMPARE(m_delegate->resultFilePath(), path(u"film.webm"_s));
-        FFMPEG::shutDown();
+        QTRY_COMPARE(Processes::children(), QStringList());
         QCOMPARE(Media::streamEntry(path(u"film.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
         QCOMPARE(m_user->read, QStringList());
 
@@ -267,7 +272,7 @@ private Q_SLOTS:
         const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:3000:20000");
         QVERIFY(waitFor(WindowUIState::Converting));
         QTRY_VERIFY(m_user->find<ProgressBar>("progressBar")->doubleValue() > 0.01);
-        QTRY_VERIFY(m_delegate->window()->windowTitle().startsWith("1% – "_L1));
+        QTRY_VERIFY(m_delegate->window()->windowTitle().contains(u"% – "_s));
         QTest::keyClick(m_delegate->window(), Qt::Key_Escape);
         QCOMPARE(m_user->read, QStringList(question));
         QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
@@ -290,7 +295,7 @@ private Q_SLOTS:
         m_user->whileReading = [this] { QVERIFY(waitFor(WindowUIState::ConversionIsDone)); };
         m_user->click("cancelProgressButton");
         QCOMPARE(m_delegate->uiState(), WindowUIState::ConversionIsDone);
-        FFMPEG::shutDown();
+        QTRY_COMPARE(Processes::children(), QStringList());
         QVERIFY(QFile::exists(path(u"result.mkv"_s)));
     }
 
