@@ -1,0 +1,866 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Conversion Log</source>
+        <comment>title of the log&apos;s window</comment>
+        <translation>سجل التحويل</translation>
+    </message>
+    <message>
+        <source>Show Conversion Log</source>
+        <comment>menu command, opens a window</comment>
+        <translation>إظهار سجل التحويل</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <comment>menu command</comment>
+        <translation>التحقق من وجود تحديثات…</translation>
+    </message>
+    <message>
+        <source>Film to open.</source>
+        <comment>help on the command line</comment>
+        <translation>مقطع الفيديو المراد فتحه.</translation>
+    </message>
+    <message>
+        <source>Try &apos;video-converter-cli --help&apos;.</source>
+        <comment>Command line: follows a message about wrong usage</comment>
+        <translation>للمساعدة استخدم «video-converter-cli ‎--help».</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right one</comment>
+        <translation>لا توجد صيغة إخراج باسم «%@». هل تقصد «%@»؟</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
+        <comment>Command line: wrong value of --to</comment>
+        <translation>لا توجد صيغة إخراج باسم «%@». يعرض الأمر «formats» قائمة الصيغ.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; does not take --%@.</source>
+        <comment>Command line: a command and an option that does not belong to it</comment>
+        <translation>لا يقبل الأمر «%@» الخيار ‎--%@.</translation>
+    </message>
+    <message>
+        <source>--%@ needs one value.</source>
+        <comment>Command line: an option given twice or with an empty value</comment>
+        <translation>يتطلب الخيار ‎--%@ قيمة واحدة.</translation>
+    </message>
+    <message>
+        <source>&apos;formats&apos; takes no files.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لا يقبل الأمر «formats» أي ملفات.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; takes exactly one file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب الأمر «probe» ملفًا واحدًا فقط.</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب الأمر «plan» إما مقطع فيديو وملف إخراج، أو ‎--info وحده.</translation>
+    </message>
+    <message>
+        <source>There is no film to convert.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لم يُحدَّد أي مقطع فيديو للتحويل.</translation>
+    </message>
+    <message>
+        <source>&apos;convert&apos; needs either --output or --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب الأمر «convert» إما ‎--output أو ‎--folder.</translation>
+    </message>
+    <message>
+        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لا يمكن حفظ عدة مقاطع فيديو في ملف واحد؛ استخدم ‎--folder.</translation>
+    </message>
+    <message>
+        <source>--to NAME is missing.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>الخيار ‎--to NAME مفقود.</translation>
+    </message>
+    <message>
+        <source>There is no command named &quot;%@&quot;.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لا يوجد أمر باسم «%@».</translation>
+    </message>
+    <message>
+        <source>%@; that much was kept.</source>
+        <comment>After: The converting progress was finished at 12s</comment>
+        <translation>%@؛ وقد احتُفظ بالجزء المحوَّل.</translation>
+    </message>
+    <message>
+        <source>The tool that converts films can&apos;t be started.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>تعذّر تشغيل أداة تحويل الفيديو.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder does not exist.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>مجلد الوجهة غير موجود.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder is a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>مجلد الوجهة ملف وليس مجلدًا.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>ليس لديك إذن بالكتابة في مجلد الوجهة.</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>لا يمكن أن تحل النتيجة محل مقطع فيديو مطلوب تحويله.</translation>
+    </message>
+    <message>
+        <source>The destination is a folder, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>الوجهة مجلد وليست ملفًا.</translation>
+    </message>
+    <message>
+        <source>The destination is a link that leads nowhere.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>الوجهة رابط معطوب.</translation>
+    </message>
+    <message>
+        <source>The destination is a pipe or a device, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>الوجهة أنبوب أو جهاز وليست ملفًا.</translation>
+    </message>
+    <message>
+        <source>The destination exists already; --overwrite replaces it.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>الوجهة موجودة بالفعل؛ لاستبدالها أضف ‎--overwrite.</translation>
+    </message>
+    <message>
+        <source>The destination may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>ليس لديك إذن بالكتابة في الوجهة.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>الملف غير موجود.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a film.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>هذا مجلد وليس مقطع فيديو.</translation>
+    </message>
+    <message>
+        <source>The file may not be read: permission denied.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>تتعذّر قراءة الملف: الإذن مرفوض.</translation>
+    </message>
+    <message>
+        <source>This is a pipe or a device, not a file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>هذا أنبوب أو جهاز وليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>الملف فارغ.</translation>
+    </message>
+    <message>
+        <source>The file has gone.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>لم يعد الملف موجودًا.</translation>
+    </message>
+    <message>
+        <source>The tool that examines films can&apos;t be started.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>تعذّر تشغيل أداة فحص الفيديو.</translation>
+    </message>
+    <message>
+        <source>The file is no film, or it is damaged or incomplete.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>الملف ليس مقطع فيديو، أو أنه تالف أو غير مكتمل.</translation>
+    </message>
+    <message>
+        <source>The file does not tell how long it plays.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>لا يحدد الملف مدته.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s size can&apos;t be found out.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>تعذّر تحديد حجم الملف.</translation>
+    </message>
+    <message>
+        <source>The film is shorter than one second.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>مدة الفيديو أقل من ثانية واحدة.</translation>
+    </message>
+    <message>
+        <source>The file is still being written, or could be read only in part.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>ما زالت كتابة الملف جارية، أو لم تمكن قراءة سوى جزء منه.</translation>
+    </message>
+    <message>
+        <source>The tool %@ is missing or can&apos;t be run.</source>
+        <comment>Path of a program</comment>
+        <translation>الأداة %@ مفقودة أو يتعذّر تشغيلها.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>الأجهزة</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>الصيغ</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>جودة MP4</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts films.
+
+  formats   lists the outputs that --to takes
+  probe     describes a film
+  plan      prints the tool&apos;s command line without running it
+  convert   converts films
+
+video-converter-cli COMMAND --help tells more about a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several films it is that of the first that was not converted.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation>الاستخدام: video-converter-cli COMMAND [OPTIONS]
+يحوّل مقاطع الفيديو.
+
+  formats   يسرد صيغ الإخراج التي يقبلها --to
+  probe     يصف مقطع فيديو
+  plan      يطبع سطر أوامر الأداة دون تشغيلها
+  convert   يحوّل مقاطع الفيديو
+
+لمعرفة المزيد عن أمر: video-converter-cli COMMAND --help. خيارات جميع الأوامر:
+  --json      يطبع JSON
+  --verbose   يطبع التشخيص ومخرجات الأداة كاملة في مجرى الأخطاء القياسي
+  -h, --help  يطبع هذه المساعدة
+  --version   يطبع الإصدار
+
+رمز الإنهاء: 0 تم، 1 فشل التحويل، 2 استخدام خاطئ، 3 رُفض الفيديو، 4 رُفضت الوجهة،
+5 الأدوات مفقودة، 128 + N أوقفته الإشارة N (130 بعد Ctrl-C).
+عند تحويل عدة مقاطع يكون رمز أول مقطع لم يُحوَّل.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli formats [--json]
+Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help of the headless command</comment>
+        <translation>الاستخدام: video-converter-cli formats [--json]
+يسرد صيغ الإخراج التي يقبلها --to: الأجهزة والصيغ ومستويات جودة MP4.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a film. With --json: all that the tool says of it (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation>الاستخدام: video-converter-cli probe FILE [--json]
+يصف مقطع فيديو. مع --json: كل ما تذكره الأداة عنه (info) ومدته (duration, seconds)
+وحجم صورة الغلاف أو null (cover).</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
+       video-converter-cli plan --to NAME --info JSONFILE [--json]
+Prints the tool&apos;s command line, quoted for a shell, without running it.
+
+  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
+  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+                   (- for standard input) and prints only the arguments that depend
+                   on it
+  --json           prints one object: name of the output, list of arguments</source>
+        <comment>Help of the headless command</comment>
+        <translation>الاستخدام: video-converter-cli plan --to NAME FILE OUT [--json]
+           video-converter-cli plan --to NAME --info JSONFILE [--json]
+يطبع سطر أوامر الأداة بعلامات اقتباس تناسب الصدفة دون تشغيلها.
+
+  --to NAME        صيغة الإخراج، إحدى الصيغ التي يسردها «formats»، أو all
+  --info JSONFILE  يأخذ وصف الفيديو من ملف أنشأه «probe --json»
+                   (- للإدخال القياسي) ويطبع فقط المعاملات التي
+                   تعتمد عليه
+  --json           يطبع كائنًا واحدًا: اسم صيغة الإخراج وقائمة المعاملات</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
+  --overwrite          replaces files that exist; a film itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation>الاستخدام: video-converter-cli convert --to NAME FILE -o OUT
+           video-converter-cli convert --to NAME FILE... -d FOLDER
+يحوّل مقاطع الفيديو واحدًا تلو الآخر. يوقفه Ctrl-C دون ترك ملف غير مكتمل.
+
+  --to NAME            صيغة الإخراج، إحدى الصيغ التي يسردها «formats»
+  -o, --output OUT     الملف المراد كتابته
+  -d, --folder FOLDER  المجلد المراد الكتابة فيه؛ تأخذ الملفات أسماء مقاطع الفيديو
+  --overwrite          يستبدل الملفات الموجودة، ولا يستبدل مقطعًا أصليًا أبدًا
+  --json               يطبع كائن JSON واحدًا في كل سطر
+
+يوضع الاسم الذي يبدأ بشَرطة بعد --، مثلًا:
+convert --to GIF -o a.gif -- -a.mov</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <comment>The user stopped the program</comment>
+        <translation>تم الإلغاء.</translation>
+    </message>
+    <message>
+        <source>The output can&apos;t be written.</source>
+        <comment>Standard output is a file on a full disk</comment>
+        <translation>تعذّرت كتابة المخرجات.</translation>
+    </message>
+    <message>
+        <source>%@: converted to %@ in %@</source>
+        <comment>Film, file that was made of it, time that it took</comment>
+        <translation>%@: تم التحويل إلى %@ خلال %@</translation>
+    </message>
+    <message>
+        <source>%d of %d films converted</source>
+        <comment>Sum after the conversion of several films</comment>
+        <translation>مقاطع الفيديو المحوَّلة: %d من %d</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be opened.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>تعذّر فتح الملف.</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>لا يحتوي الملف على بيانات JSON.</translation>
+    </message>
+    <message>
+        <source>%d ch</source>
+        <comment>Number of sound channels, abbreviated</comment>
+        <translation>القنوات: %d</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <comment>Property of a film</comment>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <comment>Property of a film</comment>
+        <translation>الحاوية</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <comment>Property of a film</comment>
+        <translation>المسار</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>A film has no cover picture</comment>
+        <translation>لا يوجد</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <comment>Property of a film</comment>
+        <translation>الغلاف</translation>
+    </message>
+    <message>
+        <source>%@ so far</source>
+        <comment>Time that a conversion of unknown length has taken</comment>
+        <translation>مضى %@</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>Time that a conversion still needs</comment>
+        <translation>بقي %@</translation>
+    </message>
+    <message>
+        <source>There is no space left on the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لم تعد هناك مساحة خالية على قرص الوجهة.</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>استُنفدت حصة القرص.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk does not take a file so large.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا يدعم قرص الوجهة ملفًا بهذا الحجم.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk is read-only.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>قرص الوجهة للقراءة فقط.</translation>
+    </message>
+    <message>
+        <source>Permission was denied to read the film or to write the result.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا يوجد إذن بقراءة الفيديو أو بكتابة النتيجة.</translation>
+    </message>
+    <message>
+        <source>The installed tool has no encoder %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تتضمن الأداة المثبتة المُرمِّز %@.</translation>
+    </message>
+    <message>
+        <source>The installed tool can&apos;t write the format %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تستطيع الأداة المثبتة كتابة الصيغة %@.</translation>
+    </message>
+    <message>
+        <source>The film or the destination&apos;s folder has gone.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لم يعد الفيديو أو مجلد الوجهة موجودًا.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name is too long.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>اسم الوجهة طويل جدًا.</translation>
+    </message>
+    <message>
+        <source>A disk reported an error.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>أبلغ أحد الأقراص عن خطأ.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>الذاكرة غير كافية.</translation>
+    </message>
+    <message>
+        <source>The film holds nothing that this output can take.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا يحتوي الفيديو على أي شيء تقبله صيغة الإخراج هذه.</translation>
+    </message>
+    <message>
+        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا يقبل المُرمِّز صورة الفيديو أو صوته كما هما.</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لم تستجب الأداة لفترة طويلة فأُوقفت.</translation>
+    </message>
+    <message>
+        <source>The tool was stopped from outside.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>أُوقفت الأداة من الخارج.</translation>
+    </message>
+    <message>
+        <source>The film&apos;s data is damaged.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>بيانات الفيديو تالفة.</translation>
+    </message>
+    <message>
+        <source>The tool failed: %@</source>
+        <comment>Why a conversion failed; the tool&apos;s own words follow</comment>
+        <translation>فشلت الأداة: %@</translation>
+    </message>
+    <message>
+        <source>The tool was killed before it was done.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>أُنهيت الأداة قسرًا قبل أن تكمل عملها.</translation>
+    </message>
+    <message>
+        <source>Video Converter quit unexpectedly the last time.</source>
+        <comment>crash question, title</comment>
+        <translation>أُغلق Video Converter على نحو غير متوقع في المرة السابقة.</translation>
+    </message>
+    <message>
+        <source>May a report be sent to its makers? It says where the program stopped, its version and your system; nothing about your files is in it. “Always Send” also tells them when the program starts and how it ended.</source>
+        <comment>crash question, text</comment>
+        <translation>هل تريد إرسال تقرير إلى المطوّرين؟ يوضّح التقرير موضع توقّف البرنامج وإصداره ومعلومات عن نظامك، ولا يتضمن أي شيء عن ملفاتك. كما يُعلمهم خيار «الإرسال دائمًا» بوقت بدء تشغيل البرنامج وكيفية انتهائه.</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <comment>crash question, button</comment>
+        <translation>إرسال</translation>
+    </message>
+    <message>
+        <source>Always Send</source>
+        <comment>crash question, button</comment>
+        <translation>الإرسال دائمًا</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Send</source>
+        <comment>crash question, button</comment>
+        <translation>عدم الإرسال</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace the film it is made from.</source>
+        <comment>Error message when source and destination are one file</comment>
+        <translation>لا يمكن أن تحل النتيجة محل الفيديو الأصلي.</translation>
+    </message>
+    <message>
+        <source>The converting progress was finished at %@</source>
+        <comment>Error message format string when file has not been converted at full length</comment>
+        <translation>توقّف التحويل عند %@</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <comment>about box, with the version number</comment>
+        <translation>الإصدار %@</translation>
+    </message>
+    <message>
+        <source>About %@</source>
+        <comment>about box, with the program&apos;s name</comment>
+        <translation>حول %@</translation>
+    </message>
+    <message>
+        <source>Visit Web Site</source>
+        <comment>button of the about box</comment>
+        <translation>زيارة الموقع</translation>
+    </message>
+    <message>
+        <source>Alert.No</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>Alert.Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>“%@” is a folder. Choose another name.</source>
+        <comment>alert of the save panel, with the name of a folder</comment>
+        <translation>«⁨%@⁩» مجلد. اختر اسمًا آخر.</translation>
+    </message>
+    <message>
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <comment>question of the save panel, with the name of a file</comment>
+        <translation>الملف «⁨%@⁩» موجود بالفعل. هل تريد استبداله؟</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelTitle</source>
+        <comment>title for save panel</comment>
+        <translation>تحويل</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelPrompt</source>
+        <comment>prompt for save panel</comment>
+        <translation>تحويل</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelNameFieldLabel</source>
+        <comment>name label for save panel (&lt;= 15 symbols)</comment>
+        <translation>اسم الملف:</translation>
+    </message>
+    <message>
+        <source>%dd %dh %dm %ds</source>
+        <comment>format string for days/hours/minutes/seconds</comment>
+        <translation>%d&#xa0;ي %d&#xa0;س %d&#xa0;د %d&#xa0;ث</translation>
+    </message>
+    <message>
+        <source>%dh %dm %ds</source>
+        <comment>format string for hours/minutes/seconds</comment>
+        <translation>%d&#xa0;س %d&#xa0;د %d&#xa0;ث</translation>
+    </message>
+    <message>
+        <source>%dm %ds</source>
+        <comment>format string for minutes/seconds</comment>
+        <translation>%d&#xa0;د %d&#xa0;ث</translation>
+    </message>
+    <message>
+        <source>%ds</source>
+        <comment>format string for seconds</comment>
+        <translation>%d&#xa0;ث</translation>
+    </message>
+    <message>
+        <source>Video not supported</source>
+        <comment>Error message &apos;Video not supported&apos;</comment>
+        <translation>الفيديو غير مدعوم</translation>
+    </message>
+    <message>
+        <source>Attention! Current converting process will be cancelled.
+Are you sure you want to continue?</source>
+        <comment>Cancel progress alert message text</comment>
+        <translation>تنبيه! سيُلغى التحويل الجاري.
+هل تريد المتابعة حقًا؟</translation>
+    </message>
+    <message>
+        <source>The video can&apos;t be converted into itself</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>لا يمكن تحويل الفيديو إلى الملف نفسه</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder for the result.</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>اختر للنتيجة اسمًا آخر أو مجلدًا آخر.</translation>
+    </message>
+    <message>
+        <source>Error processing %@</source>
+        <comment>Error message on conversion failure</comment>
+        <translation>حدث خطأ أثناء معالجة ⁨%@⁩</translation>
+    </message>
+    <message>
+        <source>Converting a video</source>
+        <comment>why the machine stays awake</comment>
+        <translation>جارٍ تحويل مقطع فيديو</translation>
+    </message>
+    <message>
+        <source>%d%% – %@</source>
+        <comment>window title while converting: percentage, program name</comment>
+        <translation>%d%% – %@</translation>
+    </message>
+    <message>
+        <source>%d%%, about %@ left</source>
+        <comment>percentage converted and time left, such as 1m 30s</comment>
+        <translation>%d%%، بقي حوالي %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <comment>percentage converted</comment>
+        <translation>%d%%</translation>
+    </message>
+    <message>
+        <source>Convert.buttonTitle</source>
+        <comment>convert button title</comment>
+        <translation>تحويل</translation>
+    </message>
+    <message>
+        <source>You have the newest version of Video Converter, %@.</source>
+        <comment>update check</comment>
+        <translation>لديك أحدث إصدار من Video Converter، وهو %@.</translation>
+    </message>
+    <message>
+        <source>Updates are not available in this build.</source>
+        <comment>update check</comment>
+        <translation>التحديثات غير متاحة في هذه النسخة.</translation>
+    </message>
+    <message>
+        <source>The list of updates could not be read. Please try again later.</source>
+        <comment>update check</comment>
+        <translation>تعذّرت قراءة قائمة التحديثات. يُرجى المحاولة لاحقًا.</translation>
+    </message>
+    <message>
+        <source>An update was announced, but not by the makers of Video Converter. It is not offered.</source>
+        <comment>update check: wrong signature</comment>
+        <translation>أُعلن عن تحديث، لكنه ليس من مطوّري Video Converter، ولذلك لن يُعرض.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <comment>update dialog, release notes</comment>
+        <translation>ما الجديد</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <comment>update dialog, title</comment>
+        <translation>تحديث البرنامج</translation>
+    </message>
+    <message>
+        <source>Video Converter %1$@ is available. You have %2$@.</source>
+        <comment>update dialog: new, own version</comment>
+        <translation>يتوفر Video Converter %1$@. لديك الإصدار %2$@.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>update dialog, button</comment>
+        <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <comment>update dialog, button</comment>
+        <translation>تنزيل</translation>
+    </message>
+    <message>
+        <source>Open Web Site</source>
+        <comment>update dialog, button</comment>
+        <translation>فتح الموقع</translation>
+    </message>
+    <message>
+        <source>Downloading version %@</source>
+        <comment>update download</comment>
+        <translation>جارٍ تنزيل الإصدار %@</translation>
+    </message>
+    <message>
+        <source>The update is in your downloads folder as “%@”. Open it to install it.</source>
+        <comment>update download</comment>
+        <translation>حُفظ التحديث في مجلد التنزيلات باسم «⁨%@⁩». افتحه لتثبيته.</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <comment>update download, button</comment>
+        <translation>فتح المجلد</translation>
+    </message>
+    <message>
+        <source>The download was not signed by the makers of Video Converter and has been thrown away.</source>
+        <comment>update download: wrong signature</comment>
+        <translation>الملف الذي نُزّل غير موقَّع من مطوّري Video Converter، ولذلك حُذف.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Please try again later.</source>
+        <comment>update download</comment>
+        <translation>تعذّر تنزيل التحديث. يُرجى المحاولة لاحقًا.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Video Converter</source>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>صورة من الفيديو</translation>
+    </message>
+    <message>
+        <source>Examining the video</source>
+        <translation>جارٍ فحص الفيديو</translation>
+    </message>
+    <message>
+        <source>Drop area</source>
+        <translation>منطقة الإفلات</translation>
+    </message>
+    <message>
+        <source>Drag a video here</source>
+        <translation>اسحب مقطع فيديو إلى هنا</translation>
+    </message>
+    <message>
+        <source>or choose it from a folder</source>
+        <translation>أو اختره من مجلد</translation>
+    </message>
+    <message>
+        <source>Choose a video to convert</source>
+        <translation>اختيار مقطع فيديو لتحويله</translation>
+    </message>
+    <message>
+        <source>Choose what the video becomes</source>
+        <translation>اختيار الصيغة التي سيُحوَّل إليها الفيديو</translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation>جارٍ التحويل…</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>الوقت المتبقي</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>تقدّم التحويل</translation>
+    </message>
+    <message>
+        <source>Cancel the conversion</source>
+        <translation>إلغاء التحويل</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Conversion complete</source>
+        <translation>اكتمل التحويل</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>إظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Show the converted file in its folder</source>
+        <translation>إظهار الملف المحوَّل في مجلده</translation>
+    </message>
+    <message>
+        <source>Convert Another</source>
+        <translation>تحويل مقطع آخر</translation>
+    </message>
+    <message>
+        <source>Start over with another video</source>
+        <translation>البدء من جديد بمقطع فيديو آخر</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>Convert &amp;To</source>
+        <translation>تحويل &amp;إلى</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;تحرير</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>heading in the format menu</comment>
+        <translation>الأجهزة</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>heading in the format menu</comment>
+        <translation>الصيغ</translation>
+    </message>
+    <message>
+        <source>Audio (MP3)</source>
+        <comment>item of the format menu</comment>
+        <translation>صوت (MP3)</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>heading in the format menu</comment>
+        <translation>جودة MP4</translation>
+    </message>
+    <message>
+        <source>MP4 Low Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 بجودة منخفضة</translation>
+    </message>
+    <message>
+        <source>MP4 Medium Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 بجودة متوسطة</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;فتح…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Conversion</source>
+        <translation>إل&amp;غاء التحويل</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>إ&amp;ظهار في المجلد</translation>
+    </message>
+    <message>
+        <source>Convert &amp;Another</source>
+        <translation>تحويل مقطع آ&amp;خر</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>إ&amp;نهاء</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Video</source>
+        <translation>&amp;لصق الفيديو</translation>
+    </message>
+    <message>
+        <source>&amp;About Video Converter</source>
+        <translation>&amp;حول Video Converter</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,869 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Conversion Log</source>
+        <comment>title of the log&apos;s window</comment>
+        <translation>Journal de conversion</translation>
+    </message>
+    <message>
+        <source>Show Conversion Log</source>
+        <comment>menu command, opens a window</comment>
+        <translation>Afficher le journal de conversion</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <comment>menu command</comment>
+        <translation>Rechercher les mises à jour…</translation>
+    </message>
+    <message>
+        <source>Film to open.</source>
+        <comment>help on the command line</comment>
+        <translation>Vidéo à ouvrir.</translation>
+    </message>
+    <message>
+        <source>Try &apos;video-converter-cli --help&apos;.</source>
+        <comment>Command line: follows a message about wrong usage</comment>
+        <translation>Saisissez «&#xa0;video-converter-cli --help&#xa0;» pour plus d’informations.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right one</comment>
+        <translation>Le format de sortie «&#xa0;%@&#xa0;» n’existe pas. Vouliez-vous dire «&#xa0;%@&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
+        <comment>Command line: wrong value of --to</comment>
+        <translation>Le format de sortie «&#xa0;%@&#xa0;» n’existe pas. La commande «&#xa0;formats&#xa0;» en donne la liste.</translation>
+    </message>
+    <message>
+        <source>&apos;%@&apos; does not take --%@.</source>
+        <comment>Command line: a command and an option that does not belong to it</comment>
+        <translation>La commande «&#xa0;%@&#xa0;» n’accepte pas l’option --%@.</translation>
+    </message>
+    <message>
+        <source>--%@ needs one value.</source>
+        <comment>Command line: an option given twice or with an empty value</comment>
+        <translation>L’option --%@ attend une seule valeur.</translation>
+    </message>
+    <message>
+        <source>&apos;formats&apos; takes no files.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;formats&#xa0;» n’accepte aucun fichier.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; takes exactly one file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;probe&#xa0;» attend exactement un fichier.</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;plan&#xa0;» attend soit une vidéo et un fichier de sortie, soit --info seul.</translation>
+    </message>
+    <message>
+        <source>There is no film to convert.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Aucune vidéo à convertir n’est indiquée.</translation>
+    </message>
+    <message>
+        <source>&apos;convert&apos; needs either --output or --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;convert&#xa0;» attend soit --output, soit --folder.</translation>
+    </message>
+    <message>
+        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Plusieurs vidéos ne peuvent pas être enregistrées dans un seul fichier&#xa0;; utilisez --folder.</translation>
+    </message>
+    <message>
+        <source>--to NAME is missing.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>L’option --to NOM est absente.</translation>
+    </message>
+    <message>
+        <source>There is no command named &quot;%@&quot;.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;%@&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%@; that much was kept.</source>
+        <comment>After: The converting progress was finished at 12s</comment>
+        <translation>%@&#xa0;; la partie déjà convertie a été conservée.</translation>
+    </message>
+    <message>
+        <source>The tool that converts films can&apos;t be started.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Impossible de lancer l’outil de conversion des vidéos.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder does not exist.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Le dossier de destination n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder is a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Le dossier de destination est en fait un fichier.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s folder may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Vous n’avez pas le droit d’écrire dans le dossier de destination.</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Le résultat ne peut pas remplacer une vidéo à convertir.</translation>
+    </message>
+    <message>
+        <source>The destination is a folder, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La destination est un dossier et non un fichier.</translation>
+    </message>
+    <message>
+        <source>The destination is a link that leads nowhere.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La destination est un lien rompu.</translation>
+    </message>
+    <message>
+        <source>The destination is a pipe or a device, not a file.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La destination est un tube ou un périphérique et non un fichier.</translation>
+    </message>
+    <message>
+        <source>The destination exists already; --overwrite replaces it.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La destination existe déjà&#xa0;; --overwrite la remplace.</translation>
+    </message>
+    <message>
+        <source>The destination may not be written to.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Vous n’avez pas le droit d’écrire à cette destination.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Ce fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a film.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>C’est un dossier et non une vidéo.</translation>
+    </message>
+    <message>
+        <source>The file may not be read: permission denied.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Lecture du fichier impossible&#xa0;: permission refusée.</translation>
+    </message>
+    <message>
+        <source>This is a pipe or a device, not a file.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>C’est un tube ou un périphérique et non un fichier.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>The file has gone.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Le fichier a disparu.</translation>
+    </message>
+    <message>
+        <source>The tool that examines films can&apos;t be started.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Impossible de lancer l’outil d’analyse des vidéos.</translation>
+    </message>
+    <message>
+        <source>The file is no film, or it is damaged or incomplete.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Le fichier n’est pas une vidéo, ou il est endommagé ou incomplet.</translation>
+    </message>
+    <message>
+        <source>The file does not tell how long it plays.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Le fichier n’indique pas sa durée.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s size can&apos;t be found out.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Impossible de déterminer la taille du fichier.</translation>
+    </message>
+    <message>
+        <source>The film is shorter than one second.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>La vidéo dure moins d’une seconde.</translation>
+    </message>
+    <message>
+        <source>The file is still being written, or could be read only in part.</source>
+        <comment>Why a film can&apos;t be converted</comment>
+        <translation>Le fichier est encore en cours d’écriture ou n’a pu être lu qu’en partie.</translation>
+    </message>
+    <message>
+        <source>The tool %@ is missing or can&apos;t be run.</source>
+        <comment>Path of a program</comment>
+        <translation>L’outil %@ est introuvable ou ne peut pas être exécuté.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Formats</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>Heading of a group of outputs</comment>
+        <translation>Qualité MP4</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts films.
+
+  formats   lists the outputs that --to takes
+  probe     describes a film
+  plan      prints the tool&apos;s command line without running it
+  convert   converts films
+
+video-converter-cli COMMAND --help tells more about a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several films it is that of the first that was not converted.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation>Utilisation&#xa0;: video-converter-cli COMMANDE [OPTIONS]
+Convertit des vidéos.
+
+  formats   donne la liste des formats de sortie pour --to
+  probe     décrit une vidéo
+  plan      affiche la ligne de commande de l’outil sans l’exécuter
+  convert   convertit des vidéos
+
+Pour en savoir plus sur une commande&#xa0;: video-converter-cli COMMANDE --help.
+Options de toutes les commandes&#xa0;:
+  --json      affiche du JSON
+  --verbose   affiche les diagnostics et tous les messages de l’outil sur la sortie
+              d’erreur
+  -h, --help  affiche cette aide
+  --version   affiche la version
+
+Code de retour&#xa0;: 0 terminé, 1 échec d’une conversion, 2 mauvaise utilisation, 3 vidéo
+refusée, 4 destination refusée, 5 outils absents, 128 + N arrêt par le signal N
+(130 après Ctrl-C).
+Pour plusieurs vidéos, c’est celui de la première qui n’a pas été convertie.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli formats [--json]
+Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help of the headless command</comment>
+        <translation>Utilisation&#xa0;: video-converter-cli formats [--json]
+Donne la liste des formats de sortie pour --to&#xa0;: appareils, formats et qualités MP4.</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a film. With --json: all that the tool says of it (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation>Utilisation&#xa0;: video-converter-cli probe FICHIER [--json]
+Décrit une vidéo. Avec --json&#xa0;: tout ce qu’en dit l’outil (info), sa durée (duration,
+seconds) et la taille de sa vignette ou null (cover).</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
+       video-converter-cli plan --to NAME --info JSONFILE [--json]
+Prints the tool&apos;s command line, quoted for a shell, without running it.
+
+  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
+  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+                   (- for standard input) and prints only the arguments that depend
+                   on it
+  --json           prints one object: name of the output, list of arguments</source>
+        <comment>Help of the headless command</comment>
+        <translation>Utilisation&#xa0;: video-converter-cli plan --to NOM FICHIER SORTIE [--json]
+              video-converter-cli plan --to NOM --info FICHIER_JSON [--json]
+Affiche la ligne de commande de l’outil, protégée pour un shell, sans l’exécuter.
+
+  --to NOM             le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;», ou all
+  --info FICHIER_JSON  prend la description de la vidéo dans un fichier créé par
+                       «&#xa0;probe --json&#xa0;» (- pour l’entrée standard) et n’affiche que
+                       les arguments qui en dépendent
+  --json               affiche un objet&#xa0;: nom du format de sortie, liste d’arguments</translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
+  --overwrite          replaces files that exist; a film itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation>Utilisation&#xa0;: video-converter-cli convert --to NOM FICHIER -o SORTIE
+              video-converter-cli convert --to NOM FICHIER... -d DOSSIER
+Convertit des vidéos l’une après l’autre. Ctrl-C arrête sans laisser de fichier inachevé.
+
+  --to NOM              le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;»
+  -o, --output SORTIE   le fichier à écrire
+  -d, --folder DOSSIER  le dossier où écrire&#xa0;; les fichiers prennent le nom des vidéos
+  --overwrite           remplace les fichiers existants, mais jamais une vidéo d’origine
+  --json                affiche un objet JSON par ligne
+
+Un nom qui commence par un tiret se place après --, par exemple&#xa0;:
+convert --to GIF -o a.gif -- -a.mov</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <comment>The user stopped the program</comment>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>The output can&apos;t be written.</source>
+        <comment>Standard output is a file on a full disk</comment>
+        <translation>Impossible d’écrire la sortie.</translation>
+    </message>
+    <message>
+        <source>%@: converted to %@ in %@</source>
+        <comment>Film, file that was made of it, time that it took</comment>
+        <translation>%@&#xa0;: conversion vers %@ terminée en %@</translation>
+    </message>
+    <message>
+        <source>%d of %d films converted</source>
+        <comment>Sum after the conversion of several films</comment>
+        <translation>Vidéos converties&#xa0;: %d sur %d</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be opened.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>Impossible d’ouvrir le fichier.</translation>
+    </message>
+    <message>
+        <source>The file holds no JSON.</source>
+        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <translation>Le fichier ne contient pas de JSON.</translation>
+    </message>
+    <message>
+        <source>%d ch</source>
+        <comment>Number of sound channels, abbreviated</comment>
+        <translation>%d can.</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <comment>Property of a film</comment>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <comment>Property of a film</comment>
+        <translation>Conteneur</translation>
+    </message>
+    <message>
+        <source>Stream</source>
+        <comment>Property of a film</comment>
+        <translation>Flux</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>A film has no cover picture</comment>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <comment>Property of a film</comment>
+        <translation>Vignette</translation>
+    </message>
+    <message>
+        <source>%@ so far</source>
+        <comment>Time that a conversion of unknown length has taken</comment>
+        <translation>déjà %@</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>Time that a conversion still needs</comment>
+        <translation>encore %@</translation>
+    </message>
+    <message>
+        <source>There is no space left on the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Il n’y a plus d’espace libre sur le disque de destination.</translation>
+    </message>
+    <message>
+        <source>The disk quota is used up.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Le quota de disque est atteint.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk does not take a file so large.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Le disque de destination n’accepte pas de fichier aussi volumineux.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s disk is read-only.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Le disque de destination est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>Permission was denied to read the film or to write the result.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Permission refusée pour lire la vidéo ou écrire le résultat.</translation>
+    </message>
+    <message>
+        <source>The installed tool has no encoder %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil installé ne dispose pas de l’encodeur %@.</translation>
+    </message>
+    <message>
+        <source>The installed tool can&apos;t write the format %@.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil installé ne peut pas écrire le format %@.</translation>
+    </message>
+    <message>
+        <source>The film or the destination&apos;s folder has gone.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La vidéo ou le dossier de destination a disparu.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name is too long.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Le nom de la destination est trop long.</translation>
+    </message>
+    <message>
+        <source>A disk reported an error.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Un disque a signalé une erreur.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>The film holds nothing that this output can take.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La vidéo ne contient rien que ce format de sortie puisse recevoir.</translation>
+    </message>
+    <message>
+        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’encodeur n’accepte pas tels quels l’image ou le son de la vidéo.</translation>
+    </message>
+    <message>
+        <source>The tool was silent for too long and was stopped.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil est resté muet trop longtemps et a été arrêté.</translation>
+    </message>
+    <message>
+        <source>The tool was stopped from outside.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil a été arrêté de l’extérieur.</translation>
+    </message>
+    <message>
+        <source>The film&apos;s data is damaged.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Les données de la vidéo sont endommagées.</translation>
+    </message>
+    <message>
+        <source>The tool failed: %@</source>
+        <comment>Why a conversion failed; the tool&apos;s own words follow</comment>
+        <translation>L’outil a échoué&#xa0;: %@</translation>
+    </message>
+    <message>
+        <source>The tool was killed before it was done.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil a été tué avant d’avoir terminé.</translation>
+    </message>
+    <message>
+        <source>Video Converter quit unexpectedly the last time.</source>
+        <comment>crash question, title</comment>
+        <translation>La dernière fois, Video Converter a quitté de façon inattendue.</translation>
+    </message>
+    <message>
+        <source>May a report be sent to its makers? It says where the program stopped, its version and your system; nothing about your files is in it. “Always Send” also tells them when the program starts and how it ended.</source>
+        <comment>crash question, text</comment>
+        <translation>Voulez-vous envoyer un rapport aux développeurs&#xa0;? Il indique où le programme s’est arrêté, sa version et votre système&#xa0;; il ne contient rien sur vos fichiers. «&#xa0;Toujours envoyer&#xa0;» leur signale aussi quand le programme démarre et comment il s’est terminé.</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <comment>crash question, button</comment>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>Always Send</source>
+        <comment>crash question, button</comment>
+        <translation>Toujours envoyer</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Send</source>
+        <comment>crash question, button</comment>
+        <translation>Ne pas envoyer</translation>
+    </message>
+    <message>
+        <source>The result can&apos;t replace the film it is made from.</source>
+        <comment>Error message when source and destination are one file</comment>
+        <translation>Le résultat ne peut pas remplacer la vidéo d’origine.</translation>
+    </message>
+    <message>
+        <source>The converting progress was finished at %@</source>
+        <comment>Error message format string when file has not been converted at full length</comment>
+        <translation>La conversion s’est arrêtée à %@</translation>
+    </message>
+    <message>
+        <source>Version %@</source>
+        <comment>about box, with the version number</comment>
+        <translation>Version %@</translation>
+    </message>
+    <message>
+        <source>About %@</source>
+        <comment>about box, with the program&apos;s name</comment>
+        <translation>À propos de %@</translation>
+    </message>
+    <message>
+        <source>Visit Web Site</source>
+        <comment>button of the about box</comment>
+        <translation>Visiter le site web</translation>
+    </message>
+    <message>
+        <source>Alert.No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Alert.Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>“%@” is a folder. Choose another name.</source>
+        <comment>alert of the save panel, with the name of a folder</comment>
+        <translation>«&#xa0;%@&#xa0;» est un dossier. Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>“%@” already exists. Do you want to replace it?</source>
+        <comment>question of the save panel, with the name of a file</comment>
+        <translation>Le fichier «&#xa0;%@&#xa0;» existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelTitle</source>
+        <comment>title for save panel</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelPrompt</source>
+        <comment>prompt for save panel</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>Convert.savePanelNameFieldLabel</source>
+        <comment>name label for save panel (&lt;= 15 symbols)</comment>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%dd %dh %dm %ds</source>
+        <comment>format string for days/hours/minutes/seconds</comment>
+        <translation>%d&#xa0;j %d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dh %dm %ds</source>
+        <comment>format string for hours/minutes/seconds</comment>
+        <translation>%d&#xa0;h %d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%dm %ds</source>
+        <comment>format string for minutes/seconds</comment>
+        <translation>%d&#xa0;min %d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%ds</source>
+        <comment>format string for seconds</comment>
+        <translation>%d&#xa0;s</translation>
+    </message>
+    <message>
+        <source>Video not supported</source>
+        <comment>Error message &apos;Video not supported&apos;</comment>
+        <translation>Vidéo non prise en charge</translation>
+    </message>
+    <message>
+        <source>Attention! Current converting process will be cancelled.
+Are you sure you want to continue?</source>
+        <comment>Cancel progress alert message text</comment>
+        <translation>Attention&#xa0;! La conversion en cours sera annulée.
+Voulez-vous vraiment continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The video can&apos;t be converted into itself</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>Impossible de convertir la vidéo dans son propre fichier</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder for the result.</source>
+        <comment>the chosen destination is the source file</comment>
+        <translation>Choisissez un autre nom ou un autre dossier pour le résultat.</translation>
+    </message>
+    <message>
+        <source>Error processing %@</source>
+        <comment>Error message on conversion failure</comment>
+        <translation>Erreur lors du traitement de %@</translation>
+    </message>
+    <message>
+        <source>Converting a video</source>
+        <comment>why the machine stays awake</comment>
+        <translation>Conversion d’une vidéo</translation>
+    </message>
+    <message>
+        <source>%d%% – %@</source>
+        <comment>window title while converting: percentage, program name</comment>
+        <translation>%d&#xa0;%% – %@</translation>
+    </message>
+    <message>
+        <source>%d%%, about %@ left</source>
+        <comment>percentage converted and time left, such as 1m 30s</comment>
+        <translation>%d&#xa0;%%, encore environ %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <comment>percentage converted</comment>
+        <translation>%d&#xa0;%%</translation>
+    </message>
+    <message>
+        <source>Convert.buttonTitle</source>
+        <comment>convert button title</comment>
+        <translation>Convertir</translation>
+    </message>
+    <message>
+        <source>You have the newest version of Video Converter, %@.</source>
+        <comment>update check</comment>
+        <translation>Vous disposez de la dernière version de Video Converter (%@).</translation>
+    </message>
+    <message>
+        <source>Updates are not available in this build.</source>
+        <comment>update check</comment>
+        <translation>Les mises à jour ne sont pas disponibles pour cette version.</translation>
+    </message>
+    <message>
+        <source>The list of updates could not be read. Please try again later.</source>
+        <comment>update check</comment>
+        <translation>Impossible de lire la liste des mises à jour. Veuillez réessayer plus tard.</translation>
+    </message>
+    <message>
+        <source>An update was announced, but not by the makers of Video Converter. It is not offered.</source>
+        <comment>update check: wrong signature</comment>
+        <translation>Une mise à jour a été annoncée, mais pas par les développeurs de Video Converter. Elle n’est pas proposée.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <comment>update dialog, release notes</comment>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <comment>update dialog, title</comment>
+        <translation>Mise à jour logicielle</translation>
+    </message>
+    <message>
+        <source>Video Converter %1$@ is available. You have %2$@.</source>
+        <comment>update dialog: new, own version</comment>
+        <translation>Video Converter %1$@ est disponible. Vous avez la version %2$@.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>update dialog, button</comment>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <comment>update dialog, button</comment>
+        <translation>Télécharger</translation>
+    </message>
+    <message>
+        <source>Open Web Site</source>
+        <comment>update dialog, button</comment>
+        <translation>Ouvrir le site web</translation>
+    </message>
+    <message>
+        <source>Downloading version %@</source>
+        <comment>update download</comment>
+        <translation>Téléchargement de la version %@</translation>
+    </message>
+    <message>
+        <source>The update is in your downloads folder as “%@”. Open it to install it.</source>
+        <comment>update download</comment>
+        <translation>La mise à jour se trouve dans votre dossier de téléchargements sous le nom «&#xa0;%@&#xa0;». Ouvrez-la pour l’installer.</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <comment>update download, button</comment>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>The download was not signed by the makers of Video Converter and has been thrown away.</source>
+        <comment>update download: wrong signature</comment>
+        <translation>Le fichier téléchargé n’était pas signé par les développeurs de Video Converter et a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Please try again later.</source>
+        <comment>update download</comment>
+        <translation>Impossible de télécharger la mise à jour. Veuillez réessayer plus tard.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Video Converter</source>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Picture of the video</source>
+        <translation>Image de la vidéo</translation>
+    </message>
+    <message>
+        <source>Examining the video</source>
+        <translation>Analyse de la vidéo</translation>
+    </message>
+    <message>
+        <source>Drop area</source>
+        <translation>Zone de dépôt</translation>
+    </message>
+    <message>
+        <source>Drag a video here</source>
+        <translation>Faites glisser une vidéo ici</translation>
+    </message>
+    <message>
+        <source>or choose it from a folder</source>
+        <translation>ou choisissez-la dans un dossier</translation>
+    </message>
+    <message>
+        <source>Choose a video to convert</source>
+        <translation>Choisir une vidéo à convertir</translation>
+    </message>
+    <message>
+        <source>Choose what the video becomes</source>
+        <translation>Choisir le format de la vidéo convertie</translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation>Conversion…</translation>
+    </message>
+    <message>
+        <source>Time left</source>
+        <translation>Temps restant</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>Progression de la conversion</translation>
+    </message>
+    <message>
+        <source>Cancel the conversion</source>
+        <translation>Annuler la conversion</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Conversion complete</source>
+        <translation>Conversion terminée</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Show the converted file in its folder</source>
+        <translation>Afficher le fichier converti dans son dossier</translation>
+    </message>
+    <message>
+        <source>Convert Another</source>
+        <translation>Convertir une autre vidéo</translation>
+    </message>
+    <message>
+        <source>Start over with another video</source>
+        <translation>Recommencer avec une autre vidéo</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Convert &amp;To</source>
+        <translation>Convertir &amp;en</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <comment>heading in the format menu</comment>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <comment>heading in the format menu</comment>
+        <translation>Formats</translation>
+    </message>
+    <message>
+        <source>Audio (MP3)</source>
+        <comment>item of the format menu</comment>
+        <translation>Audio (MP3)</translation>
+    </message>
+    <message>
+        <source>MP4 quality</source>
+        <comment>heading in the format menu</comment>
+        <translation>Qualité MP4</translation>
+    </message>
+    <message>
+        <source>MP4 Low Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 basse qualité</translation>
+    </message>
+    <message>
+        <source>MP4 Medium Quality</source>
+        <comment>item of the format menu</comment>
+        <translation>MP4 qualité moyenne</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Conversion</source>
+        <translation>&amp;Annuler la conversion</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>Afficher dans le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>Convert &amp;Another</source>
+        <translation>Convertir une a&amp;utre vidéo</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Paste Video</source>
+        <translation>&amp;Coller la vidéo</translation>
+    </message>
+    <message>
+        <source>&amp;About Video Converter</source>
+        <translation>À &amp;propos de Video Converter</translation>
+    </message>
+</context>
+</TS>
