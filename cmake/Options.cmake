@@ -3,7 +3,8 @@
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    # Paths count from the build folder, so that one clone's results serve the next.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
 endif()
 
 set(VIDEO_CONVERTER_SANITIZE "" CACHE STRING "Sanitizers of this build: 'address,undefined', 'thread' or empty")
