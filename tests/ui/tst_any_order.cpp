@@ -14,11 +14,13 @@
 #include <QTest>
 #include <QUrl>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int actionCount = 3000;
+constexpr int actionCount = 1000;
 constexpr char film[] = "bytes that only the fake tool takes for a film";
 constexpr char hundredSeconds[] = "print:Duration: 00:01:40.00, start: 0.000000 |";
 
@@ -99,6 +101,12 @@ private:
         default:
             QTest::qWait(below(30));
         }
+        // Mostly with the patience that it takes to get on.
+        const WindowUIState state = m_delegate->uiState();
+        const bool works
+            = state == WindowUIState::WaitingForCover || state == WindowUIState::Converting;
+        if (works && below(3))
+            std::ignore = QTest::qWaitFor([&] { return m_delegate->uiState() != state; }, 150);
         QCoreApplication::processEvents();
     }
 
