@@ -18,6 +18,7 @@ void writeFrame(ReportWriter &report, unsigned index, unw_word_t address)
 {
     dl_find_object module{};
     report.text("  ").decimal(index).text(" ");
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the unwinder knows numbers only.
     if (_dl_find_object(reinterpret_cast<void *>(address), &module) != 0) {
         report.text("?+").hex(address).text("\n");
         return;

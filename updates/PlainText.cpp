@@ -13,7 +13,7 @@ constexpr qsizetype textLimit = 4000;
 
 QStringView tagName(QStringView tag)
 {
-    const auto end = std::find_if(
+    const QChar *end = std::find_if(
         tag.begin(), tag.end(), [](QChar c) { return !c.isLetterOrNumber() && c != u'/'; });
     return tag.first(end - tag.begin());
 }

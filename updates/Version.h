@@ -21,7 +21,7 @@ public:
     friend std::strong_ordering operator<=>(const Version &left, const Version &right);
     friend bool operator==(const Version &left, const Version &right)
     {
-        return (left <=> right) == 0;
+        return std::is_eq(left <=> right);
     }
 
 private:

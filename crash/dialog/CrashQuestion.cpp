@@ -15,7 +15,8 @@ SendReport askToSendReport(QWidget *parent, const QString &report)
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(localized(QT_TRANSLATE_NOOP3("Localizable",
         "May a report be sent to its makers? It says where the program stopped, its version and "
-        "your system; nothing about your files is in it.",
+        "your system; nothing about your files is in it. “Always Send” also tells them when the "
+        "program starts and how it ended.",
         "crash question, text")));
     box.setDetailedText(report);
     const auto *send = box.addButton(

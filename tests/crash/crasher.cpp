@@ -11,12 +11,14 @@
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <link.h>
 #include <mutex>
 #include <stdexcept>
 #include <string_view>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 extern "C" void *__libc_malloc(std::size_t size);
 
@@ -51,24 +53,46 @@ std::mutex mallocMutex;
     return depth < INT_MAX ? crashStack(depth + 1) + filling[0] : 0;
 }
 
+// Its long report leaves the other threads time to crash while it is written.
+[[gnu::noinline]] int crashDeep(int depth)
+{
+    if (depth == 0)
+        crashSegv();
+    return depth == 0 ? 0 : crashDeep(depth - 1) + 1;
+}
+
 [[gnu::noinline]] void crashThreads()
 {
+    constexpr int count = 4;
     std::atomic_int ready = 0;
     const auto crash = [&ready] {
         ++ready;
-        while (ready < 2) { }
-        crashSegv();
+        while (ready < count) { }
+        crashDeep(200);
     };
-    std::thread first(crash);
-    std::thread second(crash);
-    first.join();
-    second.join();
+    std::vector<std::jthread> threads;
+    threads.reserve(count);
+    for (int thread = 0; thread < count; ++thread)
+        threads.emplace_back(crash);
 }
 
 [[gnu::noinline]] void crashMalloc()
 {
     crashInMalloc = true;
     std::free(std::malloc(10));
+}
+
+// Another thread holds for ever what the unwinder waits for.
+[[gnu::noinline]] void crashLocked()
+{
+    static std::atomic_bool isLocked = false;
+    const auto lock = [](dl_phdr_info *, std::size_t, void *) {
+        isLocked = true;
+        return ::pause();
+    };
+    std::thread([lock] { ::dl_iterate_phdr(lock, nullptr); }).detach();
+    while (!isLocked) { }
+    crashSegv();
 }
 
 // The crash of a child between fork and exec is not the program's.
@@ -131,6 +155,8 @@ int main(int argc, char **argv)
         crashThreads();
     else if (kind == "malloc")
         crashMalloc();
+    else if (kind == "locked")
+        crashLocked();
     else if (kind == "child")
         crashChild();
     else

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void initTestCase();
     void crash_leavesAReportAndItsSignal_data();
     void crash_leavesAReportAndItsSignal();
+    void crash_thatCannotBeUnwoundEndsAllTheSame();
     void forkedChild_leavesNoReport();
     void start_leavesTheProcessAsItWas();
 
@@ -114,6 +115,14 @@ void tst_Crash::crash_leavesAReportAndItsSignal()
     QVERIFY2(functions(report).join(u' ').contains(function), report.constData());
     for (const char *secret : { "/home", "home user", "Secret", "user", "mp4", CRASHER, "/lib" })
         QVERIFY2(!report.contains(secret), report.constData());
+}
+
+void tst_Crash::crash_thatCannotBeUnwoundEndsAllTheSame()
+{
+    const End end = run(u"locked"_s);
+    QCOMPARE(end.signal, SIGSEGV);
+    QCOMPARE(end.reports.size(), 1);
+    QVERIFY(end.reports[0].contains("Reason: SIGSEGV"));
 }
 
 void tst_Crash::forkedChild_leavesNoReport()

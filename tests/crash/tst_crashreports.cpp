@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QNetworkProxyFactory>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +34,7 @@ private:
     /// Runs the question with one answer for all, and returns what was asked about.
     QStringList ask(SendReport answer);
 
+    std::unique_ptr<QTemporaryDir> m_data;
     std::unique_ptr<LoopbackServer> m_server;
     std::unique_ptr<CrashReports> m_reports;
 };
@@ -40,7 +42,8 @@ private:
 void tst_CrashReports::init()
 {
     QNetworkProxyFactory::setUseSystemConfiguration(false);
-    QDir(CrashReporter::folder()).removeRecursively();
+    m_data = std::make_unique<QTemporaryDir>();
+    qputenv("XDG_DATA_HOME", m_data->path().toLocal8Bit());
     QDir().mkpath(CrashReporter::folder());
     Defaults::remove(u"CrashReportsAlwaysSend"_s);
     qunsetenv("DO_NOT_TRACK");
@@ -56,7 +59,7 @@ void tst_CrashReports::leaveReport(int number)
     file.write("report " + QByteArray::number(number));
     file.flush();
     file.setFileTime(
-        QDateTime::currentDateTime().addSecs(-60 * number), QFile::FileModificationTime);
+        QDateTime::currentDateTime().addSecs(-qint64{ 60 } * number), QFile::FileModificationTime);
 }
 
 QStringList tst_CrashReports::files()

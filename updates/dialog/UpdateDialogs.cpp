@@ -124,6 +124,7 @@ void UpdateDialogs::startDownload(const AppcastItem &item)
     m_progress->setAutoClose(false);
     m_progress->setAutoReset(false);
     m_progress->setMinimumDuration(0);
+    m_progress->setMinimumWidth(320);
     m_progress->setRange(0, 0);
     m_progress->setLabelText(formatted(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Downloading version %@", "update download")),
