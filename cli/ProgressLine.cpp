@@ -81,8 +81,10 @@ QString progressBar(const QString &film, const ProgressSample &sample, int colum
     const QString text = progressText(sample);
     const int nameWidth = std::clamp(columns / 4, 8, 24);
     const QString name = leftJustified(elided(printable(film), nameWidth), nameWidth);
-    // Room for the longest text, so that the bar keeps its width; the last column stays free.
-    const int barWidth = std::min(40, columns - nameWidth - 32);
+    // Room for a long text in the user's language, so that the bar keeps its width; the last column
+    // stays free.
+    const ProgressSample longest{ .completed = 1, .total = 86'400, .elapsed = 1s };
+    const int barWidth = std::min(40, columns - nameWidth - columnsOf(progressText(longest)) - 4);
     if (barWidth < 8)
         return elided(name + u' ' + text, columns - 1);
     return elided(name + u" ["_s + bar(sample, barWidth) + u"] "_s + text, columns - 1);
