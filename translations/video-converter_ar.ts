@@ -26,7 +26,7 @@
     <message>
         <source>Try &apos;video-converter-cli --help&apos;.</source>
         <comment>Command line: follows a message about wrong usage</comment>
-        <translation>للمساعدة استخدم «video-converter-cli ‎--help».</translation>
+        <translation>للمساعدة استخدم «video-converter-cli --help».</translation>
     </message>
     <message>
         <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
