@@ -8,9 +8,11 @@ _video_converter_cli() {
     case $previous in
         --to)
             while IFS= read -r name; do
-                # Quoted or not, what was typed is compared without its quoting.
+                # What was typed is compared without its quoting; inside quotes the name needs no other.
                 local typed=${current//[\\\"\']/}
-                [[ ${name,,} == "${typed,,}"* ]] && COMPREPLY+=("$(printf '%q' "$name")")
+                [[ ${name,,} == "${typed,,}"* ]] || continue
+                [[ $current == [\"\']* ]] || name=$(printf '%q' "$name")
+                COMPREPLY+=("$name")
             done < <("$1" formats --json 2>/dev/null | sed -n 's/^ *"name": "\(.*\)",\{0,1\}$/\1/p')
             return
             ;;
