@@ -22,6 +22,7 @@
 #include <QFileOpenEvent>
 #include <QMimeData>
 #include <QPointer>
+#include <QScreen>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -92,7 +93,8 @@ AppDelegate::AppDelegate()
     keepPlaces(*m_outlets->dropAcceptor);
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
-    m_window.resize(line * 36, line * 31);
+    m_window.resize(
+        QSize(line * 36, line * 31).boundedTo(m_window.screen()->availableSize() * 0.9));
     giveRoom(m_outlets->startOverButton, line);
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     Clickable::enable(m_outlets->openFromFolderLabel);
@@ -265,7 +267,9 @@ void AppDelegate::fileWasProbed(
     setUiState(WindowUIState::CoverIsSet);
     m_outlets->movieCoverImageView->setImage(cover);
     m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
+    // A tool tip guesses whether it is mark-up; a file's name is none.
     m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
+    m_outlets->movieNameLabel->setAccessibleDescription(path);
     m_outlets->movieDurationLabel->setText(duration);
 }
 

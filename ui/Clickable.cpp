@@ -2,6 +2,7 @@
 #include "ui/Clickable.h"
 
 #include "ui/ImageView.h"
+#include "ui/SpinningView.h"
 #include "ui/TextField.h"
 
 #include <QAccessibleWidget>
@@ -43,12 +44,27 @@ public:
     }
 };
 
+/// A spinner is there only while it spins.
+class SpinnerInterface : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.invisible = !static_cast<SpinningView *>(widget())->spinning();
+        return state;
+    }
+};
+
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
     if (auto *image = qobject_cast<ImageView *>(object))
         return new ClickableInterface(image, QAccessible::Graphic);
     if (auto *label = qobject_cast<TextField *>(object))
         return new ClickableInterface(label, QAccessible::StaticText);
+    if (auto *spinner = qobject_cast<SpinningView *>(object))
+        return new SpinnerInterface(spinner, QAccessible::Animation);
     return nullptr;
 }
 

@@ -19,7 +19,8 @@ void enable(QWidget *view);
 [[nodiscard]] bool changesLook(const QEvent &event);
 /// A ring around the view that has the focus, once the user moves it by keyboard.
 void paintFocus(QPainter &painter, const QWidget &view);
-/// Tells screen readers that such views are buttons and lets these press them. Called once.
+/// Tells screen readers that such views are buttons and lets these press them, and that a spinner
+/// is one. Called once.
 void installAccessibility();
 
 }

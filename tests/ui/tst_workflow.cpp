@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
+#include <QDrag>
 #include <QFileOpenEvent>
 #include <QLabel>
 #include <QMenu>
@@ -24,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -191,6 +193,28 @@ private Q_SLOTS:
         bring();
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(m_delegate->processingFilePath(), m_film);
+    }
+
+    void film_isDraggedByThePointer()
+    {
+        QWidget source;
+        source.setGeometry(900, 700, 60, 60);
+        source.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&source));
+        auto *data = new QMimeData;
+        data->setUrls({ QUrl::fromLocalFile(m_film) });
+        QWindow *target = m_delegate->window()->windowHandle();
+        const QPoint middle = QRect({}, target->size()).center();
+        for (const int step : { 1, 2, 3, 4 })
+            QTimer::singleShot(
+                step * 100, target, [=] { QTest::mouseMove(target, middle + QPoint(step, step)); });
+        QTimer::singleShot(
+            600, target, [=] { QTest::mouseRelease(target, Qt::LeftButton, {}, middle); });
+        auto *drag = new QDrag(&source);
+        drag->setMimeData(data);
+        QTest::mousePress(source.windowHandle(), Qt::LeftButton);
+        QCOMPARE(drag->exec(Qt::CopyAction), Qt::CopyAction);
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
     }
 
     void drop_ofSomethingElseIsIgnored()
