@@ -9,12 +9,15 @@
 #include "tests/ui/User.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
 #include "ui/AppDelegate.h"
+#include "ui/Appearance.h"
 #include "ui/DropBox.h"
 #include "ui/ImageView.h"
 #include "ui/ProgressBar.h"
+#include "ui/SpinningView.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDBusVariant>
 #include <QDir>
 #include <QDrag>
 #include <QFileOpenEvent>
@@ -409,19 +412,57 @@ private Q_SLOTS:
     void desktop_isTold()
     {
         DesktopStandIn desktop;
-        QVERIFY(desktop.offer(u"org.freedesktop.FileManager1"_s));
-        QVERIFY(desktop.offer(u"org.freedesktop.Notifications"_s));
+        for (const auto &service : { u"org.freedesktop.FileManager1"_s,
+                 u"org.freedesktop.Notifications"_s, u"org.freedesktop.portal.Desktop"_s })
+            QVERIFY(desktop.offer(service));
         desktop.answer(u"ShowItems"_s, {});
         desktop.answer(u"Notify"_s, { 7U });
+        desktop.answer(u"Inhibit"_s, { QVariant::fromValue(QDBusObjectPath(u"/request"_s)) });
+        desktop.answer(u"Close"_s, {});
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:15000|exit:0");
+        QVERIFY(waitFor(WindowUIState::Converting));
         QWidget front;
-        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:1000|exit:0");
         front.show();
         front.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&front));
+        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
+        QCOMPARE(desktop.calls(u"Close"_s).size(), 0);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        m_user->click("openFolderImageView");
+        QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
+        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
+
+        QDBusMessage click = QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
+            u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);
+        click << 7U << u"default"_s;
+        desktop.send(click);
         QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
-        QCOMPARE(desktop.calls(u"ShowItems"_s).constFirst().arguments().constFirst().toStringList(),
-            QStringList(url(u"result.mkv"_s)));
+        m_user->click("openFolderImageView");
+        QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 2);
+        for (const QDBusMessage &call : desktop.calls(u"ShowItems"_s))
+            QCOMPARE(call.arguments().value(0).toStringList(), QStringList(url(u"result.mkv"_s)));
+    }
+
+    void colors_followTheDesktop()
+    {
+        const auto isDark
+            = [] { return QApplication::palette().color(QPalette::Window).lightness() < 128; };
+        const QPalette former = QApplication::palette();
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(u"org.freedesktop.portal.Desktop"_s));
+        const QVariant dark = QVariant::fromValue(QDBusVariant(1U));
+        desktop.answer(u"Read"_s, { QVariant::fromValue(QDBusVariant(dark)) });
+        const Appearance appearance;
+        QVERIFY(!isDark());
+        QTRY_VERIFY(isDark());
+        const QColor spinner = m_user->find<SpinningView>("spinner")->spinColor();
+        QVERIFY(spinner.lightness() > 128);
+        QDBusMessage change = QDBusMessage::createSignal(u"/org/freedesktop/portal/desktop"_s,
+            u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
+        change << u"org.freedesktop.appearance"_s << u"color-scheme"_s
+               << QVariant::fromValue(QDBusVariant(2U));
+        desktop.send(change);
+        QTRY_VERIFY(!isDark());
+        QApplication::setPalette(former);
     }
 };
 
