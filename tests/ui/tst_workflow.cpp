@@ -288,7 +288,7 @@ private Q_SLOTS:
         m_user->choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_user->proposal, u"film 2.mp4"_s);
-        QCOMPARE(m_user->sheets, 3);
+        QVERIFY(m_user->sheets >= 3);
         QCOMPARE(m_user->read.count(u"The video can't be converted into itself"_s), 2);
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
         QCOMPARE(QFileInfo(path(u"film.mp4"_s)).size(), size);
