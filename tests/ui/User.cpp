@@ -33,6 +33,8 @@ void User::look()
     m_answered = dialog;
     // An answer may bring up the next dialog, and a timer does not fire inside its own slot.
     const auto act = [this, dialog = QPointer(dialog)] {
+        if (!dialog || dialog != QApplication::activeModalWidget())
+            return;
         if (auto *box = qobject_cast<QMessageBox *>(dialog))
             answer(box);
         else if (auto *sheet = qobject_cast<QFileDialog *>(dialog))
