@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <thread>
 #include <unistd.h>
 #ifdef Q_OS_LINUX
 #include <sys/prctl.h>
@@ -16,6 +17,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int waitMilliseconds = 100;
+constexpr qsizetype smallPiece = 4096;
 constexpr qsizetype floodLimit = 64 * 1024 * 1024;
 
 std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
@@ -92,6 +94,12 @@ QByteArray Task::availableData()
 {
     if (m_process.bytesAvailable() == 0)
         m_process.waitForReadyRead(waitMilliseconds);
+    // Small pieces in quick succession are read together: each costs several system calls.
+    const auto now = std::chrono::steady_clock::now();
+    if (isRunning() && m_process.bytesAvailable() < smallPiece && now - m_lastOutput < 20ms) {
+        std::this_thread::sleep_for(5ms);
+        m_process.waitForReadyRead(0);
+    }
     QByteArray data = m_process.readAllStandardOutput();
     if (!data.isEmpty())
         m_lastOutput = std::chrono::steady_clock::now();
