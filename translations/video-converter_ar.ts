@@ -753,10 +753,6 @@ Are you sure you want to continue?</source>
         <translation>جارٍ التحويل…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>الوقت المتبقي</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>تقدّم التحويل</translation>
     </message>

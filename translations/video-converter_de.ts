@@ -757,10 +757,6 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Wird konvertiert&#xa0;…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>Verbleibende Zeit</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>Fortschritt der Konvertierung</translation>
     </message>

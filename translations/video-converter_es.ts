@@ -755,10 +755,6 @@ Are you sure you want to continue?</source>
         <translation>Convirtiendo…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>Tiempo restante</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>Progreso de la conversión</translation>
     </message>

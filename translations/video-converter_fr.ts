@@ -756,10 +756,6 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Conversion…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>Temps restant</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>Progression de la conversion</translation>
     </message>

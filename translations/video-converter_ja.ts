@@ -753,10 +753,6 @@ Are you sure you want to continue?</source>
         <translation>変換中…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>残り時間</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>変換の進行状況</translation>
     </message>

@@ -753,10 +753,6 @@ Tem certeza de que deseja continuar?</translation>
         <translation>Convertendo…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>Tempo restante</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>Progresso da conversão</translation>
     </message>

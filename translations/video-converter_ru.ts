@@ -755,10 +755,6 @@ Are you sure you want to continue?</source>
         <translation>Конвертация…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>Оставшееся время</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>Ход конвертации</translation>
     </message>

@@ -752,10 +752,6 @@ Are you sure you want to continue?</source>
         <translation>正在转换…</translation>
     </message>
     <message>
-        <source>Time left</source>
-        <translation>剩余时间</translation>
-    </message>
-    <message>
         <source>Progress of the conversion</source>
         <translation>转换进度</translation>
     </message>
