@@ -87,7 +87,7 @@ std::optional<Failure> missingTool()
 }
 
 /// Outlives the wait: the answer may come after an interruption has ended that.
-struct Answer {
+struct ProbeAnswer {
     std::variant<FilmDescription, Failure> result;
     std::function<void()> wake;
 
@@ -99,7 +99,7 @@ struct Answer {
     }
 };
 
-void ask(const QString &path, Cover coverWish, const std::shared_ptr<Answer> &answer)
+void ask(const QString &path, Cover coverWish, const std::shared_ptr<ProbeAnswer> &answer)
 {
     const auto refuse = [answer](ProbeRefusal refusal) {
         const ExitCode code = refusal == ProbeRefusal::ToolNotLaunched ? ExitCode::ToolsMissing
@@ -131,7 +131,7 @@ std::variant<FilmDescription, Failure> examined(
     if (auto missing = missingTool())
         return *std::move(missing);
     QEventLoop loop;
-    const auto answer = std::make_shared<Answer>();
+    const auto answer = std::make_shared<ProbeAnswer>();
     answer->wake = [&loop] { loop.quit(); };
     QObject::connect(&interruption, &Interruption::arrived, &loop, &QEventLoop::quit);
     ask(path, cover, answer);

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::mutex mutex;
+std::mutex folderMutex;
 
 std::unique_ptr<QTemporaryDir> &folder()
 {
@@ -26,7 +26,7 @@ namespace CoverFolder {
 
 QString uniqueImagePath()
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(folderMutex);
     if (!folder())
         folder() = std::make_unique<QTemporaryDir>(QDir::tempPath() + u"/video-converter-XXXXXX"_s);
     return folder()->path() + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces) + u".jpg"_s;
@@ -34,7 +34,7 @@ QString uniqueImagePath()
 
 void remove()
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(folderMutex);
     folder().reset();
 }
 

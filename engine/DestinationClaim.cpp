@@ -10,7 +10,7 @@
 
 namespace {
 
-std::mutex mutex;
+std::mutex claimsMutex;
 std::condition_variable released;
 
 QSet<QString> &claimed()
@@ -32,7 +32,7 @@ QString place(const QString &path)
 DestinationClaim::DestinationClaim(const QString &path, const std::function<bool()> &givesUp)
     : m_path(place(path))
 {
-    std::unique_lock lock(mutex);
+    std::unique_lock lock(claimsMutex);
     while (claimed().contains(m_path) && !givesUp())
         released.wait_for(lock, std::chrono::milliseconds(100));
     if (claimed().contains(m_path))
@@ -45,7 +45,7 @@ DestinationClaim::~DestinationClaim()
 {
     if (!m_held)
         return;
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(claimsMutex);
     claimed().remove(m_path);
     released.notify_all();
 }

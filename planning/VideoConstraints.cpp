@@ -12,7 +12,7 @@ namespace {
 /// Whose title an entry bears in the menu: its own English name, or a translated one.
 enum class Title { Name, Audio, Mp4LowQ, Mp4MedQ };
 
-struct Row {
+struct EntryRow {
     QLatin1StringView name;
     VideoDimensionsConstraints dimension;
     VideoQualityConstraints quality;
@@ -34,7 +34,7 @@ using enum MenuGroup;
 
 // In menu order.
 // clang-format off
-constexpr std::array<Row, 25> rows {{
+constexpr std::array<EntryRow, 25> entryRows {{
     {"iPhone 4, 4s"_L1,                       maximum(960, 640),   unchanged,  mp4,  Devices},
     {"iPhone 5, 5s, 5c"_L1,                   maximum(1136, 640),  unchanged,  mp4,  Devices},
     {"iPhone 6, 6s"_L1,                       maximum(1334, 750),  unchanged,  mp4,  Devices},
@@ -68,7 +68,7 @@ constexpr std::array<Row, 25> rows {{
 std::optional<VideoConstraints> videoConstraints(const QString &title, const QString &audioTitle,
     const QString &mp4LowQTitle, const QString &mp4MedQTitle)
 {
-    for (const Row &row : rows) {
+    for (const EntryRow &row : entryRows) {
         const std::array<QString, 4> titles{ row.name, audioTitle, mp4LowQTitle, mp4MedQTitle };
         if (titles.at(static_cast<std::size_t>(row.title)) == title)
             return VideoConstraints{ .dimension = row.dimension,
@@ -82,7 +82,7 @@ std::optional<VideoConstraints> videoConstraints(const QString &title, const QSt
 QStringList entryNames(MenuGroup group)
 {
     QStringList names;
-    for (const Row &row : rows) {
+    for (const EntryRow &row : entryRows) {
         if (row.group == group)
             names << row.name;
     }

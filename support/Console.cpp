@@ -6,7 +6,7 @@
 
 namespace {
 
-std::mutex mutex;
+std::mutex sinkMutex;
 
 void printToStandardOutput(const QString &line)
 {
@@ -27,13 +27,13 @@ namespace Console {
 
 void print(const QString &line)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(sinkMutex);
     currentSink()(line);
 }
 
 void setSink(Sink sink)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(sinkMutex);
     currentSink() = std::move(sink);
 }
 

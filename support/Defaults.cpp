@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::mutex mutex;
+std::mutex defaultsMutex;
 
 QVariantMap &registered()
 {
@@ -31,25 +31,25 @@ namespace Defaults {
 
 void registerDefaults(const QVariantMap &defaults)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(defaultsMutex);
     registered().insert(defaults);
 }
 
 QVariant value(const QString &key)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(defaultsMutex);
     return Store().value(key, registered().value(key));
 }
 
 void setValue(const QString &key, const QVariant &value)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(defaultsMutex);
     Store().setValue(key, value);
 }
 
 void remove(const QString &key)
 {
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(defaultsMutex);
     Store().remove(key);
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-std::mutex mutex;
+std::mutex blocksMutex;
 
 std::deque<std::function<void()>> &blocks()
 {
@@ -22,7 +22,7 @@ void runNext()
 {
     std::function<void()> block;
     {
-        const std::lock_guard lock(mutex);
+        const std::lock_guard lock(blocksMutex);
         if (blocks().empty())
             return;
         block = std::move(blocks().front());
@@ -36,7 +36,7 @@ void runNext()
 void dropBlocks()
 {
     std::deque<std::function<void()>> dropped;
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(blocksMutex);
     dropped.swap(blocks());
 }
 
@@ -53,7 +53,7 @@ void post(std::function<void()> block)
     // The blocks are handed over under a mutex of ours and the event carries nothing, which keeps
     // the hand-over visible to the thread sanitizer. Posting while the lock is held keeps events
     // and blocks in one order.
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(blocksMutex);
     if (!QCoreApplication::instance())
         return;
     blocks().push_back(std::move(block));
