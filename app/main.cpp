@@ -7,7 +7,9 @@
 #include "crash/dialog/CrashQuestion.h"
 #include "engine/FFMPEG.h"
 #include "support/Configuration.h"
+#include "support/Interruption.h"
 #include "support/Localized.h"
+#include "support/StandardInput.h"
 #include "support/Translation.h"
 #include "ui/AppDelegate.h"
 #include "ui/Appearance.h"
@@ -22,23 +24,9 @@
 #include <QIcon>
 #include <QTimer>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The tools inherit the standard input, and a "q" that waits there would end a run early.
-void detachStandardInput()
-{
-    const int null = open("/dev/null", O_RDONLY);
-    if (null < 0)
-        return;
-    dup2(null, STDIN_FILENO);
-    if (null != STDIN_FILENO)
-        close(null);
-}
 
 void describe()
 {
@@ -117,9 +105,13 @@ int runWindow(SingleInstance &instance, const QStringList &films)
 
 int main(int argc, char *argv[])
 {
-    detachStandardInput();
+    StandardInput::setAside();
     CrashReporter::start();
     const QApplication application(argc, argv);
+    // Without a question, as the desktop's session or the user's shell does not wait for an answer.
+    const Interruption interruption;
+    QObject::connect(&interruption, &Interruption::arrived, &application,
+        [] { QApplication::exit(128 + Interruption::signal()); });
     describe();
     const QLocale language(Translation::install(Bundle::main()));
     QApplication::setLayoutDirection(language.textDirection());

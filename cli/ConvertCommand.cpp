@@ -2,13 +2,13 @@
 #include "cli/Commands.h"
 #include "cli/Diagnostics.h"
 #include "cli/Examination.h"
-#include "cli/Interruption.h"
 #include "cli/Output.h"
 #include "cli/Reporter.h"
 #include "cli/ToolFailure.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
 #include "support/Format.h"
+#include "support/Interruption.h"
 #include "support/Localized.h"
 #include "support/MainQueue.h"
 #include "support/Text.h"
@@ -104,7 +104,7 @@ std::optional<Failure> Conversion::outcome() const
     const bool interrupted = Interruption::signal() != 0;
     // The terminal's Ctrl-C reaches the tool as well, which may fail of it before it is cancelled.
     if (interrupted && (m_progress->isCancelled() || m_failure))
-        return Interruption::failure();
+        return cancelledFailure();
     if (m_failure)
         return failureOf(*m_failure, *m_progress);
     if (m_progress->isCancelled())

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Examination.h"
 
-#include "cli/Interruption.h"
 #include "support/Bundle.h"
 #include "support/FileSystem.h"
 #include "support/Format.h"
+#include "support/Interruption.h"
 #include "support/Localized.h"
 
 #include <QDir>
@@ -140,6 +140,13 @@ std::variant<FilmDescription, Failure> examined(
     answer->wake = nullptr;
     // A tool that got the same Ctrl-C gives a refusal that says nothing of the film.
     if (Interruption::signal() != 0)
-        return Interruption::failure();
+        return cancelledFailure();
     return answer->result;
+}
+
+Failure cancelledFailure()
+{
+    return { ExitCode::Cancelled,
+        localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Cancelled.", "The user stopped the program")) };
 }

@@ -30,3 +30,6 @@ struct FilmDescription {
 /// interrupted. Thread: the main thread; an event loop runs inside.
 [[nodiscard]] std::variant<FilmDescription, Failure> examined(
     const QString &path, Cover cover, Interruption &interruption);
+
+/// What an interrupted command ends with.
+[[nodiscard]] Failure cancelledFailure();

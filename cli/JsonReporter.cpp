@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/JsonReporter.h"
 
-#include "cli/Interruption.h"
 #include "cli/Output.h"
 #include "support/FileSystem.h"
+#include "support/Interruption.h"
 
 #include <QJsonObject>
 

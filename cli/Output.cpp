@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
-#include "cli/Interruption.h"
 #include "cli/ShownText.h"
+#include "support/Interruption.h"
 
 #include <algorithm>
 #include <atomic>

@@ -3,11 +3,11 @@
 #include "cli/Examination.h"
 #include "cli/Output.h"
 #include "cli/ShownText.h"
-#include "cli/StandardInput.h"
 #include "engine/ConversionRun.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Bundle.h"
 #include "support/Localized.h"
+#include "support/StandardInput.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/Diagnostics.h"
-#include "cli/Interruption.h"
 #include "cli/Output.h"
-#include "cli/StandardInput.h"
 #include "engine/FFMPEG.h"
 #include "support/Configuration.h"
+#include "support/Interruption.h"
 #include "support/Localized.h"
+#include "support/StandardInput.h"
 #include "support/Translation.h"
 
 #include <QCoreApplication>

@@ -105,7 +105,13 @@ AppDelegate::AppDelegate()
     qApp->installEventFilter(this);
 }
 
-AppDelegate::~AppDelegate() { setProgress(nullptr); }
+AppDelegate::~AppDelegate()
+{
+    setProgress(nullptr);
+    // Nobody would see the rest of it.
+    if (m_run)
+        m_run->cancel();
+}
 
 void AppDelegate::setUiState(WindowUIState state)
 {

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
 using namespace Qt::StringLiterals;
 
 /// The program as it is started by a shell, a file manager or a second time.
@@ -51,6 +53,9 @@ private Q_SLOTS:
         QVERIFY(hasExamined(first, m_film.toUtf8(), console));
         first.terminate();
         QVERIFY(first.waitForFinished());
+        // Ended by itself, not by the signal: what it has begun is cleaned up.
+        QCOMPARE(first.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(first.exitCode(), 128 + SIGTERM);
     }
 
     void film_isGivenOnTheCommandLine()

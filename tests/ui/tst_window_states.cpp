@@ -146,6 +146,12 @@ private Q_SLOTS:
             QVERIFY2(!control->text(QAccessible::Name).isEmpty(), name);
             QVERIFY2(control->role() == role, name);
         }
+        for (QWidget *view : delegate.window()->findChildren<QWidget *>()) {
+            const QAccessibleInterface *control = QAccessible::queryAccessibleInterface(view);
+            QVERIFY2(view->focusPolicy() == Qt::NoFocus || view->isWindow()
+                    || !control->text(QAccessible::Name).isEmpty(),
+                view->metaObject()->className());
+        }
         QAccessibleInterface *link
             = QAccessible::queryAccessibleInterface(user.view("openFromFolderLabel"));
         QVERIFY(link->actionInterface()->actionNames().contains(

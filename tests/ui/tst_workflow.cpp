@@ -314,6 +314,17 @@ private Q_SLOTS:
         QVERIFY(!m_delegate->window()->windowTitle().contains(u'%'));
     }
 
+    void programEnd_stopsTheRun()
+    {
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:3000:20000");
+        QTRY_VERIFY(QFile::exists(path(u"result.mkv"_s)));
+        m_user.reset();
+        m_delegate.reset();
+        QTRY_COMPARE(Processes::children(), QStringList());
+        QTRY_VERIFY(!QFile::exists(path(u"result.mkv"_s)));
+        QVERIFY(QFile::exists(m_film));
+    }
+
     void cancel_comesTooLate()
     {
         const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:3000");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/StandardInput.h"
+#include "support/StandardInput.h"
 
 #include <QFile>
 

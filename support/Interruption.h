@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ExitCode.h"
-
 #include <QObject>
 
 /// The wish to stop: Ctrl-C, SIGTERM, a terminal that was closed, or a reader of the output that
@@ -19,9 +17,6 @@ public:
     [[nodiscard]] static int signal();
     /// Behaves as if a signal had come. Thread: any, also a signal handler.
     static void request(int signalNumber);
-
-    /// What an interrupted command ends with.
-    [[nodiscard]] static Failure failure();
 
 Q_SIGNALS:
     void arrived();

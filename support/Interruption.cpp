@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Interruption.h"
-
-#include "support/Localized.h"
+#include "support/Interruption.h"
 
 #include <QSocketNotifier>
 
@@ -74,11 +72,4 @@ void Interruption::request(int signalNumber)
     const char byte = 0;
     // A full pipe wakes the loop as well.
     [[maybe_unused]] const ssize_t written = ::write(wakeUp[1], &byte, 1);
-}
-
-Failure Interruption::failure()
-{
-    return { ExitCode::Cancelled,
-        localized(
-            QT_TRANSLATE_NOOP3("Localizable", "Cancelled.", "The user stopped the program")) };
 }
