@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HelpMenu.h"
+#include "app/HelpMenu.h"
 
 #include "support/Localized.h"
 #include "support/Text.h"

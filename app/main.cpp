@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "HelpMenu.h"
 #include "analytics/Analytics.h"
+#include "app/HelpMenu.h"
 #include "crash/Crash.h"
 #include "crash/CrashReports.h"
 #include "crash/SessionEvents.h"

@@ -2,11 +2,16 @@
 #include "engine/CoverFolder.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QUuid>
 
+#include <cerrno>
+#include <csignal>
 #include <memory>
 #include <mutex>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +25,26 @@ std::unique_ptr<QTemporaryDir> &folder()
     return directory;
 }
 
+// A process that was killed could not remove its folder.
+void removeAbandonedFolders()
+{
+    static const QRegularExpression ours(u"^video-converter-(\\d+)-\\w+$"_s);
+    const QDir temporary(QDir::tempPath());
+    for (const QFileInfo &each : temporary.entryInfoList(QDir::Dirs | QDir::NoSymLinks)) {
+        const QRegularExpressionMatch match = ours.match(each.fileName());
+        if (match.hasMatch() && each.ownerId() == ::getuid()
+            && ::kill(match.captured(1).toInt(), 0) != 0 && errno == ESRCH)
+            QDir(each.filePath()).removeRecursively();
+    }
+}
+
+std::unique_ptr<QTemporaryDir> newFolder()
+{
+    removeAbandonedFolders();
+    return std::make_unique<QTemporaryDir>(
+        QDir::tempPath() + u"/video-converter-%1-XXXXXX"_s.arg(::getpid()));
+}
+
 }
 
 namespace CoverFolder {
@@ -28,7 +53,7 @@ QString uniqueImagePath()
 {
     const std::lock_guard lock(folderMutex);
     if (!folder())
-        folder() = std::make_unique<QTemporaryDir>(QDir::tempPath() + u"/video-converter-XXXXXX"_s);
+        folder() = newFolder();
     return folder()->path() + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces) + u".jpg"_s;
 }
 

@@ -7,7 +7,8 @@
 /// user alone. Thread: any.
 namespace CoverFolder {
 
-/// A new name ending in ".jpg"; the folder is made when it is first asked for.
+/// A new name ending in ".jpg"; the folder is made when it is first asked for, and those of
+/// processes that were killed are removed then.
 [[nodiscard]] QString uniqueImagePath();
 /// Removes the folder and what is in it.
 void remove();
