@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Collector.h"
+#include "tests/analytics/Collector.h"
 
 #include <QJsonDocument>
 #include <QTcpSocket>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "Collector.h"
 #include "analytics/Analytics.h"
 #include "support/Bundle.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
+#include "tests/analytics/Collector.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "analytics/Analytics.h"
 #include "engine/FFMPEG.h"
 #include "support/Bundle.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
+#include "support/Preferences.h"
+#include "tests/analytics/Collector.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/ToolSwap.h"
@@ -131,6 +134,46 @@ private Q_SLOTS:
         m_user->click("startOverButton");
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(open(u"film.webm"_s));
+    }
+
+    void usage_isTold()
+    {
+        const Collector collector;
+        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", collector.url().toUtf8());
+        Analytics::start();
+        Preferences::setFirstRun(true);
+        m_delegate->applicationDidFinishLaunching();
+        m_user->names << m_film;
+        m_user->click("openFromFolderLabel");
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        {
+            const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:3000:20000");
+            QVERIFY(waitFor(WindowUIState::Converting));
+            m_user->saysYes = true;
+            m_user->click("cancelProgressButton");
+            QVERIFY(waitFor(WindowUIState::InitialState));
+        }
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:100");
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        m_user->click("startOverButton");
+
+        // Each comes on a connection of its own, in any order.
+        QStringList told{ u"behavior firstrun true"_s, u"adding_video click true"_s,
+            u"adding_video drag true"_s, u"adding_video drag true"_s, u"adding_video size 0-1"_s,
+            u"adding_video size 0-1"_s, u"adding_video size 0-1"_s, u"convert from_to mkv_MKV"_s,
+            u"convert from_to mkv_MKV"_s, u"convert abort true"_s,
+            u"convert convert_another true"_s };
+        told.sort();
+        QTRY_COMPARE(collector.requests.size(), told.size());
+        qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
+        QStringList events;
+        for (const Collector::Request &request : collector.requests) {
+            const QJsonObject hit = request.hit();
+            events << hit[u"ec"_s].toString() + u' ' + hit[u"ea"_s].toString() + u' '
+                    + hit[u"el"_s].toVariant().toString();
+        }
+        events.sort();
+        QCOMPARE(events, told);
     }
 
     void keyboard_isEnough()
