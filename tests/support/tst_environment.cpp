@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+#include "support/Bundle.h"
+#include "support/Configuration.h"
+#include "support/Defaults.h"
+#include "support/FileSystem.h"
+#include "support/Preferences.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// What the program finds on the disk and in its environment.
+class TestEnvironment : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    /// Reads the settings as another run of the program does, from the disk.
+    static QVariant readByAnotherRun(const QString &key)
+    {
+        const QString file = QSettings(u"VideoConverter"_s, u"VideoConverter"_s).fileName();
+        QFile::remove(file + ".copy"_L1);
+        QFile::copy(file, file + ".copy"_L1);
+        return QSettings(file + ".copy"_L1, QSettings::IniFormat).value(key);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_folder->path()).mkpath(u"Contents/Resources"_s));
+        Preferences::registerDefaults();
+        Defaults::remove(u"IsFirstRun"_s);
+        Defaults::remove(u"FirstLaunch"_s);
+        QVERIFY(!readByAnotherRun(u"IsFirstRun"_s).isValid());
+    }
+
+    void info_isReadFromThePropertyList()
+    {
+        const auto info = [this](const QByteArray &list) {
+            write(u"Contents/Info.plist"_s, list);
+            return Bundle(m_folder->path()).infoString(u"K"_s);
+        };
+        QCOMPARE(Bundle(m_folder->path()).infoString(u"K"_s), std::nullopt);
+        const QByteArray start = "<plist><dict><key>A</key><string>K</string><key>K</key>\n\t";
+        const QByteArray end = "<key>B</key><string>x</string></dict></plist>";
+        QCOMPARE(info(start + "<string>1 &lt; 2</string>" + end), u"1 < 2"_s);
+        QCOMPARE(info(start + "<string/>" + end), u""_s);
+        for (const char *other : { "<integer>1</integer>", "<true/>", "" })
+            QCOMPARE(info(start + other + end), std::nullopt);
+        for (const QByteArray &cut : { start, start + "<str", QByteArray("bplist00\x01\x02") })
+            QCOMPARE(info(cut), std::nullopt);
+    }
+
+    void localizations_areThoseOfTheResources()
+    {
+        const Bundle bundle(m_folder->path());
+        QCOMPARE(bundle.localizations(), QStringList());
+        for (const QString &name : { u"ru.lproj"_s, u"zh_CN.lproj"_s, u"de.lproj"_s, u"images"_s })
+            QVERIFY(QDir(m_folder->path()).mkpath(u"Contents/Resources/"_s + name));
+        write(u"Contents/Resources/xx.lproj"_s, {});
+        QCOMPARE(bundle.localizations(), QStringList({ u"de"_s, u"ru"_s, u"zh_CN"_s }));
+        QVERIFY(QFileInfo(bundle.localizationPath(u"zh_CN"_s)).isDir());
+    }
+
+    void movedBundle_isFound()
+    {
+        const QDir folder(QFileInfo(m_folder->path()).canonicalFilePath());
+        const QString bundle = folder.filePath(u"Contents/MacOS/Ä b%d.app"_s);
+        QVERIFY(folder.mkpath(bundle + "/Contents/MacOS"_L1));
+        const QString program = bundle + "/Contents/MacOS/program"_L1;
+        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+        QVERIFY(QFile::link(program, path(u"link"_s)));
+
+        QProcess process;
+        process.start(path(u"link"_s), { u"--print-bundle"_s });
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), bundle);
+    }
+
+    void address_isReplacedByLoopbackOnly_data()
+    {
+        QTest::addColumn<bool>("isObeyed");
+        for (const char *address :
+            { "http://127.0.0.1:8080/a", "http://localhost/", "https://[::1]:1/" })
+            QTest::newRow(address) << true;
+        for (const char *address : { "http://example.org/", "http://127.0.0.1.example.org/",
+                 "http://localhost@example.org/", "http://example.org/127.0.0.1", "//127.0.0.1",
+                 "127.0.0.1:80", "file://localhost/etc/passwd", "" })
+            QTest::newRow(address) << false;
+    }
+
+    void address_isReplacedByLoopbackOnly()
+    {
+        QFETCH(bool, isObeyed);
+        const QString address = QString::fromUtf8(QTest::currentDataTag());
+        const std::pair<const char *, QString (*)()> addresses[]{
+            { "VIDEO_CONVERTER_COLLECTOR_URL", Configuration::collectorUrl },
+            { "VIDEO_CONVERTER_FEED_URL", Configuration::feedUrl },
+            { "VIDEO_CONVERTER_CRASH_URL", Configuration::crashUrl },
+        };
+        for (const auto &[variable, value] : addresses) {
+            qunsetenv(variable);
+            const QString built = value();
+            qputenv(variable, address.toUtf8());
+            QCOMPARE(value(), isObeyed ? address : built);
+            qunsetenv(variable);
+        }
+    }
+
+    void doNotTrack_isObeyed()
+    {
+        for (const QByteArray value : { "1", "true", "0", "" }) {
+            qputenv("DO_NOT_TRACK", value);
+            QCOMPARE(Configuration::doNotTrack(), value == "1" || value == "true");
+        }
+        qunsetenv("DO_NOT_TRACK");
+    }
+
+    void path_isExamined_data()
+    {
+        QTest::addColumn<bool>("isRegular");
+        QTest::addColumn<quint64>("size");
+        QTest::addColumn<bool>("isTheFilm");
+        const auto row = [](const char *name, bool isRegular, quint64 size, bool isTheFilm) {
+            QTest::newRow(name) << isRegular << size << isTheFilm;
+        };
+        row("film", true, 5, true);
+        row("link", true, 5, true);
+        row("hard", true, 5, true);
+        row("Contents/.././/film", true, 5, true);
+        row("Contents/up/film", true, 5, true);
+        row("copy", true, 5, false);
+        row("new\nline 🎬 %d", true, 0, false);
+        row("gone", false, 0, false);
+        row("dangling", false, 0, false);
+        row("film/below", false, 0, false);
+        row("fifo", false, 0, false);
+        row("/dev/null", false, 0, false);
+    }
+
+    void path_isExamined()
+    {
+        write(u"film"_s, "12345");
+        write(u"copy"_s, "12345");
+        write(u"new\nline 🎬 %d"_s, {});
+        QVERIFY(QFile::link(path(u"film"_s), path(u"link"_s)));
+        QVERIFY(QFile::link(m_folder->path(), path(u"Contents/up"_s)));
+        QVERIFY(QFile::link(path(u"gone"_s), path(u"dangling"_s)));
+        QCOMPARE(::link(qPrintable(path(u"film"_s)), qPrintable(path(u"hard"_s))), 0);
+        QCOMPARE(::mkfifo(qPrintable(path(u"fifo"_s)), 0600), 0);
+
+        const QString examined = path(QString::fromUtf8(QTest::currentDataTag()));
+        QTEST(isRegularFile(examined), "isRegular");
+        QTEST(fileSize(examined), "size");
+        QTEST(isSameFile(path(u"film"_s), examined), "isTheFilm");
+        QTEST(isSameFile(examined, path(u"film"_s)), "isTheFilm");
+        QVERIFY(!isRegularFile(m_folder->path()));
+        QVERIFY(!isSameFile(path(u"gone"_s), path(u"gone"_s)));
+    }
+
+    void registeredDefault_isNeverWritten()
+    {
+        QVERIFY(Preferences::isFirstRun());
+        Defaults::registerDefaults({ { u"Other"_s, u"registered"_s } });
+        QVERIFY(!readByAnotherRun(u"IsFirstRun"_s).isValid());
+        QVERIFY(Preferences::isFirstRun());
+        Defaults::setValue(u"Other"_s, u""_s);
+        QCOMPARE(Defaults::value(u"Other"_s), QVariant(u""_s));
+        Defaults::remove(u"Other"_s);
+        QCOMPARE(Defaults::value(u"Other"_s), QVariant(u"registered"_s));
+        QVERIFY(!Defaults::value(u"None"_s).isValid());
+    }
+
+    void firstRun_isRemembered()
+    {
+        Preferences::setFirstRun(false);
+        QVERIFY(!Preferences::isFirstRun());
+        QCOMPARE(readByAnotherRun(u"IsFirstRun"_s).toString(), u"false"_s);
+        Preferences::setFirstRun(true);
+        QVERIFY(Preferences::isFirstRun());
+    }
+
+    void firstLaunch_isRecordedOnce()
+    {
+        const QVariantList notMoments{ QVariant(), u"2020-01-02T03:04:05"_s, 5, QStringList(2) };
+        for (const QVariant &stored : notMoments) {
+            if (stored.isValid())
+                Defaults::setValue(u"FirstLaunch"_s, stored);
+            const QDateTime before = QDateTime::currentDateTime();
+            const QDateTime first = Preferences::firstLaunchDate();
+            QVERIFY(first >= before && first <= QDateTime::currentDateTime());
+            const QDateTime kept = Preferences::firstLaunchDate();
+            QVERIFY(kept >= before && kept <= first);
+            QCOMPARE(Preferences::firstLaunchDate(), kept);
+            QCOMPARE(readByAnotherRun(u"FirstLaunch"_s), QVariant(kept));
+        }
+        const QDateTime other = QDateTime::fromMSecsSinceEpoch(1'000'000'000'123);
+        Preferences::setFirstLaunchDate(other);
+        QCOMPARE(Preferences::firstLaunchDate(), other);
+    }
+
+    void key_isItsExactText()
+    {
+        for (const auto key : { PreferencesKeys::IsFirstRun, PreferencesKeys::FirstLaunch })
+            QCOMPARE(preferencesKey(rawValue(key)), key);
+        QCOMPARE(rawValue(PreferencesKeys::FirstLaunch), u"FirstLaunch"_s);
+        for (const QString &other : { u"isFirstRun"_s, u"FirstLaunch "_s, u""_s, u"GA"_s })
+            QCOMPARE(preferencesKey(other), std::nullopt);
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    if (app.arguments().value(1) == u"--print-bundle") {
+        std::fputs(qPrintable(Bundle::main().bundlePath()), stdout);
+        return 0;
+    }
+    TestEnvironment test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_environment.moc"
