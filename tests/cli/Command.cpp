@@ -4,8 +4,6 @@
 #include "support/Bundle.h"
 
 #include <QDirIterator>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <csignal>
 #include <unistd.h>
@@ -25,23 +23,6 @@ QString copiedProgram()
     return copy;
 }
 
-// Runs in the child between fork and exec.
-void prepareChild(bool unprivileged)
-{
-    // A test run in the background of a script has it ignored.
-    ::signal(SIGINT, SIG_DFL);
-    if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-        ::_exit(126);
-}
-
-}
-
-QList<QJsonObject> Finished::events() const
-{
-    QList<QJsonObject> events;
-    for (const QString &line : out.split(u'\n', Qt::SkipEmptyParts))
-        events << QJsonDocument::fromJson(line.toUtf8()).object();
-    return events;
 }
 
 Command::Command()
@@ -87,25 +68,35 @@ void Command::write(const QString &name, const QByteArray &bytes) const
         qFatal("%s can't be written", qPrintable(file.fileName()));
 }
 
+void Command::makeFolder(const QString &name) const
+{
+    if (!QDir(m_folder.path()).mkdir(name))
+        qFatal("%s can't be made", qPrintable(name));
+}
+
 bool Command::dropPrivileges()
 {
     if (::geteuid() != 0)
         return true;
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
     m_unprivileged = true;
-    m_unprivileged = run({ u"--version"_s }).exitCode == 0;
+    m_unprivileged = run(u"--version"_s).exitCode == 0;
     return m_unprivileged;
 }
 
-std::unique_ptr<QProcess> Command::start(const QStringList &arguments) const
+std::unique_ptr<QProcess> Command::start(
+    const QString &line, const QStringList &further, const std::function<void()> &inChild) const
 {
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_folder.path());
-    process->setProgram(program());
-    process->setArguments(arguments);
-    process->setChildProcessModifier(
-        [unprivileged = m_unprivileged] { prepareChild(unprivileged); });
-    process->start();
+    process->setChildProcessModifier([unprivileged = m_unprivileged, inChild] {
+        // A test run in the background of a script has it ignored.
+        ::signal(SIGINT, SIG_DFL);
+        inChild();
+        if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
+            ::_exit(126);
+    });
+    process->start(program(), QProcess::splitCommand(line) + further);
     return process;
 }
 
@@ -118,9 +109,10 @@ Finished Command::wait(QProcess &process)
         .err = QString::fromUtf8(process.readAllStandardError()) };
 }
 
-Finished Command::run(const QStringList &arguments, const QByteArray &input) const
+Finished Command::run(
+    const QString &line, const QStringList &further, const QByteArray &input) const
 {
-    const auto process = start(arguments);
+    const auto process = start(line, further);
     process->write(input);
     process->closeWriteChannel();
     return wait(*process);

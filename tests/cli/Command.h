@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFile>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 /// How a run of the program ended.
@@ -12,8 +14,11 @@ struct Finished {
     int exitCode = -1;
     QString out;
     QString err;
-    /// Lines of standard output, each an object.
-    [[nodiscard]] QList<QJsonObject> events() const;
+    /// Exit code and standard error, such as "3: film.mp4: The file is empty.\n".
+    [[nodiscard]] QString end() const
+    {
+        return QString::number(exitCode) + QStringLiteral(": ") + err;
+    }
 };
 
 /// Runs the real program as a child process in a folder of its own. The program is a copy in the
@@ -24,17 +29,23 @@ public:
 
     [[nodiscard]] static QString program();
     /// A path in the folder.
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString path(const QString &name = {}) const { return m_folder.filePath(name); }
+    [[nodiscard]] bool exists(const QString &name) const { return QFile::exists(path(name)); }
     /// Names and sizes of all that is in the folder and below, links not followed.
     [[nodiscard]] QStringList listing() const;
     [[nodiscard]] QByteArray contents(const QString &name) const;
     void write(const QString &name, const QByteArray &bytes) const;
+    void makeFolder(const QString &name) const;
 
     /// Further runs are those of a user whom permissions bind. False where that can't be had.
     [[nodiscard]] bool dropPrivileges();
-    [[nodiscard]] Finished run(const QStringList &arguments, const QByteArray &input = {}) const;
-    /// Starts and does not wait.
-    [[nodiscard]] std::unique_ptr<QProcess> start(const QStringList &arguments) const;
+    /// The arguments are the words of `line`, quoted with " where need be, and `further`.
+    [[nodiscard]] Finished run(
+        const QString &line, const QStringList &further = {}, const QByteArray &input = {}) const;
+    /// Starts and does not wait. `inChild` runs between fork and exec.
+    [[nodiscard]] std::unique_ptr<QProcess> start(
+        const QString &line, const QStringList &further = {},
+        const std::function<void()> &inChild = [] {}) const;
     [[nodiscard]] static Finished wait(QProcess &process);
 
 private:
