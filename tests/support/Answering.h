@@ -12,12 +12,25 @@
 /// An alert that never comes leaves `wasShown` false.
 class Answering : public QObject {
 public:
-    explicit Answering(std::function<void(QMessageBox &)> answer)
+    using Answer = std::function<void(QMessageBox &)>;
+
+    explicit Answering(Answer answer)
         : m_answer(std::move(answer))
     {
         m_timer.callOnTimeout(this, &Answering::look);
         m_timer.start(5);
     }
+
+    /// Presses the keys one after the other, each where the focus is then.
+    static Answer keys(const QList<Qt::Key> &keys)
+    {
+        return [keys](const QMessageBox &box) {
+            for (const Qt::Key key : keys)
+                QTest::keyClick(box.focusWidget(), key);
+        };
+    }
+    /// Walks from the harmless button to the other one.
+    static Answer yes() { return keys({ Qt::Key_Tab, Qt::Key_Space }); }
 
     bool wasShown = false;
 
@@ -39,6 +52,6 @@ private:
             m_answer(*box);
     }
 
-    std::function<void(QMessageBox &)> m_answer;
+    Answer m_answer;
     QTimer m_timer;
 };

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "Answering.h"
-#include "support/Defaults.h"
-#include "support/dialogs/Sheets.h"
+#include "SheetTest.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusInterface>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDir>
-#include <QFile>
 #include <QLibraryInfo>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 #include <QUrl>
-#include <QWidget>
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -76,127 +70,91 @@ private:
     QVariantMap m_call;
 };
 
-namespace {
-
-QVariant portal(const QString &method, const QVariantList &arguments = {})
-{
-    QDBusInterface chooser(Portal::service, Portal::objectPath,
-        u"org.freedesktop.portal.FileChooser"_s, QDBusConnection::sessionBus());
-    return chooser.callWithArgumentList(QDBus::Block, method, arguments).arguments().value(0);
-}
-
-void answer(const QString &path)
-{
-    const QUrl url = path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path);
-    portal(u"Answer"_s, { url.toString(QUrl::FullyEncoded) });
-}
-
-}
-
-class TestNativeSheet : public QObject {
+/// Sheets drawn by the desktop's dialog service.
+class TestNativeSheet : public SheetTest {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void typedName_isTakenAsItIs();
-    void appendedExtension_isAskedAbout();
-    void cancelledDialog_callsNothing();
-
 private:
-    void save();
-    static void awaitDialog(const QString &name);
-    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QWidget> m_window;
-    QStringList m_paths;
-};
-
-void TestNativeSheet::initTestCase()
-{
-    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
-    if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
-        QSKIP("The toolkit's theme for the desktop portal is not installed");
-}
-
-void TestNativeSheet::init()
-{
-    Defaults::remove(u"LastSaveFolder"_s);
-    m_paths.clear();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_window = std::make_unique<QWidget>();
-    m_window->show();
-    m_window->activateWindow();
-    QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
-    QFile film(path(u"film.mp4"_s));
-    QVERIFY(film.open(QIODevice::WriteOnly));
-}
-
-void TestNativeSheet::save()
-{
-    runSaveToSheet(
-        m_window.get(), u"proposed"_s, u"mp4"_s, [this](const QString &path) { m_paths += path; },
-        m_folder->path());
-    awaitDialog(u"proposed.mp4"_s);
-}
-
-// The dialog hears its answer only after it has read the reply to its request; so let it.
-void TestNativeSheet::awaitDialog(const QString &name)
-{
-    QVariantMap call;
-    QVERIFY(QTest::qWaitFor([&] {
-        call = qdbus_cast<QVariantMap>(portal(u"TakeCall"_s));
-        return !call.isEmpty();
-    }));
-    QCOMPARE(call.value(u"title"_s).toString(), u"Convert"_s);
-    QCOMPARE(call.value(u"accept_label"_s).toString(), u"Convert"_s);
-    QCOMPARE(call.value(u"current_name"_s).toString(), name);
-    for (int i = 0; i < 3; ++i) {
-        portal(u"TakeCall"_s);
-        QCoreApplication::processEvents();
-    }
-}
-
-void TestNativeSheet::typedName_isTakenAsItIs()
-{
-    save();
-    // The desktop has asked about the existing file itself.
-    const Answering answering([](QMessageBox &box) { box.close(); });
-    answer(path(u"film.mp4"_s));
-    QTRY_COMPARE(m_paths, QStringList{ path(u"film.mp4"_s) });
-    QVERIFY(!answering.wasShown);
-}
-
-void TestNativeSheet::appendedExtension_isAskedAbout()
-{
-    save();
+    static QVariant portal(const QString &method, const QVariantList &arguments = {})
     {
-        const Answering refusal(
-            [](QMessageBox &box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); });
-        answer(path(u"film"_s));
-        QTRY_VERIFY(refusal.wasShown);
+        QDBusInterface chooser(Portal::service, Portal::objectPath,
+            u"org.freedesktop.portal.FileChooser"_s, QDBusConnection::sessionBus());
+        return chooser.callWithArgumentList(QDBus::Block, method, arguments).arguments().value(0);
     }
-    awaitDialog(u"film.mp4"_s);
-    QVERIFY(m_paths.isEmpty());
 
-    const Answering agreement([](QMessageBox &box) {
-        QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
-        QTest::keyClick(box.focusWidget(), Qt::Key_Space);
-    });
-    answer(path(u"film"_s));
-    QTRY_COMPARE(m_paths, QStringList{ path(u"film.mp4"_s) });
-    QVERIFY(agreement.wasShown);
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-}
+    /// Without a name the user cancels.
+    void answer(const QString &name) const
+    {
+        const QUrl url = name.isEmpty() ? QUrl() : QUrl::fromLocalFile(path(name));
+        portal(u"Answer"_s, { url.toString(QUrl::FullyEncoded) });
+    }
 
-void TestNativeSheet::cancelledDialog_callsNothing()
-{
-    save();
-    answer({});
-    QTRY_VERIFY(!QApplication::activeModalWidget());
-    QVERIFY(m_paths.isEmpty());
-}
+    // The dialog hears its answer only after it has read the reply to its request; so let it.
+    static void awaitDialog(const QString &name)
+    {
+        QVariantMap call;
+        QVERIFY(QTest::qWaitFor([&] {
+            call = qdbus_cast<QVariantMap>(portal(u"TakeCall"_s));
+            return !call.isEmpty();
+        }));
+        QCOMPARE(call.value(u"title"_s).toString(), u"Convert"_s);
+        QCOMPARE(call.value(u"accept_label"_s).toString(), u"Convert"_s);
+        QCOMPARE(call.value(u"current_name"_s).toString(), name);
+        for (int i = 0; i < 3; ++i) {
+            portal(u"TakeCall"_s);
+            QCoreApplication::processEvents();
+        }
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
+        if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
+            QSKIP("The toolkit's theme for the desktop portal is not installed");
+    }
+
+    void init()
+    {
+        setUp();
+        write(u"film.mp4"_s);
+        runSave(u"proposed"_s);
+        awaitDialog(u"proposed.mp4"_s);
+    }
+
+    void typedName_isTakenAsItIs()
+    {
+        // The desktop has asked about the existing file itself.
+        const Answering answering(&QMessageBox::close);
+        answer(u"film.mp4"_s);
+        QTRY_COMPARE(paths, QStringList{ path(u"film.mp4"_s) });
+        QVERIFY(!answering.wasShown);
+    }
+
+    void appendedExtension_isAskedAbout()
+    {
+        {
+            const Answering refusal(Answering::keys({ Qt::Key_Return }));
+            answer(u"film"_s);
+            QTRY_VERIFY(refusal.wasShown);
+        }
+        awaitDialog(u"film.mp4"_s);
+        QVERIFY(paths.isEmpty());
+
+        const Answering agreement(Answering::yes());
+        answer(u"film"_s);
+        QTRY_COMPARE(paths, QStringList{ path(u"film.mp4"_s) });
+        QVERIFY(agreement.wasShown);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+    }
+
+    void cancelledDialog_callsNothing()
+    {
+        answer({});
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QVERIFY(paths.isEmpty());
+    }
+};
 
 int main(int argc, char *argv[])
 {
