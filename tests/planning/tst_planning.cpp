@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: MIT
+#include "planning/ConversionDescriptor.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray video(const QByteArray &codec, int width, int height)
+{
+    return R"({"codec_type":"video","codec_name":")" + codec + R"(","width":)"
+        + QByteArray::number(width) + R"(,"height":)" + QByteArray::number(height) + '}';
+}
+
+QByteArray audio(const QByteArray &codec, const QByteArray &rate, int channels)
+{
+    return R"({"codec_type":"audio","codec_name":")" + codec + R"(","sample_rate":")" + rate
+        + R"(","channels":)" + QByteArray::number(channels) + '}';
+}
+
+VideoConstraints entry(const QString &name)
+{
+    const auto found
+        = videoConstraints(name, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s);
+    return found.value_or(VideoConstraints{ .dimension = VideoDimensionsConstraints::unlimited(),
+        .quality = VideoQualityConstraints::unchanged,
+        .format = name == u"mov" ? ConversionFormat::mov : ConversionFormat::mpg,
+        .destDevice = {} });
+}
+
+/// The arguments as one line. A word that is empty or holds a space stands between quotation marks.
+QString planned(const VideoConstraints &constraints, const QByteArray &info)
+{
+    QStringList words
+        = conversionDescriptor(constraints.format)
+              .ffmpegArguments(u"/a.mov"_s, u"/b"_s, JSON::parse(info), constraints.dimension);
+    for (QString &word : words)
+        if (word.isEmpty() || word.contains(u' '))
+            word = u'\'' + word + u'\'';
+    return words.join(u' ');
+}
+
+const QString audioTitle = u"Ton"_s;
+const QString low = u"MP4 niedrige Qualität"_s;
+const QString medium = u"MP4 mittlere Qualität"_s;
+
+/// English name of the entry with this title in a German menu.
+QString nameOf(const QString &title)
+{
+    const auto found = videoConstraints(title, audioTitle, low, medium);
+    return found ? found->destDevice : QString();
+}
+
+}
+
+/// Entries of the menu, and arguments made from media informations.
+class TestPlanning : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void streams_giveArguments_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("elements");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, const QByteArray &elements, const QString &expected) {
+            QTest::addRow("%s | %s", name, elements.left(90).constData())
+                << QString::fromUtf8(name) << elements << expected;
+        };
+        const QString tail = u" -strict experimental -f mp4"_s;
+        const auto bound = [&tail](const QString &sides) {
+            return u"-vf scale="_s + sides + u" -map 0:0 -vcodec libx264 -map 0:1 -acodec copy"_s
+                + tail;
+        };
+        const QString mp4 = u"-map 0:0 -vcodec libx264 -map 0:1 -acodec copy"_s + tail;
+        const QString mp3 = u" -acodec libmp3lame -ar 44100 -ac 2 -f "_s;
+        const QString avi = u"-map 0:0 -vcodec libxvid -q:v 6 -map 0:1"_s + mp3 + u"avi"_s;
+        const QString gif = u"-vf scale=min(iw\\,600):-1 -pix_fmt rgb24 -r 10 -f gif"_s;
+
+        // A source larger than every bound, and nothing in it to copy but the sound.
+        const QByteArray aac = ',' + audio("aac", "48000", 2);
+        const QByteArray huge = video("hevc", 8192, 4320) + aac;
+        row("iPhone 4, 4s", huge, bound(u"960:-2"_s));
+        row("iPhone 5, 5s, 5c", huge, bound(u"1136:-2"_s));
+        row("iPhone 6, 6s", huge, bound(u"1334:-2"_s));
+        row("iPhone 6s plus", huge, bound(u"1920:-2"_s));
+        row("iPad, iPad mini", huge, bound(u"1024:-2"_s));
+        row("iPad Air, Air 2, iPad mini 2, 3, 4", huge, bound(u"2048:-2"_s));
+        row("iPad Pro", huge, bound(u"2732:-2"_s));
+        row("AppleTV 1, 2", huge, bound(u"1280:-2"_s));
+        row("AppleTV 3", huge, bound(u"1920:-2"_s));
+        row("AppleTV 4", huge, bound(u"1920:-2"_s));
+        row("iMac, MacBook", huge, mp4);
+        row("Linux", huge, mp4);
+        row("Windows", huge, avi);
+        row("audio", huge, u"-f mp3"_s);
+        row("GIF", huge, gif);
+        row("AVI", huge, avi);
+        row("FLV", huge, u"-map 0:0 -vcodec libx264 -map 0:1"_s + mp3 + u"flv"_s);
+        row("MKV", huge, QString(mp4).replace(u"-f mp4"_s, u"-f matroska"_s));
+        row("WebM", huge,
+            u"-map 0:0 -vcodec libvpx -map 0:1 -acodec libvorbis -ar 48000 -ac 2 -f webm"_s);
+        row("MP4", huge, mp4);
+        row("MP4 Low Quality", huge, bound(u"480:-2"_s));
+        row("MP4 Medium Quality", huge, bound(u"640:-2"_s));
+        row("MP4 HD 720", huge, bound(u"1280:-2"_s));
+        row("MP4 FullHD 1080", huge, bound(u"1920:-2"_s));
+        row("MP4 4k", huge, bound(u"4096:-2"_s));
+
+        // The longer side is bound by the larger number.
+        const QString copied = u"-map 0:0 -vcodec copy -map 0:1 -acodec copy"_s + tail;
+        row("iPhone 4, 4s", video("h264", 1080, 1920) + aac, bound(u"-2:960"_s));
+        row("iPhone 4, 4s", video("h264", 961, 2) + aac, bound(u"960:-2"_s));
+        row("iPhone 4, 4s", video("h264", 2, 961) + aac, bound(u"-2:960"_s));
+        row("iPhone 4, 4s", video("h264", 960, 960) + aac, copied);
+        row("iPad, iPad mini", video("h264", 2000, 2000) + aac, bound(u"1024:-2"_s));
+        row("MP4 HD 720", video("h264", 720, 1280) + aac, copied);
+        row("Linux", video("h264", 16384, 16384) + aac, copied);
+
+        // What is copied, and what becomes of the rest.
+        row("mov", video("mpeg4", 640, 360) + aac, QString(copied).replace(u"mp4"_s, u"mov"_s));
+        row("mov", video("h264", 640, 360) + ',' + audio("mp3", "44100", 1),
+            u"-map 0:0 -vcodec libxvid -q:v 6 -map 0:1 -acodec aac -ar 44100 -ac 2 -strict experimental -f mov"_s);
+        row("mpg", video("mpeg4", 640, 360) + ',' + audio("aac", "44100", 1),
+            u"-map 0:0 -vcodec mpeg2video -q:v 6 -map 0:1 -acodec ac3 -ar 44100 -ac 1 -f vob"_s);
+        row("mpg", video("mpeg2video", 720, 576) + ',' + audio("ac3", "48000", 6),
+            u"-map 0:0 -vcodec copy -map 0:1 -acodec copy -f vob"_s);
+        row("MKV", audio("mp3", "22050", 1) + ',' + video("mpeg4", 640, 360),
+            u"-map 0:1 -vcodec libx264 -map 0:0 -acodec aac -ar 22050 -ac 2 -strict experimental -f matroska"_s);
+        row("WebM", video("vp8", 1920, 1080) + R"(,{"codec_type":"audio","codec_name":"vorbis"})",
+            u"-map 0:0 -vcodec copy -map 0:1 -acodec copy -f webm"_s);
+        row("MP4", video("png", 600, 600) + ',' + video("h264", 1920, 1080),
+            u"-map 0:0 -vcodec libx264"_s + tail);
+        row("MP4", audio("aac", "48000", 2) + ',' + audio("ac3", "48000", 6),
+            u"-map 0:0 -acodec copy"_s + tail);
+        row("MP4", audio("ac3", "48000", 6), u"-map 0:0 -acodec aac -ar 48000 -ac 6"_s + tail);
+        row("WebM", audio("opus", "1 -y /etc/passwd", 1),
+            u"-map 0:0 -acodec libvorbis -ar '1 -y /etc/passwd' -ac 1 -f webm"_s);
+        for (const char *rate : { "44100", "22050", "11025" })
+            row("AVI", audio("aac", rate, 1),
+                u"-map 0:0"_s + QString(mp3).replace(u"44100"_s, QString::fromLatin1(rate))
+                    + u"avi"_s);
+        for (const char *rate : { "8000", "32000", "022050", "" })
+            row("AVI", audio("aac", rate, 6), u"-map 0:0"_s + mp3 + u"avi"_s);
+
+        row("audio", "", u"-f mp3"_s);
+        row("GIF", "", gif);
+        for (const QByteArray none : { "", R"({"codec_type":"data"},{"codec_type":"subtitle"})",
+                 R"({"codec_type":"Video"})", R"({"codec_type":["video"]})" })
+            row("MP4", none, tail.sliced(1));
+    }
+
+    void streams_giveArguments()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, elements);
+        QTEST(planned(entry(name), R"({"streams":[)" + elements + "]}"), "expected");
+    }
+
+    void strangeStream_givesArguments_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const QByteArray &stream, const char *name, const char *expected) {
+            QTest::newRow(stream.constData())
+                << QString::fromUtf8(name) << QString::fromUtf8(expected);
+        };
+        row(R"("codec_type":"video","codec_name":"h264","index":9)", "MP4", "-vcodec copy");
+        for (const char *codec :
+            { "", R"(,"codec_name":264)", R"(,"codec_name":"")", R"(,"codec_name":"H264")" })
+            row(R"("codec_type":"video")" + QByteArray(codec), "MP4", "-vcodec libx264");
+        for (const char *size :
+            { R"("width":4000)", R"("height":4000)", R"("width":"4000","height":20)",
+                R"("width":true,"height":4000)", R"("width":1280.9,"height":20)",
+                R"("width":1e300,"height":20)", R"("width":-4000,"height":-4000)" })
+            row(R"("codec_type":"video","codec_name":"h264",)" + QByteArray(size), "MP4 HD 720",
+                "-vcodec copy");
+        row(R"("codec_type":"audio")", "MP4", "-acodec aac -ar '' -ac 2");
+        row(R"("codec_type":"audio","channels":-5)", "FLV", "-acodec libmp3lame -ar 44100 -ac 2");
+        row(R"("codec_type":"audio","sample_rate":{"a":1})", "WebM",
+            "-acodec libvorbis -ar '' -ac 0");
+        row(R"("codec_type":"audio","sample_rate":22050,"channels":"6")", "MP4",
+            "-acodec aac -ar 22050 -ac 6");
+        row(R"("codec_type":"audio","sample_rate":22050)", "AVI",
+            "-acodec libmp3lame -ar 22050 -ac 2");
+    }
+
+    void strangeStream_givesArguments()
+    {
+        QFETCH(QString, name);
+        const QByteArray stream = QByteArray("{") + QTest::currentDataTag() + '}';
+        const QString arguments = planned(entry(name), R"({"streams":[)" + stream + "]}");
+        QVERIFY2(arguments.startsWith(u"-map 0:0 -"), qPrintable(arguments));
+        QTEST(arguments.sliced(9).section(u" -strict"_s, 0, 0).section(u" -f"_s, 0, 0), "expected");
+    }
+
+    void strangeInformation_givesArguments()
+    {
+        for (const char *info : { "", "not JSON", R"([{"codec_type":"video"}])",
+                 R"({"streams":{"0":{"codec_type":"video"}}})", R"({"streams":"video"})" })
+            QCOMPARE(planned(entry(u"MP4"_s), info), u"-strict experimental -f mp4"_s);
+        QCOMPARE(planned(entry(u"MP4"_s),
+                     R"({"streams":[null,7,"video",["video"],{},{"codec_type":"video"}]})"),
+            u"-map 0:5 -vcodec libx264 -strict experimental -f mp4"_s);
+        QCOMPARE(
+            planned(entry(u"MP4 HD 720"_s),
+                R"({"streams":[{"codec_type":"video","width":9223372036854775807,"height":2}]})"),
+            u"-vf scale=1280:-2 -map 0:0 -vcodec libx264 -strict experimental -f mp4"_s);
+    }
+
+    void title_leadsToItsEntry()
+    {
+        QCOMPARE(nameOf(u"iPhone 6s plus"_s), u"iPhone 6s plus"_s);
+        QCOMPARE(nameOf(audioTitle), u"audio"_s);
+        QCOMPARE(nameOf(low), u"MP4 Low Quality"_s);
+        QCOMPARE(nameOf(medium), u"MP4 Medium Quality"_s);
+        for (const QString &other : { u"iPhone 6S Plus"_s, u"iPhone 6s plus "_s, u"audio"_s,
+                 u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s, u"MOV"_s, u""_s })
+            QCOMPARE(nameOf(other), QString());
+    }
+
+    void entries_followTheMenu()
+    {
+        const QStringList names = entryNames();
+        QCOMPARE(names.size(), 25);
+        for (const QString &name : names)
+            QCOMPARE(entry(name).destDevice, name);
+        QCOMPARE(entryNames(MenuGroup::Devices), names.first(13));
+        QCOMPARE(names.first(), u"iPhone 4, 4s"_s);
+        QCOMPARE(names.at(12), u"Windows"_s);
+        QCOMPARE(entryNames(MenuGroup::Formats).join(u' '), u"audio GIF AVI FLV MKV WebM MP4"_s);
+        QCOMPARE(entryNames(MenuGroup::Mp4Quality), names.last(5));
+        QCOMPARE(entry(u"AppleTV 3"_s).quality, VideoQualityConstraints::unchanged);
+        for (int quality = 1; quality <= 5; ++quality)
+            QCOMPARE(hashValue(entry(names.at(19 + quality)).quality), quality);
+        // The smaller numbers leave no trace in any argument.
+        QCOMPARE(entry(u"MP4 Low Quality"_s).dimension,
+            VideoDimensionsConstraints::maximum({ .width = 480, .height = 240 }));
+    }
+
+    void rawValue_leadsToItsFormat()
+    {
+        QStringList extensions;
+        for (int raw = 1; raw <= 9; ++raw) {
+            QCOMPARE(rawValue(conversionFormat(raw).value()), raw);
+            QCOMPARE(hashValue(conversionFormat(raw).value()), raw - 1);
+            extensions += conversionDescriptor(*conversionFormat(raw)).ext;
+        }
+        QCOMPARE(extensions.join(u' '), u"flv mp4 mkv mov avi mp3 mpg gif webm"_s);
+        for (const int raw : { -1, 0, 10, std::numeric_limits<int>::max() })
+            QCOMPARE(conversionFormat(raw), std::nullopt);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPlanning)
+#include "tst_planning.moc"
