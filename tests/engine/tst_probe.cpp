@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "engine/FFMPEG.h"
+#include "engine/MovieProbe.h"
 #include "engine/SerialQueue.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"
 #include "support/MainQueue.h"
 #include "tests/fixtures/Media.h"
+#include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <mutex>
 #include <sys/stat.h>
@@ -18,30 +19,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Answer {
-    int refused = 0;
-    int completed = 0;
-    std::optional<ProbeRefusal> refusal;
-    JSON info;
-    QImage cover;
-    QString duration;
-
-    [[nodiscard]] int count() const { return refused + completed; }
-};
-
-void probe(const QString &path, Answer &answer)
+void probe(const QString &path, QStringList &answers)
 {
     FFMPEG::collectMovieInfo(
         path,
-        [&answer](ProbeRefusal refusal) {
-            answer.refused += MainQueue::isMainThread() ? 1 : 100;
-            answer.refusal = refusal;
+        [&answers](ProbeRefusal refusal) {
+            QVERIFY(MainQueue::isMainThread());
+            answers += refusal == ProbeRefusal::NotARegularFile ? u"no file"_s : u"refused"_s;
         },
-        [&answer](const JSON &info, const QImage &cover, const QString &duration) {
-            answer.completed += MainQueue::isMainThread() ? 1 : 100;
-            answer.info = info;
-            answer.cover = cover;
-            answer.duration = duration;
+        [path, &answers](const JSON &info, const QImage &cover, const QString &duration) {
+            QVERIFY(MainQueue::isMainThread());
+            QVERIFY(!info[u"streams"_s].array().empty());
+            QCOMPARE(info[u"format"_s][u"size"_s].string(), QString::number(fileSize(path)));
+            answers += u"%1, %2 x %3"_s.arg(duration).arg(cover.width()).arg(cover.height());
         });
 }
 
@@ -50,180 +40,135 @@ void probe(const QString &path, Answer &answer)
 class TestProbe : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void films_areDescribed_data();
-    void films_areDescribed();
-    void unsuitableFiles_areRefused_data();
-    void unsuitableFiles_areRefused();
-    void growingFile_isRefused();
-    void missingTool_isOneLineAndARefusal_data();
-    void missingTool_isOneLineAndARefusal();
-    void cover_isTakenWhereTheLengthSays();
-    void covers_arePrivateAndGoAtTheEnd();
-
-private:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
     std::mutex m_mutex;
     QStringList m_lines;
-};
 
-void TestProbe::initTestCase()
-{
-    Console::setSink([this](const QString &line) {
-        const std::lock_guard lock(m_mutex);
-        m_lines += line;
-    });
-    Media::film(path(u"five.mp4"_s), 5, u"320x180"_s);
-    Media::film(path(u"fifteen.mkv"_s), 15);
-    QVERIFY(QFile::copy(path(u"five.mp4"_s), path(u"100%d 'ü\n😀.mp4"_s)));
-    QVERIFY(QFile::link(path(u"five.mp4"_s), path(u"link.mp4"_s)));
-    Media::ffmpeg(
-        { u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"3"_s, path(u"sound.mp3"_s) });
-    Media::ffmpeg(
-        { u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine"_s, u"-t"_s, u"0.5"_s, path(u"short.wav"_s) });
-    ::mkfifo(QFile::encodeName(path(u"fifo.mp4"_s)).constData(), 0600);
-    QFile text(path(u"text.mp4"_s));
-    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("not a film\n") > 0);
-    QFile empty(path(u"empty.mp4"_s));
-    QVERIFY(empty.open(QIODevice::WriteOnly));
-    QFile film(path(u"five.mp4"_s));
-    QFile cut(path(u"cut.mp4"_s));
-    QVERIFY(film.open(QIODevice::ReadOnly) && cut.open(QIODevice::WriteOnly));
-    cut.write(film.read(film.size() / 2));
-}
-
-void TestProbe::cleanup()
-{
-    const std::lock_guard lock(m_mutex);
-    m_lines.clear();
-}
-
-void TestProbe::films_areDescribed_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("cover");
-    QTest::addColumn<QString>("duration");
-    QTest::newRow("film") << u"five.mp4"_s << QSize(320, 180) << u"5s"_s;
-    QTest::newRow("odd name") << u"100%d 'ü\n😀.mp4"_s << QSize(320, 180) << u"5s"_s;
-    QTest::newRow("link") << u"link.mp4"_s << QSize(320, 180) << u"5s"_s;
-    QTest::newRow("cover would lie behind the end") << u"fifteen.mkv"_s << QSize() << u"15s"_s;
-    QTest::newRow("sound alone") << u"sound.mp3"_s << QSize() << u"3s"_s;
-}
-
-void TestProbe::films_areDescribed()
-{
-    QFETCH(QString, name);
-    QFETCH(QSize, cover);
-    Answer answer;
-    probe(path(name), answer);
-    QCOMPARE(answer.count(), 0);
-    QTRY_COMPARE(answer.completed, 1);
-    QCOMPARE(answer.cover.isNull(), cover.isEmpty());
-    if (!cover.isEmpty())
-        QCOMPARE(answer.cover.size(), cover);
-    QTEST(answer.duration, "duration");
-    QCOMPARE(answer.info[u"format"_s][u"size"_s].string(), QString::number(fileSize(path(name))));
-    QVERIFY(!answer.info[u"streams"_s].array().empty());
-    SerialQueue::waitForAll();
-    QCoreApplication::processEvents();
-    QCOMPARE(answer.count(), 1);
-}
-
-void TestProbe::unsuitableFiles_areRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<ProbeRefusal>("refusal");
-    QTest::newRow("missing") << u"nothing.mp4"_s << ProbeRefusal::NotARegularFile;
-    QTest::newRow("folder") << u"."_s << ProbeRefusal::NotARegularFile;
-    QTest::newRow("FIFO") << u"fifo.mp4"_s << ProbeRefusal::NotARegularFile;
-    QTest::newRow("empty") << u"empty.mp4"_s << ProbeRefusal::NotMedia;
-    QTest::newRow("text") << u"text.mp4"_s << ProbeRefusal::NotMedia;
-    QTest::newRow("cut in the middle") << u"cut.mp4"_s << ProbeRefusal::NotMedia;
-    QTest::newRow("half a second") << u"short.wav"_s << ProbeRefusal::TooShort;
-}
-
-void TestProbe::unsuitableFiles_areRefused()
-{
-    QFETCH(QString, name);
-    QFETCH(ProbeRefusal, refusal);
-    Answer answer;
-    probe(path(name), answer);
-    QCOMPARE(answer.count(), 0);
-    QTRY_COMPARE(answer.refused, 1);
-    QVERIFY(answer.refusal == refusal);
-}
-
-void TestProbe::growingFile_isRefused()
-{
-    const ToolSwap swap(
-        u"ffprobe"_s, ToolSwap::With::FakeTool, R"(out:{"format":{"duration":"5.0","size":"7"}})");
-    Answer answer;
-    probe(path(u"five.mp4"_s), answer);
-    QTRY_COMPARE(answer.refused, 1);
-    QVERIFY(answer.refusal == ProbeRefusal::SizeDiffers);
-}
-
-void TestProbe::missingTool_isOneLineAndARefusal_data()
-{
-    QTest::addColumn<QString>("tool");
-    QTest::addColumn<bool>("refused");
-    QTest::newRow("no ffprobe") << u"ffprobe"_s << true;
-    QTest::newRow("no ffmpeg, so no cover") << u"ffmpeg"_s << false;
-}
-
-void TestProbe::missingTool_isOneLineAndARefusal()
-{
-    QFETCH(QString, tool);
-    QFETCH(bool, refused);
-    const ToolSwap swap(tool, ToolSwap::With::Nothing);
-    Answer answer;
-    probe(path(u"five.mp4"_s), answer);
-    QTRY_COMPARE(answer.count(), 1);
-    QCOMPARE(answer.refused, refused ? 1 : 0);
-    QVERIFY(answer.cover.isNull());
-    const std::lock_guard lock(m_mutex);
-    QCOMPARE(m_lines.filter(u"something bad happened: "_s).size(), 1);
-}
-
-void TestProbe::cover_isTakenWhereTheLengthSays()
-{
-    const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
-    Answer answer;
-    probe(path(u"five.mp4"_s), answer);
-    QTRY_COMPARE(answer.completed, 1);
-    QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
-    QVERIFY(arguments.value(5).endsWith(u".jpg"_s));
-    arguments[5] = u"IMAGE"_s;
-    QCOMPARE(arguments,
-        (QStringList{ u"-an"_s, u"-ss"_s, u"00:00:02"_s, u"-i"_s, path(u"five.mp4"_s), u"IMAGE"_s,
-            u"-y"_s }));
-}
-
-void TestProbe::covers_arePrivateAndGoAtTheEnd()
-{
-    // The last test: what shutDown() ends does not begin again.
-    Answer answer;
+private Q_SLOTS:
+    void initTestCase()
     {
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
-        probe(path(u"five.mp4"_s), answer);
-        QTRY_COMPARE(answer.completed, 1);
+        Console::setSink([this](const QString &line) {
+            const std::lock_guard lock(m_mutex);
+            m_lines += line;
+        });
+        Media::film(path(u"five.mp4"_s), 5, u"320x180"_s);
+        Media::film(path(u"fifteen.mkv"_s), 15);
+        Media::ffmpeg({ u"-i"_s, path(u"five.mp4"_s), path(u"sound.mp3"_s) });
+        QCOMPARE(::mkfifo(QFile::encodeName(path(u"fifo.mp4"_s)).constData(), 0600), 0);
     }
-    const QFileInfo folder(QFileInfo(m_lines.constLast().split(u'\t')[6]).path());
-    QVERIFY(folder.isDir());
-    QCOMPARE(folder.permissions()
-            & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
-        QFile::Permissions());
-    // A probe whose tool is silent for ever does not hold up the program's end.
-    const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
-    Answer late;
-    probe(path(u"five.mp4"_s), late);
-    FFMPEG::shutDown();
-    QVERIFY(!QFileInfo::exists(folder.filePath()));
-}
+
+    void file_getsOneAnswer_data()
+    {
+        addRows<Utf8, Utf8, Utf8>({ "name", "missingTool", "answer" },
+            {
+                { "film", "five.mp4", "", "5s, 320 x 180" },
+                { "cover would lie behind the end", "fifteen.mkv", "", "15s, 0 x 0" },
+                { "sound alone", "sound.mp3", "", "5s, 0 x 0" },
+                { "missing", "nothing.mp4", "", "no file" },
+                { "folder", ".", "", "no file" },
+                { "FIFO", "fifo.mp4", "", "no file" },
+                { "no ffprobe", "five.mp4", "ffprobe", "refused" },
+                { "no ffmpeg, so no cover", "five.mp4", "ffmpeg", "5s, 0 x 0" },
+            });
+    }
+    void file_getsOneAnswer()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QString, missingTool);
+        QFETCH(const QString, answer);
+        std::optional<ToolSwap> swap;
+        if (!missingTool.isEmpty())
+            swap.emplace(missingTool, ToolSwap::With::Nothing);
+        m_lines.clear();
+        QStringList answers;
+        probe(path(name), answers);
+        QCOMPARE(answers, QStringList());
+        QTRY_COMPARE(answers, QStringList{ answer });
+        SerialQueue::waitForAll();
+        QCoreApplication::processEvents();
+        QCOMPARE(answers, QStringList{ answer });
+        QCOMPARE(m_lines.filter(u"something bad happened: "_s).size(), swap ? 1 : 0);
+    }
+
+    void information_isChecked_data()
+    {
+        const auto accepted = static_cast<ProbeRefusal>(-1);
+        addRows<Utf8, ProbeRefusal>({ "format", "refusal" },
+            {
+                { "one second", R"("duration":"1.000000","size":"500")", accepted },
+                { "long", R"("duration":"83.450000","size":"500")", accepted },
+                { "half a second", R"("duration":"0.5","size":"500")", ProbeRefusal::TooShort },
+                { "no duration", R"("size":"500")", ProbeRefusal::NoDuration },
+                { "numeric duration", R"("duration":8,"size":"500")", ProbeRefusal::NoDuration },
+                { "bad duration", R"("duration":"N/A","size":"500")", ProbeRefusal::NoDuration },
+                { "no size", R"("duration":"83.4")", ProbeRefusal::NoSize },
+                { "no size, too short", R"("duration":"0.4")", ProbeRefusal::NoSize },
+                { "numeric size", R"("duration":"83.4","size":500)", ProbeRefusal::NoSize },
+                { "growing", R"("duration":"83.4","size":"499")", ProbeRefusal::SizeDiffers },
+                { "bad size", R"("duration":"83.4","size":"5e2")", ProbeRefusal::SizeDiffers },
+            });
+    }
+    void information_isChecked()
+    {
+        QFETCH(const QString, format);
+        const JSON info = JSON::parse(R"({"format":{)" + format.toUtf8() + "}}");
+        const auto result = MovieProbe::checked(info, 500);
+        const auto *refusal = std::get_if<ProbeRefusal>(&result);
+        QTEST(refusal ? *refusal : static_cast<ProbeRefusal>(-1), "refusal");
+    }
+
+    void length_choosesCoverAndBucket_data()
+    {
+        addRows<qint64, Utf8, Utf8>({ "seconds", "cover", "bucket" },
+            {
+                { "0 s", 0, "00:00:00", "0-1" },
+                { "9 s", 9, "00:00:02", "0-1" },
+                { "10 s", 10, "00:00:20", "0-1" },
+                { "59 s", 59, "00:00:20", "0-1" },
+                { "1 min", 60, "00:00:40", "1-5" },
+                { "4 min 59 s", 299, "00:00:40", "1-5" },
+                { "5 min", 300, "00:00:40", "5-10" },
+                { "10 min", 600, "00:00:40", "10-20" },
+                { "39 min 59 s", 2399, "00:00:40", "20-40" },
+                { "40 min", 2400, "00:00:40", ">40" },
+                { "59 min 59 s", 3599, "00:00:40", ">40" },
+                { "1 h", 3600, "00:40:00", ">40" },
+                { "negative", -120, "00:00:00", ">40" },
+            });
+    }
+    void length_choosesCoverAndBucket()
+    {
+        QFETCH(const qint64, seconds);
+        QTEST(MovieProbe::coverOffset(DurationInfo(seconds)), "cover");
+        QTEST(MovieProbe::lengthBucket(seconds), "bucket");
+    }
+
+    void cover_isPrivateAndGoesAtTheEnd()
+    {
+        // The last test: what shutDown() ends does not begin again.
+        QStringList answers;
+        {
+            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
+            probe(path(u"five.mp4"_s), answers);
+            QTRY_COMPARE(answers.size(), 1);
+        }
+        QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
+        const QString image = std::exchange(arguments[5], u"IMAGE.jpg"_s);
+        QCOMPARE(arguments.join(u' '),
+            u"-an -ss 00:00:02 -i "_s + path(u"five.mp4"_s) + u" IMAGE.jpg -y"_s);
+        QVERIFY2(image.endsWith(u".jpg"_s), qPrintable(image));
+        const QFileInfo folder(QFileInfo(image).path());
+        QVERIFY(folder.isDir());
+        QCOMPARE(folder.permissions() & QFile::Permissions(0x0077), QFile::Permissions());
+        // A probe whose tool is silent for ever does not hold up the program's end.
+        const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
+        probe(path(u"five.mp4"_s), answers);
+        FFMPEG::shutDown();
+        QVERIFY(!QFileInfo::exists(folder.filePath()));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestProbe)
 #include "tst_probe.moc"

@@ -1,101 +1,179 @@
 // SPDX-License-Identifier: MIT
+#include "engine/DurationScanner.h"
 #include "engine/Progress.h"
+#include "engine/ToolOutput.h"
+#include "support/Pattern.h"
+#include "tests/fixtures/Rows.h"
 
-#include <QTest>
+#include <QRandomGenerator>
 
+using namespace Qt::StringLiterals;
+
+/// How far a run has come: read from the tool's output, and told on.
 class TestProgress : public QObject {
     Q_OBJECT
 
+    using Key = Progress::Key;
+
 private Q_SLOTS:
-    void fraction_isZeroWithoutATotal();
-    void observers_hearTheirKeyOnTheWritingThread();
-    void observers_areRemovedByKeyAndContext();
-    void cancellationHandler_runsOnceWhenever_data();
-    void cancellationHandler_runsOnceWhenever();
-    void endHandler_runsAlsoWhenSetLate();
+    void duration_isRead_data()
+    {
+        addRows<Utf8, qint64>({ "text", "seconds" },
+            {
+                { "fraction is dropped", "00:01:23.45", 83 },
+                { "no rounding", "00:00:59.99", 59 },
+                { "minutes beyond the hour", "00:75:00", 4500 },
+                { "many hours", "123:00:00", 442800 },
+                { "single digits", "1:2:3", 3723 },
+                { "surrounded", "at 00:00:10.5 of it", 10 },
+                { "a part beyond 64 bits counts as 0", "99999999999999999999:00:07", 7 },
+                { "not available", "N/A", -1 },
+                { "empty", "", -1 },
+                { "two parts", "12:34", -1 },
+            });
+    }
+    void duration_isRead()
+    {
+        QFETCH(const QString, text);
+        QTEST(ToolOutput::getFFMpegDuration(text).value_or(-1), "seconds");
+    }
+
+    void lastPosition_isRead_data()
+    {
+        addRows<Utf8, qint64>({ "block", "seconds" },
+            {
+                { "two", "time=00:00:10.00 bitrate=1\rtime=00:00:12.50 bitrate=2\r", 12 },
+                { "cut at the end", "time=00:00:10.00 bitrate=1\rtime=00:00:12", 10 },
+                { "no time in the last", "time=00:00:10.00 bitrate=1\rtime=: bitrate=", -1 },
+                { "none", "frame=1", -1 },
+            });
+    }
+    void lastPosition_isRead()
+    {
+        QFETCH(const QString, block);
+        QTEST(ToolOutput::lastReportedPosition(block).value_or(-1), "seconds");
+    }
+
+    void decodedBlock_losesBrokenLinesOnly_data()
+    {
+        addRows<QByteArray, Utf8>({ "bytes", "text" },
+            {
+                { "whole", "a\nпривет\n", "a\nпривет\n" },
+                { "one bad line", "title: \xD0\nDuration: 1\r", "Duration: 1\r" },
+                { "lines end in carriage returns", "a\r\xFF\rb", "a\rb" },
+                { "all bad", "\xFF", "" },
+                { "nothing", "", "" },
+            });
+    }
+    void decodedBlock_losesBrokenLinesOnly()
+    {
+        QFETCH(const QByteArray, bytes);
+        QTEST(ToolOutput::decodedBlock(bytes), "text");
+    }
+
+    void scanner_agreesWithASearchOfTheWholeText()
+    {
+        // Pieces that make matches across blocks, false starts, and characters of more than one
+        // unit (which shorten the range of the search) likely.
+        const QStringList pieces{ u"Duration: "_s, u"00:01:40.00"_s, u"N/A"_s, u", start:"_s,
+            u"\n"_s, u"\r\n"_s, u"😀"_s, u"👨‍👩‍👧"_s, u"e\u0301"_s, u"title"_s,
+            u"\r"_s };
+        QRandomGenerator random(20);
+        int found = 0;
+        for (int round = 0; round < 3000; ++round) {
+            DurationScanner scanner;
+            QString whole;
+            std::optional<qint64> expected;
+            for (int block = 0; block < 6; ++block) {
+                QString text;
+                for (int i = random.bounded(5); i > 0; --i)
+                    text += pieces[random.bounded(pieces.size())];
+                whole += text;
+                if (!expected)
+                    expected = ToolOutput::getFFMpegDuration(
+                        Pattern::matchRegex(whole, ToolOutput::regexprDuration(), 1));
+                scanner.append(text);
+                QVERIFY2(scanner.duration() == expected,
+                    qPrintable(u"round %1: %2"_s.arg(round).arg(whole)));
+            }
+            found += expected ? 1 : 0;
+        }
+        QVERIFY(found > 20);
+    }
+
+    void scanner_keepsItsPaceOnLongOutput()
+    {
+        // A search of all text after each of these blocks would take hours: the test's time limit
+        // is the check.
+        DurationScanner scanner;
+        const QString block = u"[mov] chatter without a length\n"_s.repeated(100);
+        for (int i = 0; i < 5000; ++i)
+            scanner.append(block);
+        QVERIFY(!scanner.duration());
+        scanner.append(u"Duration: 00:00:09.00, start: 0"_s);
+        QCOMPARE(scanner.duration().value_or(-1), qint64{ 9 });
+    }
+
+    void fraction_isZeroWithoutATotal()
+    {
+        Progress progress(-1);
+        QVERIFY(progress.isIndeterminate());
+        progress.setCompletedUnitCount(5);
+        for (const auto &[total, fraction] :
+            { std::pair{ -1, 0.0 }, std::pair{ 20, 0.25 }, std::pair{ 0, 0.0 } }) {
+            progress.setTotalUnitCount(total);
+            QCOMPARE(progress.fractionCompleted(), fraction);
+        }
+    }
+
+    void observers_hearTheirKeyUntilTheyAreRemoved()
+    {
+        Progress progress(100);
+        QList<Key> heard;
+        const auto hear = [&](Key key) { heard.append(key); };
+        progress.addObserver(Key::FractionCompleted, this, hear);
+        progress.addObserver(Key::CompletedUnitCount, this, hear);
+        progress.setTotalUnitCount(50);
+        QCOMPARE(std::exchange(heard, {}), QList<Key>{ Key::FractionCompleted });
+        progress.setCompletedUnitCount(1);
+        QCOMPARE(std::exchange(heard, {}),
+            (QList<Key>{ Key::FractionCompleted, Key::CompletedUnitCount }));
+        progress.removeObserver(Key::FractionCompleted, &progress);
+        progress.removeObserver(Key::CompletedUnitCount, this);
+        // An observer may remove itself while it is told.
+        progress.addObserver(Key::CompletedUnitCount, &progress,
+            [&](Key) { progress.removeObserver(Key::CompletedUnitCount, &progress); });
+        progress.setCompletedUnitCount(2);
+        QCOMPARE(heard, QList<Key>{ Key::FractionCompleted });
+        QCOMPARE(progress.observerCount(), 1U);
+    }
+
+    void cancellationHandler_runsOnceWhenever()
+    {
+        for (const bool setFirst : { true, false }) {
+            Progress progress(-1);
+            int runs = 0;
+            if (!setFirst)
+                progress.cancel();
+            progress.setCancellationHandler([&] { runs += progress.isCancelled() ? 1 : 100; });
+            QCOMPARE(runs, setFirst ? 0 : 1);
+            progress.cancel();
+            progress.cancel();
+            QCOMPARE(runs, 1);
+        }
+    }
+
+    void endHandler_runsAlsoWhenSetLate()
+    {
+        Progress progress(-1);
+        QByteArrayList outputs;
+        progress.setEndHandler([&] { outputs += progress.toolOutput(); });
+        QVERIFY(!progress.isEnded());
+        progress.end("all of it");
+        progress.setEndHandler([&] { outputs += "late"; });
+        QCOMPARE(outputs, (QByteArrayList{ "all of it", "late" }));
+    }
 };
-
-void TestProgress::fraction_isZeroWithoutATotal()
-{
-    Progress progress(-1);
-    QVERIFY(progress.isIndeterminate());
-    progress.setCompletedUnitCount(5);
-    QCOMPARE(progress.fractionCompleted(), 0.0);
-    progress.setTotalUnitCount(20);
-    QCOMPARE(progress.fractionCompleted(), 0.25);
-    progress.setTotalUnitCount(0);
-    QCOMPARE(progress.fractionCompleted(), 0.0);
-}
-
-void TestProgress::observers_hearTheirKeyOnTheWritingThread()
-{
-    using Key = Progress::Key;
-    Progress progress(100);
-    QList<Key> heard;
-    const auto hear = [&](Key key) { heard.append(key); };
-    progress.addObserver(Key::FractionCompleted, this, hear);
-    progress.addObserver(Key::CompletedUnitCount, this, hear);
-    progress.setTotalUnitCount(50);
-    QCOMPARE(heard, QList<Key>{ Key::FractionCompleted });
-    heard.clear();
-    progress.setCompletedUnitCount(1);
-    QCOMPARE(heard, (QList<Key>{ Key::FractionCompleted, Key::CompletedUnitCount }));
-}
-
-void TestProgress::observers_areRemovedByKeyAndContext()
-{
-    using Key = Progress::Key;
-    Progress progress(100);
-    int heard = 0;
-    const int otherContext = 0;
-    progress.addObserver(Key::CompletedUnitCount, this, [&](Key) { ++heard; });
-    progress.addObserver(Key::CompletedUnitCount, &otherContext, [&](Key) { heard += 10; });
-    progress.removeObserver(Key::FractionCompleted, this);
-    progress.setCompletedUnitCount(1);
-    QCOMPARE(heard, 11);
-    // An observer may remove itself while it is told.
-    progress.addObserver(Key::CompletedUnitCount, &progress,
-        [&](Key) { progress.removeObserver(Key::CompletedUnitCount, &progress); });
-    progress.removeObserver(Key::CompletedUnitCount, this);
-    progress.setCompletedUnitCount(2);
-    QCOMPARE(heard, 21);
-    QCOMPARE(progress.observerCount(), 1U);
-}
-
-void TestProgress::cancellationHandler_runsOnceWhenever_data()
-{
-    QTest::addColumn<bool>("setFirst");
-    QTest::newRow("set, then cancelled") << true;
-    QTest::newRow("cancelled, then set") << false;
-}
-
-void TestProgress::cancellationHandler_runsOnceWhenever()
-{
-    QFETCH(bool, setFirst);
-    Progress progress(-1);
-    int runs = 0;
-    if (!setFirst)
-        progress.cancel();
-    progress.setCancellationHandler([&] {
-        ++runs;
-        QVERIFY(progress.isCancelled());
-    });
-    QCOMPARE(runs, setFirst ? 0 : 1);
-    progress.cancel();
-    progress.cancel();
-    QCOMPARE(runs, 1);
-}
-
-void TestProgress::endHandler_runsAlsoWhenSetLate()
-{
-    Progress progress(-1);
-    QByteArrayList outputs;
-    progress.setEndHandler([&] { outputs += progress.toolOutput(); });
-    QVERIFY(!progress.isEnded());
-    progress.end("all of it");
-    progress.setEndHandler([&] { outputs += "late"; });
-    QCOMPARE(outputs, (QByteArrayList{ "all of it", "late" }));
-}
 
 QTEST_GUILESS_MAIN(TestProgress)
 #include "tst_progress.moc"

@@ -2,10 +2,14 @@
 #include "engine/Task.h"
 #include "support/Bundle.h"
 #include "tests/fixtures/Processes.h"
+#include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
-#include <QElapsedTimer>
-#include <QTest>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sys/socket.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -16,26 +20,19 @@ QString toolPath() { return Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffm
 
 class ThrowingTask : public Task {
 public:
-    explicit ThrowingTask(std::function<void()> thrower)
-        : m_thrower(std::move(thrower))
-    {
-    }
-    void launch() override { m_thrower(); }
-
-private:
-    std::function<void()> m_thrower;
+    void launch() override { thrower(); }
+    std::function<void()> thrower;
 };
 
-QByteArray outputOf(const QByteArray &script, int *status = nullptr)
+QByteArray outputOf(const QByteArray &script, const ToolAccess &access = {})
 {
     const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
     Task task;
     task.setLaunchPath(toolPath());
+    task.setAccess(access);
     task.launch();
     const QByteArray output = task.readDataToEndOfFile();
-    if (status)
-        *status = task.terminationStatus();
-    return output;
+    return output + '=' + QByteArray::number(task.terminationStatus());
 }
 
 }
@@ -44,122 +41,118 @@ class TestTask : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tryLaunch_reportsWhatCantBeExecuted_data();
-    void tryLaunch_reportsWhatCantBeExecuted();
-    void tryLaunch_guardsOnlyInvalidArguments();
-    void output_ofBothStreamsIsReadInFull();
-    void output_isDrainedBeforeTheTaskCountsAsEnded();
-    void terminationStatus_isNeverZeroAfterASignal();
-    void terminate_endsADeafToolThatFloods();
-    void readDataToEndOfFile_givesUpOnASilentTool();
-    void readDataToEndOfFile_givesUpOnAFloodingTool();
+    void cleanup() { QCOMPARE(Processes::children(), QStringList()); }
+
+    void tryLaunch_reportsWhatCantBeExecuted()
+    {
+        for (const auto replacement :
+            { ToolSwap::With::Nothing, ToolSwap::With::UnexecutableFile }) {
+            const ToolSwap swap(u"ffmpeg"_s, replacement);
+            Task task;
+            task.setLaunchPath(toolPath());
+            LaunchError error;
+            QVERIFY(!task.tryLaunch(&error));
+            QCOMPARE(error.domain, u"NSInvalidArgumentException"_s);
+            QCOMPARE(error.code, 0);
+            QVERIFY2(error.localizedDescription.contains(toolPath()),
+                qPrintable(error.localizedDescription));
+            QVERIFY(!task.isRunning() && !task.tryLaunch());
+        }
+    }
+
+    void tryLaunch_guardsOnlyInvalidArguments()
+    {
+        LaunchError error{ u"left from before"_s, 1, u"text"_s };
+        ThrowingTask task;
+        task.thrower = [] { throw 42; };
+        QVERIFY(task.tryLaunch(&error));
+        QVERIFY(error.domain.isEmpty() && error.localizedDescription.isEmpty());
+        task.thrower = [] { throw LaunchException{ u"NSGenericException"_s, u"why"_s }; };
+        QVERIFY_THROWS_EXCEPTION(LaunchException, task.tryLaunch(&error));
+    }
+
+    void output_isReadInFull()
+    {
+        QCOMPARE(outputOf("print:first |out:second |sleep:50|print:third"), "first second third=0");
+        QCOMPARE(outputOf("print:end|exit:3"), "end=3");
+        QVERIFY(!outputOf("print:end|signal:9").endsWith("=0"));
+    }
+
+    void output_isDrainedBeforeTheTaskCountsAsEnded()
+    {
+        // The tool ends at once after its last words, often before anybody has looked at the pipe.
+        const ToolSwap swap(
+            u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:30720|print:the end|exit:0");
+        for (int i = 0; i < 100; ++i) {
+            Task task;
+            task.setLaunchPath(toolPath());
+            task.launch();
+            if (i % 2 == 0)
+                QThread::usleep(5000);
+            QByteArray output;
+            while (task.isRunning())
+                output += task.availableData();
+            QCOMPARE(output.size(), 30720 + 7);
+            QVERIFY(output.endsWith("the end"));
+        }
+    }
+
+    void readDataToEndOfFile_givesUp()
+    {
+        Task::setSilenceLimit(1s);
+        QVERIFY(outputOf("print:hello|forever").startsWith("hello="));
+        Task::setSilenceLimit(300s);
+        const qsizetype flood = outputOf("flood:100000000000").size();
+        QVERIFY2(flood > 60'000'000 && flood < 80'000'000, qPrintable(QString::number(flood)));
+    }
+
+    void sandbox_refusesWhatIsNotNeeded_data()
+    {
+        const QByteArray allowed = "allowed =0";
+        const QByteArray refused = "Permission denied =0";
+        const auto socket = [](int family) { return "socket:" + QByteArray::number(family); };
+        addRows<QByteArray, QByteArray>({ "attempt", "answer" },
+            {
+                { "reads the source", "read:SOURCE/film.mp4", allowed },
+                { "reads the source's neighbour", "read:SOURCE/diary.txt", refused },
+                { "writes the source", "write:SOURCE/film.mp4", refused },
+                { "writes the result", "write:DEST/result.mp4", allowed },
+                { "reads the destination", "read:DEST/other.txt", refused },
+                { "lists the home folder", "read:" + QDir::homePath().toUtf8(), refused },
+                { "reads in the home folder", "read:HOME/secret", refused },
+                { "writes to the home folder", "write:HOME/secret", refused },
+                { "writes to the temporary folder", "write:TEMP/elsewhere", refused },
+                { "reads the users", "read:/etc/passwd", refused },
+                { "reads a library", "read:/usr/bin/env", allowed },
+                { "runs a program of the user's", "exec:HOME/program", refused },
+                { "IPv4 socket", socket(AF_INET), refused },
+                { "IPv6 socket", socket(AF_INET6), refused },
+                { "local socket", socket(AF_UNIX), refused },
+            });
+    }
+    void sandbox_refusesWhatIsNotNeeded()
+    {
+        if (!Sandbox(u"/usr/bin/ffmpeg"_s, {}).isConfining())
+            QSKIP("this kernel offers no sandbox");
+        QFETCH(QByteArray, attempt);
+        const QTemporaryDir source;
+        const QTemporaryDir dest;
+        const QTemporaryDir home;
+        const QString film = source.filePath(u"film.mp4"_s);
+        for (const QString &path :
+            { film, source.filePath(u"diary.txt"_s), dest.filePath(u"other.txt"_s),
+                home.filePath(u"secret"_s), home.filePath(u"program"_s) }) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        }
+        attempt.replace("SOURCE", QFile::encodeName(source.path()));
+        attempt.replace("DEST", QFile::encodeName(dest.path()));
+        attempt.replace("HOME", QFile::encodeName(home.path()));
+        attempt.replace("TEMP", QFile::encodeName(QDir::tempPath()));
+        QTEST(outputOf(attempt, { { film }, { dest.path() } }), "answer");
+    }
 };
-
-void TestTask::tryLaunch_reportsWhatCantBeExecuted_data()
-{
-    QTest::addColumn<ToolSwap::With>("replacement");
-    QTest::newRow("missing") << ToolSwap::With::Nothing;
-    QTest::newRow("not executable") << ToolSwap::With::UnexecutableFile;
-}
-
-void TestTask::tryLaunch_reportsWhatCantBeExecuted()
-{
-    QFETCH(ToolSwap::With, replacement);
-    const ToolSwap swap(u"ffmpeg"_s, replacement);
-    Task task;
-    task.setLaunchPath(toolPath());
-    LaunchError error;
-    QVERIFY(!task.tryLaunch(&error));
-    QCOMPARE(error.domain, u"NSInvalidArgumentException"_s);
-    QCOMPARE(error.code, 0);
-    QVERIFY2(
-        error.localizedDescription.contains(toolPath()), qPrintable(error.localizedDescription));
-    QVERIFY(!task.isRunning());
-    QVERIFY(!task.tryLaunch());
-}
-
-void TestTask::tryLaunch_guardsOnlyInvalidArguments()
-{
-    LaunchError error{ u"left from before"_s, 1, u"text"_s };
-    ThrowingTask stranger([] { throw 42; });
-    QVERIFY(stranger.tryLaunch(&error));
-    QVERIFY(error.domain.isEmpty() && error.localizedDescription.isEmpty());
-
-    ThrowingTask other([] { throw LaunchException{ u"NSGenericException"_s, u"why"_s }; });
-    try {
-        other.tryLaunch(&error);
-        QFAIL("an exception of another name must go on");
-    } catch (const LaunchException &exception) {
-        QCOMPARE(exception.name, u"NSGenericException"_s);
-        QCOMPARE(exception.reason, u"why"_s);
-    }
-}
-
-void TestTask::output_ofBothStreamsIsReadInFull()
-{
-    QCOMPARE(outputOf("print:first |out:second |sleep:50|print:third"),
-        QByteArray("first second third"));
-}
-
-void TestTask::output_isDrainedBeforeTheTaskCountsAsEnded()
-{
-    // The tool ends at once after its last words, often before anybody has looked at the pipe.
-    const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:30720|print:the end|exit:0");
-    for (int i = 0; i < 100; ++i) {
-        Task task;
-        task.setLaunchPath(toolPath());
-        task.launch();
-        if (i % 2 == 0)
-            QThread::usleep(5000);
-        QByteArray output;
-        while (task.isRunning())
-            output += task.availableData();
-        QCOMPARE(output.size(), 30720 + 7);
-        QVERIFY(output.endsWith("the end"));
-    }
-}
-
-void TestTask::terminationStatus_isNeverZeroAfterASignal()
-{
-    int status = 0;
-    outputOf("signal:9", &status);
-    QVERIFY(status != 0);
-    outputOf("exit:3", &status);
-    QCOMPARE(status, 3);
-    outputOf("exit:0", &status);
-    QCOMPARE(status, 0);
-}
-
-void TestTask::terminate_endsADeafToolThatFloods()
-{
-    const ToolSwap swap(
-        u"ffmpeg"_s, ToolSwap::With::FakeTool, "deaf|print:ready|flood:100000000000");
-    Task task;
-    task.setLaunchPath(toolPath());
-    task.launch();
-    QVERIFY(!task.availableData().isEmpty());
-    QElapsedTimer timer;
-    timer.start();
-    task.terminate();
-    QVERIFY(!task.isRunning());
-    QVERIFY2(timer.elapsed() >= 2900 && timer.elapsed() < 10'000,
-        qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(Processes::children(), QStringList());
-}
-
-void TestTask::readDataToEndOfFile_givesUpOnASilentTool()
-{
-    Task::setSilenceLimit(1s);
-    QCOMPARE(outputOf("print:hello|forever"), QByteArray("hello"));
-    Task::setSilenceLimit(300s);
-    QCOMPARE(Processes::children(), QStringList());
-}
-
-void TestTask::readDataToEndOfFile_givesUpOnAFloodingTool()
-{
-    const QByteArray output = outputOf("flood:100000000000");
-    QVERIFY(output.size() > 60'000'000 && output.size() < 80'000'000);
-}
 
 QTEST_GUILESS_MAIN(TestTask)
 #include "tst_task.moc"
