@@ -78,22 +78,8 @@ private Q_SLOTS:
         QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()), bundle);
     }
 
-    void address_isReplacedByLoopbackOnly_data()
-    {
-        QTest::addColumn<bool>("isObeyed");
-        for (const char *address :
-            { "http://127.0.0.1:8080/a", "http://localhost/", "https://[::1]:1/" })
-            QTest::newRow(address) << true;
-        for (const char *address : { "http://example.org/", "http://127.0.0.1.example.org/",
-                 "http://localhost@example.org/", "http://example.org/127.0.0.1", "//127.0.0.1",
-                 "127.0.0.1:80", "file://localhost/etc/passwd", "" })
-            QTest::newRow(address) << false;
-    }
-
     void address_isReplacedByLoopbackOnly()
     {
-        QFETCH(bool, isObeyed);
-        const QString address = QString::fromUtf8(QTest::currentDataTag());
         const std::pair<const char *, QString (*)()> addresses[]{
             { "VIDEO_CONVERTER_COLLECTOR_URL", Configuration::collectorUrl },
             { "VIDEO_CONVERTER_FEED_URL", Configuration::feedUrl },
@@ -102,8 +88,17 @@ private Q_SLOTS:
         for (const auto &[variable, value] : addresses) {
             qunsetenv(variable);
             const QString built = value();
-            qputenv(variable, address.toUtf8());
-            QCOMPARE(value(), isObeyed ? address : built);
+            for (const char *own :
+                { "http://127.0.0.1:8080/a", "http://localhost/", "https://[::1]:1/" }) {
+                qputenv(variable, own);
+                QCOMPARE(value(), QString::fromUtf8(own));
+            }
+            for (const char *other : { "http://example.org/", "http://127.0.0.1.example.org/",
+                     "http://localhost@example.org/", "http://example.org/127.0.0.1", "//127.0.0.1",
+                     "127.0.0.1:80", "file://localhost/etc/passwd", "" }) {
+                qputenv(variable, other);
+                QVERIFY2(value() == built, other);
+            }
             qunsetenv(variable);
         }
     }
