@@ -134,30 +134,27 @@ private Q_SLOTS:
         }
     }
 
-    void clientId_isKept_data()
-    {
-        QTest::addColumn<QVariant>("stored");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("fresh") << QVariant() << u"^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$"_s;
-        QTest::newRow("stored") << QVariant(u"x"_s) << u"^x$"_s;
-        QTest::newRow("empty") << QVariant(u""_s) << u"^unknown$"_s;
-    }
-
     void clientId_isKept()
     {
-        QFETCH(QVariant, stored);
-        QFETCH(QString, expected);
-        if (stored.isValid())
-            Defaults::setValue(u"GA"_s, stored);
-        // Any thread may send.
-        std::thread([] { sendEvent(u"first"_s); }).join();
-        std::thread([] { sendEvent(u"second"_s); }).join();
-
-        QTRY_COMPARE(m_collector->requests.size(), 2);
-        const QString id = told(u"cid"_s).toString();
-        QVERIFY2(QRegularExpression(expected).match(id).hasMatch(), qPrintable(id));
-        QCOMPARE(told(u"cid"_s, 1), id);
-        QCOMPARE(Defaults::value(u"GA"_s).toString(), stored.isValid() ? stored.toString() : id);
+        const std::pair<QVariant, QString> ids[]{
+            { {}, u"^[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$"_s },
+            { u"x"_s, u"^x$"_s },
+            { u""_s, u"^unknown$"_s },
+        };
+        for (const auto &[stored, expected] : ids) {
+            m_collector->requests.clear();
+            if (stored.isValid())
+                Defaults::setValue(u"GA"_s, stored);
+            // Any thread may send.
+            std::thread([] { sendEvent(u"first"_s); }).join();
+            std::thread([] { sendEvent(u"second"_s); }).join();
+            QTRY_COMPARE(m_collector->requests.size(), 2);
+            const QString id = told(u"cid"_s).toString();
+            QVERIFY2(QRegularExpression(expected).match(id).hasMatch(), qPrintable(id));
+            QCOMPARE(told(u"cid"_s, 1), id);
+            QCOMPARE(
+                Defaults::value(u"GA"_s).toString(), stored.isValid() ? stored.toString() : id);
+        }
     }
 
     void version_isThatOfTheBundle()

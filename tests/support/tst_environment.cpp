@@ -153,10 +153,9 @@ private Q_SLOTS:
 
     void key_isItsExactText()
     {
-        for (const auto key : { PreferencesKeys::IsFirstRun, PreferencesKeys::FirstLaunch })
-            QCOMPARE(preferencesKey(rawValue(key)), key);
-        QCOMPARE(rawValue(PreferencesKeys::FirstLaunch), u"FirstLaunch"_s);
-        for (const QString &other : { u"isFirstRun"_s, u"FirstLaunch "_s, u""_s, u"GA"_s })
+        QCOMPARE(rawValue(PreferencesKeys::IsFirstRun), u"IsFirstRun"_s);
+        QCOMPARE(preferencesKey(u"FirstLaunch"), PreferencesKeys::FirstLaunch);
+        for (const QString &other : { u"isFirstRun"_s, u"FirstLaunch "_s, u""_s })
             QCOMPARE(preferencesKey(other), std::nullopt);
     }
 };
