@@ -102,7 +102,7 @@ QString Analytics::userId()
 {
     const QVariant stored = Defaults::value(u"GA"_s);
     if (stored.typeId() != QMetaType::QString) {
-        const QString created = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+        QString created = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
         Defaults::setValue(u"GA"_s, created);
         return created;
     }

@@ -21,7 +21,7 @@ constexpr std::array verbNames{ "formats"_L1, "probe"_L1, "plan"_L1, "convert"_L
 
 std::optional<Verb> verbNamed(const QString &name)
 {
-    const auto found = std::find(verbNames.begin(), verbNames.end(), name);
+    const auto *const found = std::find(verbNames.begin(), verbNames.end(), name);
     return found == verbNames.end() ? std::nullopt
                                     : std::optional(static_cast<Verb>(found - verbNames.begin()));
 }

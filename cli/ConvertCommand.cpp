@@ -73,7 +73,7 @@ std::optional<Failure> Conversion::run(
     m_progress = FFMPEG::convertFile(m_item.path, linkTarget(m_item.destPath), entry, info,
         [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
     wait(interruption);
-    const std::optional<Failure> failure = outcome();
+    std::optional<Failure> failure = outcome();
     if (!failure)
         m_reporter.converted(m_item, std::chrono::milliseconds(m_clock.elapsed()));
     return failure;

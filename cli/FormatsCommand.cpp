@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/Output.h"
+#include "cli/ShownText.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Localized.h"
 
@@ -42,9 +43,9 @@ qint64 longestSide(const VideoDimensionsConstraints &dimension)
 QString plainLine(const QString &name)
 {
     const VideoConstraints entry = entryNamed(name);
-    QString text = u"  "_s + name.leftJustified(36) + conversionDescriptor(entry.format).ext;
+    QString text = u"  "_s + leftJustified(name, 36) + conversionDescriptor(entry.format).ext;
     if (entry.dimension.maximum())
-        text = text.leftJustified(44) + u"<= "_s
+        text = leftJustified(text, 44) + u"<= "_s
             + QString::number(longestSide(entry.dimension)).rightJustified(4) + u" px"_s;
     return text;
 }

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 infoLimit = 64 * 1024 * 1024;
+constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 
 /// A media information as the tool prints it, or inside what 'probe --json' prints.
 std::variant<JSON, Failure> savedInfo(const QString &name)

@@ -47,7 +47,7 @@ QString streamText(const JSON &stream)
 
 void printField(const LocalizedText &name, const QString &value)
 {
-    Output::line((localized(name) + u": "_s).leftJustified(12) + value);
+    Output::line(leftJustified(localized(name) + u": "_s, 12) + value);
 }
 
 void printText(const FilmDescription &film)

@@ -15,18 +15,13 @@ using namespace std::chrono_literals;
 
 namespace {
 
-QString leftJustified(const QString &text, int columns)
-{
-    return text + QString(std::max(0, columns - columnsOf(text)), u' ');
-}
-
 QString bar(const ProgressSample &sample, int width)
 {
     if (const std::optional<int> percent = sample.percent())
-        return QString(*percent * width / 100, u'#').leftJustified(width, u'-');
+        return QString(qsizetype{ *percent } * width / 100, u'#').leftJustified(width, u'-');
     constexpr int blockWidth = 3;
     const int way = std::max(1, width - blockWidth);
-    const auto step = static_cast<int>(sample.elapsed / 200ms % (2 * way));
+    const auto step = static_cast<int>(sample.elapsed / 200ms % (2L * way));
     return QString(way - std::abs(way - step), u'-') + QString(blockWidth, u'#')
         + QString(std::abs(way - step), u'-');
 }

@@ -41,6 +41,11 @@ int columnsOf(const QString &text)
     return columns;
 }
 
+QString leftJustified(const QString &text, int columns)
+{
+    return text + QString(std::max(0, columns - columnsOf(text)), u' ');
+}
+
 QString elided(const QString &text, int columns)
 {
     if (columnsOf(text) <= columns)

@@ -14,5 +14,7 @@
 [[nodiscard]] QString shellQuoted(const QStringList &words);
 /// Number of columns that a text takes on a terminal.
 [[nodiscard]] int columnsOf(const QString &text);
+/// Filled up with spaces to so many columns.
+[[nodiscard]] QString leftJustified(const QString &text, int columns);
 /// At most so many columns, cut in the middle.
 [[nodiscard]] QString elided(const QString &text, int columns);

@@ -65,8 +65,8 @@ QStringList linesOf(const QByteArray &output)
 {
     static const QRegularExpression lineEnd(u"[\\r\\n]+"_s);
     // Bytes that are no UTF-8 lose nothing but themselves here.
-    QStringList lines
-        = QString::fromUtf8(output.right(256 * 1024)).split(lineEnd, Qt::SkipEmptyParts);
+    QStringList lines = QString::fromUtf8(output.right(qsizetype{ 256 } * 1024))
+                            .split(lineEnd, Qt::SkipEmptyParts);
     return lines.mid(std::max<qsizetype>(0, lines.size() - lastLines));
 }
 

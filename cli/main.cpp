@@ -65,7 +65,7 @@ int main(int argc, char *argv[])
     const auto parsed = parsedCommandLine(QCoreApplication::arguments());
     if (const auto *text = std::get_if<Answer>(&parsed))
         return exitStatus(answer(*text));
-    const auto &line = std::get<CommandLine>(parsed);
+    const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
         Diagnostics::show();
     const ExitCode code = run(line);

@@ -40,15 +40,15 @@ std::optional<QByteArray> toolOutput(
 }
 
 void FFMPEG::collectMovieInfo(
-    const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler)
+    const QString &path, std::function<void()> errorHandler, const InfoHandler &completionHandler)
 {
     collectMovieInfo(
-        path, [handler = std::move(errorHandler)](ProbeRefusal) { handler(); },
-        std::move(completionHandler));
+        path, [handler = std::move(errorHandler)](ProbeRefusal) { handler(); }, completionHandler);
 }
 
-void FFMPEG::collectMovieInfo(const QString &path, std::function<void(ProbeRefusal)> errorHandler,
-    InfoHandler completionHandler, Cover coverWish)
+void FFMPEG::collectMovieInfo(const QString &path,
+    const std::function<void(ProbeRefusal)> &errorHandler, const InfoHandler &completionHandler,
+    Cover coverWish)
 {
     // A FIFO would make the tool wait for ever.
     if (!isRegularFile(path)) {

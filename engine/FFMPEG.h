@@ -41,11 +41,11 @@ public:
     FFMPEG() = delete;
 
     /// Describes a film. Exactly one of the handlers runs.
-    static void collectMovieInfo(
-        const QString &path, std::function<void()> errorHandler, InfoHandler completionHandler);
+    static void collectMovieInfo(const QString &path, std::function<void()> errorHandler,
+        const InfoHandler &completionHandler);
     /// The same, with the reason of a refusal, and without a cover where that is left out.
     static void collectMovieInfo(const QString &path,
-        std::function<void(ProbeRefusal)> errorHandler, InfoHandler completionHandler,
+        const std::function<void(ProbeRefusal)> &errorHandler, const InfoHandler &completionHandler,
         Cover cover = Cover::Taken);
 
     /// Converts a probed film. The progress object is indeterminate until the tool tells the

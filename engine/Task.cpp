@@ -18,7 +18,7 @@ namespace {
 
 constexpr int waitMilliseconds = 100;
 constexpr qsizetype smallPiece = 4096;
-constexpr qsizetype floodLimit = 64 * 1024 * 1024;
+constexpr auto floodLimit = qsizetype{ 64 } * 1024 * 1024;
 
 std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
 std::atomic<bool> readingStopped = false;

@@ -28,7 +28,7 @@ struct Row {
 
 constexpr auto none = ""_L1;
 constexpr std::array experimental{ "-strict"_L1, "experimental"_L1 };
-constexpr std::array smallAnimation{ "-vf"_L1, "scale=min(iw\\,600):-1"_L1, "-pix_fmt"_L1,
+constexpr std::array smallAnimation{ "-vf"_L1, R"(scale=min(iw\,600):-1)"_L1, "-pix_fmt"_L1,
     "rgb24"_L1, "-r"_L1, "10"_L1 };
 
 using enum ConversionFormat;

@@ -57,7 +57,7 @@ JSON JSON::operator[](const QString &key) const
 std::vector<JSON> JSON::array() const
 {
     std::vector<JSON> elements;
-    for (const QJsonValue &element : m_value.toArray())
+    for (const auto &element : m_value.toArray())
         elements.emplace_back(element);
     return elements;
 }

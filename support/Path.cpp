@@ -67,10 +67,10 @@ QStringList pathComponents(const QString &path)
 
 QString stringByAppendingPathComponent(const QString &path, const QString &component)
 {
-    const QString name = withoutTrailingSeparators(component);
+    QString name = withoutTrailingSeparators(component);
     if (path.isEmpty())
         return name;
-    const QString folder = withoutTrailingSeparators(path);
+    QString folder = withoutTrailingSeparators(path);
     const qsizetype start
         = std::ranges::find_if(name, [](QChar c) { return c != u'/'; }) - name.begin();
     if (start == name.size())

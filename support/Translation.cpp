@@ -38,7 +38,7 @@ QString language(const QStringList &wanted, const QStringList &localizations)
 
 QString install(const Bundle &bundle)
 {
-    const QString chosen = language(QLocale::system().uiLanguages(), bundle.localizations());
+    QString chosen = language(QLocale::system().uiLanguages(), bundle.localizations());
     auto *toolkit = new QTranslator(QCoreApplication::instance());
     if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s,
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

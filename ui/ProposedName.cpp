@@ -11,7 +11,7 @@ QString proposedName(const QString &sourcePath, const QString &folder, const QSt
 {
     constexpr int longest = 25;
     const QString source = Path::lastPathComponent(sourcePath);
-    const QString name = Text::max(Path::stringByDeletingPathExtension(source), longest);
+    QString name = Text::max(Path::stringByDeletingPathExtension(source), longest);
     const auto pathOf = [&](const QString &candidate) {
         return Path::stringByAppendingPathComponent(folder, candidate + u'.' + ext);
     };

@@ -80,7 +80,7 @@ void SaveSheet::accept()
     const bool hasAsked = isNative && path == chosen;
     if (mayUse(path, hasAsked)) {
         m_path = path;
-        QDialog::accept();
+        QDialog::accept(); // NOLINT(bugprone-parent-virtual-call): QFileDialog would ask again
     } else if (isNative) {
         m_refusedPath = path;
         QDialog::reject();

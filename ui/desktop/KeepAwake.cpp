@@ -54,13 +54,13 @@ void KeepAwake::Hold::askPortal(const std::shared_ptr<Hold> &hold, const QString
     DesktopBus::call(QDBusConnection::sessionBus(), inhibit, { QString(), suspendAndIdle, options },
         [weak = std::weak_ptr(hold), reason](const QDBusMessage &answer) {
             const std::shared_ptr<Hold> owner = weak.lock();
-            const auto request = answer.arguments().value(0).value<QDBusObjectPath>();
+            const auto given = answer.arguments().value(0).value<QDBusObjectPath>();
             if (answer.type() == QDBusMessage::ErrorMessage && owner)
                 askLoginManager(owner, reason);
             else if (owner)
-                owner->request = request;
-            else if (!request.path().isEmpty())
-                closeRequest(request);
+                owner->request = given;
+            else if (!given.path().isEmpty())
+                closeRequest(given);
         });
 }
 
