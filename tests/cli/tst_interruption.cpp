@@ -19,21 +19,13 @@ namespace {
 
 void send(int signal, qint64 process) { QCOMPARE(::kill(static_cast<pid_t>(process), signal), 0); }
 
-/// Stays open until the end of the test program, unless it is closed.
-struct Pipe {
+std::array<int, 2> openPipe()
+{
     std::array<int, 2> ends{};
-
-    Pipe()
-    {
-        if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-            qFatal("No pipe");
-    }
-    void close() const
-    {
-        for (const int end : ends)
-            ::close(end);
-    }
-};
+    if (::pipe2(ends.data(), O_CLOEXEC) != 0)
+        qFatal("No pipe");
+    return ends;
+}
 
 }
 
@@ -119,10 +111,11 @@ private Q_SLOTS:
 
     void readerThatGoes_cancels()
     {
-        const Pipe output;
+        const auto output = openPipe();
         const auto process
-            = convertSlowly({ u"--json"_s }, [&output] { ::dup2(output.ends[1], STDOUT_FILENO); });
-        output.close();
+            = convertSlowly({ u"--json"_s }, [&output] { ::dup2(output[1], STDOUT_FILENO); });
+        ::close(output[0]);
+        ::close(output[1]);
         QCOMPARE(Command::wait(*process).exitCode, 128 + SIGPIPE);
     }
 
@@ -130,12 +123,12 @@ private Q_SLOTS:
     {
         // More diagnostics than a pipe holds, and nobody who reads them.
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:1000000|exit:1");
-        const Pipe errors;
-        const auto process = m_command.start(u"probe film.mp4 --verbose"_s, {},
-            [&errors] { ::dup2(errors.ends[1], STDERR_FILENO); });
+        const auto errors = openPipe();
+        const auto process = m_command.start(
+            u"probe film.mp4 --verbose"_s, {}, [&errors] { ::dup2(errors[1], STDERR_FILENO); });
         int waiting = 0;
         QTRY_VERIFY_WITH_TIMEOUT(
-            ::ioctl(errors.ends[0], FIONREAD, &waiting) == 0 && waiting > 60'000, 20'000);
+            ::ioctl(errors[0], FIONREAD, &waiting) == 0 && waiting > 60'000, 20'000);
         send(SIGINT, process->processId());
         QVERIFY(process->waitForFinished(5000));
         QCOMPARE(process->exitCode(), 130);

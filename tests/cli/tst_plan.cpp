@@ -91,22 +91,15 @@ private Q_SLOTS:
     void savedInformation_isPlanned_data()
     {
         const QByteArray film = R"({"streams":[{"codec_type":"video","codec_name":"h264",)"
-                                R"("width":1920,"height":1080},{"codec_type":"audio",)"
-                                R"("codec_name":"aac"}],"format":{"duration":"5.0"}})";
+                                R"("width":1920,"height":1080}]})";
         const QByteArray deep = QByteArray("[").repeated(500) + QByteArray("]").repeated(500);
-        const Utf8 scaled = "-vf scale=1280:-2 -map 0:0 -vcodec libx264 -map 0:1 -acodec copy ";
+        const Utf8 scaled = "-vf scale=1280:-2 -map 0:0 -vcodec libx264 ";
         addRows<QByteArray, Utf8>({ "info", "hd720" },
             {
                 { "as the tool printed it", film, scaled },
                 { "as probe printed it", R"({"cover":null,"info":)" + film + '}', scaled },
-                { "nothing in it", "{}", "" },
                 { "a list", "[1, 2]", "" },
                 { "info of another type", R"({"info":"x","streams":7})", "" },
-                { "odd types",
-                    R"({"streams":[null,{"codec_type":7},{"codec_type":"video","width":"9"}]})",
-                    "-map 0:2 -vcodec libx264 " },
-                { "huge numbers", R"({"streams":[{"codec_type":"video","height":-1e308}]})",
-                    "-map 0:0 -vcodec libx264 " },
                 { "deep", R"({"streams":)" + deep + '}', "" },
             });
     }
@@ -120,7 +113,6 @@ private Q_SLOTS:
         QCOMPARE(m_command.run(u"plan --to all --json --info -"_s, {}, info).out, fromFile.out);
         const QJsonObject object = objectOf(fromFile);
         QCOMPARE(object.size(), 25);
-        QCOMPARE(wordsOf(object[u"audio"_s]).join(u' '), u"-f mp3"_s);
         QCOMPARE(
             wordsOf(object[u"MP4 HD 720"_s]).join(u' '), hd720 + u"-strict experimental -f mp4"_s);
     }

@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <mutex>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -43,16 +42,13 @@ class TestProbe : public QObject {
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
-    std::mutex m_mutex;
     QStringList m_lines;
 
 private Q_SLOTS:
     void initTestCase()
     {
-        Console::setSink([this](const QString &line) {
-            const std::lock_guard lock(m_mutex);
-            m_lines += line;
-        });
+        Console::setSink(
+            [this](const QString &line) { MainQueue::post([=, this] { m_lines << line; }); });
         Media::film(path(u"five.mp4"_s), 5, u"320x180"_s);
         Media::film(path(u"fifteen.mkv"_s), 15);
         Media::ffmpeg({ u"-i"_s, path(u"five.mp4"_s), path(u"sound.mp3"_s) });

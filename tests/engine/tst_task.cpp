@@ -45,8 +45,8 @@ private Q_SLOTS:
 
     void tryLaunch_reportsWhatCantBeExecuted()
     {
-        for (const auto replacement :
-            { ToolSwap::With::Nothing, ToolSwap::With::UnexecutableFile }) {
+        using With = ToolSwap::With;
+        for (const With replacement : { With::Nothing, With::UnexecutableFile }) {
             const ToolSwap swap(u"ffmpeg"_s, replacement);
             Task task;
             task.setLaunchPath(toolPath());
