@@ -1,17 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QJsonObject>
-#include <QList>
-#include <QTcpServer>
+#include "LoopbackServer.h"
 
-class QTcpSocket;
+#include <QJsonObject>
 
 /// A collection endpoint on the loopback interface that keeps what it is sent.
-class Collector : public QTcpServer {
-    Q_OBJECT
-
+class Collector : public LoopbackServer {
 public:
     struct Request {
         QByteArray head;
@@ -20,12 +15,11 @@ public:
         [[nodiscard]] QJsonObject hit() const;
     };
 
-    Collector();
-    [[nodiscard]] QString url() const;
+    [[nodiscard]] QString url() const { return address({}); }
 
     QByteArray answer = "HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n";
     QList<Request> requests;
 
 private:
-    void read(QTcpSocket *socket, QByteArray &received);
+    void reply(QTcpSocket &socket, const QByteArray &head, const QByteArray &body) override;
 };

@@ -52,10 +52,15 @@ private:
             : request.mid(field + 15, 12).split('\r').first().trimmed().toLongLong();
         if (request.size() < head + 4 + length)
             return;
-        const QByteArray path = request.split(' ').value(1);
+        const QByteArray complete = m_requests.take(&socket);
+        reply(socket, complete.first(head), complete.mid(head + 4));
+    }
+
+    virtual void reply(QTcpSocket &socket, const QByteArray &head, const QByteArray &body)
+    {
+        const QByteArray path = head.split(' ').value(1);
         paths.append(path);
-        bodies.append(request.mid(head + 4));
-        m_requests.remove(&socket);
+        bodies.append(body);
         answer(socket, answers.value(path, { .status = "404 Not Found" }));
     }
 
