@@ -68,37 +68,28 @@ private Q_SLOTS:
         QCOMPARE(pieces(u"/🎬\n.mov"_s), u"🎬\n.mov | mov | / | /🎬\n"_s);
     }
 
-    void path_hasComponents()
+    void path_isSplitAndJoined()
     {
         QCOMPARE(Path::pathComponents({}), QStringList());
         QCOMPARE(Path::pathComponents(u"//"_s), QStringList{ u"/"_s });
-        QCOMPARE(Path::pathComponents(u"a//b.c"_s), QStringList({ u"a"_s, u"b.c"_s }));
-        QCOMPARE(Path::pathComponents(u"/a/"_s), QStringList({ u"/"_s, u"a"_s, u"/"_s }));
-    }
+        QCOMPARE(Path::pathComponents(u"a//b.c"_s).join(u'|'), u"a|b.c"_s);
+        QCOMPARE(Path::pathComponents(u"/a/"_s).join(u'|'), u"/|a|/"_s);
 
-    void component_isAppended()
-    {
         const auto joined = Path::stringByAppendingPathComponent;
-        QCOMPARE(joined(u"/tmp"_s, u"scratch.tiff"_s), u"/tmp/scratch.tiff"_s);
-        QCOMPARE(joined(u"/tmp//"_s, u"//a/"_s), u"/tmp/a"_s);
+        QCOMPARE(joined(u"/tmp//"_s, u"//a.b/"_s), u"/tmp/a.b"_s);
         QCOMPARE(joined(u"/"_s, u"a"_s), u"/a"_s);
         QCOMPARE(joined(u"/tmp"_s, u"//"_s), u"/tmp"_s);
-        QCOMPARE(joined(u"/tmp"_s, {}), u"/tmp"_s);
         QCOMPARE(joined({}, u"a"_s), u"a"_s);
         QCOMPARE(joined({}, {}), QString());
-    }
 
-    void extension_isAppended()
-    {
         const auto extended = Path::stringByAppendingPathExtension;
-        QCOMPARE(extended(u"/tmp/scratch.old"_s, u"tiff"_s), u"/tmp/scratch.old.tiff"_s);
         QCOMPARE(extended(u"/tmp/scratch."_s, u"tiff"_s), u"/tmp/scratch..tiff"_s);
         QCOMPARE(extended(u"/tmp/"_s, u"tiff"_s), u"/tmp.tiff"_s);
         QCOMPARE(extended(u"~/a"_s, u"mov"_s), u"~/a.mov"_s);
         for (const QString &path : { u""_s, u"//"_s, u"~a"_s })
             QCOMPARE(extended(path, u"mov"_s), std::nullopt);
-        QCOMPARE(extended(u"a"_s, {}), std::nullopt);
-        QCOMPARE(extended(u"a"_s, u"b/c"_s), std::nullopt);
+        for (const QString &extension : { u""_s, u"b/c"_s })
+            QCOMPARE(extended(u"a"_s, extension), std::nullopt);
     }
 
     void json_readsLeniently()
@@ -118,7 +109,6 @@ private Q_SLOTS:
                 QString::fromLatin1("- | " + QByteArrayList(3, number).join(" | ")));
         QCOMPARE(readings("1e300"), u"- | 1e+300 | - | 0"_s);
         QCOMPARE(readings("true"), u"- | true | - | 1"_s);
-        QCOMPARE(readings("false"), u"- | false | - | 0"_s);
         for (const char *other : { "null", "[1]", R"({"a":1})" })
             QCOMPARE(readings(other), u"- |  | - | 0"_s);
     }
@@ -212,7 +202,6 @@ private Q_SLOTS:
     void duration_isShown()
     {
         const auto shown = [](qint64 seconds) { return DurationInfo(seconds).toString(); };
-        QCOMPARE(shown(0), u"0s"_s);
         QCOMPARE(shown(59), u"59s"_s);
         QCOMPARE(shown(60), u"1m 0s"_s);
         QCOMPARE(shown(3600), u"1h 0m 0s"_s);
