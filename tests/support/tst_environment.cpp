@@ -37,8 +37,8 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         Preferences::registerDefaults();
-        Defaults::remove(u"IsFirstRun"_s);
-        Defaults::remove(u"FirstLaunch"_s);
+        for (const QString &key : { u"IsFirstRun"_s, u"FirstLaunch"_s, u"Other"_s })
+            Defaults::remove(key);
         QVERIFY(!readByAnotherRun(u"IsFirstRun"_s).isValid());
     }
 

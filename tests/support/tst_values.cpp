@@ -108,6 +108,7 @@ private Q_SLOTS:
             QCOMPARE(readings(number),
                 QString::fromLatin1("- | " + QByteArrayList(3, number).join(" | ")));
         QCOMPARE(readings("1e300"), u"- | 1e+300 | - | 0"_s);
+        QCOMPARE(readings("9223372036854775808").section(u'|', 2), u" - | 0"_s);
         QCOMPARE(readings("true"), u"- | true | - | 1"_s);
         for (const char *other : { "null", "[1]", R"({"a":1})" })
             QCOMPARE(readings(other), u"- |  | - | 0"_s);
@@ -193,6 +194,7 @@ private Q_SLOTS:
         QCOMPARE(formatted(u"%2$@ %d"_s, pair), u"x 5"_s);
         QCOMPARE(formatted(u"%d%% %%d %%%d"_s, pair), u"5% %d %x"_s);
         QCOMPARE(formatted(u"%d-%@-%s-%9$d-%0$d"_s, pair), u"5-x---"_s);
+        QCOMPARE(formatted(u"%s%n%d"_s, {}), u"%n"_s);
         for (const QString &text :
             { u""_s, u"100% %n %f %*d %y"_s, u"%1$ %- %l"_s, u"%99999999999d %99999999999$d"_s })
             QCOMPARE(formatted(text, pair), text);
