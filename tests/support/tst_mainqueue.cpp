@@ -105,13 +105,13 @@ private Q_SLOTS:
 
 int main(int argc, char *argv[])
 {
-    MainQueue::post([] { TestMainQueue::earlierBlockRan = true; });
     {
         const QCoreApplication earlier(argc, argv);
         const auto held = std::make_shared<int>();
         TestMainQueue::heldByEarlierBlock = held;
         MainQueue::post([held] { TestMainQueue::earlierBlockRan = true; });
     }
+    MainQueue::post([] { TestMainQueue::earlierBlockRan = true; });
     const QCoreApplication app(argc, argv);
     TestMainQueue test;
     return QTest::qExec(&test, argc, argv);
