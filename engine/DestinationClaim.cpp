@@ -10,13 +10,16 @@
 
 namespace {
 
-std::mutex claimsMutex;
-std::condition_variable released;
+struct Claims {
+    std::mutex mutex;
+    std::condition_variable released;
+    QSet<QString> places;
+};
 
-QSet<QString> &claimed()
+Claims &claims()
 {
-    static QSet<QString> paths;
-    return paths;
+    static Claims all;
+    return all;
 }
 
 // One text for one place, however the path is spelled. The file itself need not exist.
@@ -32,12 +35,12 @@ QString place(const QString &path)
 DestinationClaim::DestinationClaim(const QString &path, const std::function<bool()> &givesUp)
     : m_path(place(path))
 {
-    std::unique_lock lock(claimsMutex);
-    while (claimed().contains(m_path) && !givesUp())
-        released.wait_for(lock, std::chrono::milliseconds(100));
-    if (claimed().contains(m_path))
+    std::unique_lock lock(claims().mutex);
+    while (claims().places.contains(m_path) && !givesUp())
+        claims().released.wait_for(lock, std::chrono::milliseconds(100));
+    if (claims().places.contains(m_path))
         return;
-    claimed().insert(m_path);
+    claims().places.insert(m_path);
     m_held = true;
 }
 
@@ -45,7 +48,7 @@ DestinationClaim::~DestinationClaim()
 {
     if (!m_held)
         return;
-    const std::lock_guard lock(claimsMutex);
-    claimed().remove(m_path);
-    released.notify_all();
+    const std::lock_guard lock(claims().mutex);
+    claims().places.remove(m_path);
+    claims().released.notify_all();
 }

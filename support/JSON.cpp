@@ -57,7 +57,8 @@ JSON JSON::operator[](const QString &key) const
 std::vector<JSON> JSON::array() const
 {
     std::vector<JSON> elements;
-    for (const auto &element : m_value.toArray())
+    const QJsonArray values = m_value.toArray();
+    for (const auto &element : values)
         elements.emplace_back(element);
     return elements;
 }

@@ -58,7 +58,7 @@ public:
     void showAboutWindow();
 
 Q_SIGNALS:
-    void uiStateChanged(WindowUIState state);
+    void uiStateChanged(AppDelegate::WindowUIState state);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -52,7 +52,8 @@ std::optional<QStringList> absolutePaths(const QByteArray &request)
     if (!document.isArray())
         return std::nullopt;
     QStringList paths;
-    for (const QJsonValueConstRef value : document.array())
+    const QJsonArray values = document.array();
+    for (const auto &value : values)
         paths.append(value.toString());
     const bool valid = std::all_of(paths.cbegin(), paths.cend(), QDir::isAbsolutePath);
     return valid ? std::optional(paths) : std::nullopt;
