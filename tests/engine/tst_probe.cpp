@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,9 @@ class TestProbe : public QObject {
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
+    // No process has so high a number.
+    QTemporaryDir m_ofKilled{ QDir::tempPath() + u"/video-converter-99999999-XXXXXX"_s };
+    QTemporaryDir m_ofLiving{ QDir::tempPath() + u"/video-converter-%1-XXXXXX"_s.arg(::getppid()) };
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -157,6 +161,8 @@ private Q_SLOTS:
         QVERIFY2(image.endsWith(u".jpg"_s), qPrintable(image));
         const QFileInfo folder(QFileInfo(image).path());
         QVERIFY(folder.isDir());
+        QVERIFY2(!QFileInfo::exists(m_ofKilled.path()), "what a killed process left is swept");
+        QVERIFY2(QFileInfo::exists(m_ofLiving.path()), "another process's covers are kept");
         QCOMPARE(folder.permissions() & QFile::Permissions(0x0077), QFile::Permissions());
         // A probe whose tool is silent for ever does not hold up the program's end.
         const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
