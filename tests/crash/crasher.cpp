@@ -18,6 +18,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 extern "C" void *__libc_malloc(std::size_t size);
@@ -138,28 +139,14 @@ int main(int argc, char **argv)
 {
     CrashReporter::start();
     const QCoreApplication application(argc, argv);
-    const std::string_view kind = argc > 1 ? argv[1] : "";
-    if (kind == "segv")
-        crashSegv();
-    else if (kind == "abort")
-        crashAbort();
-    else if (kind == "trap")
-        crashTrap();
-    else if (kind == "fpe")
-        crashFpe();
-    else if (kind == "exception")
-        crashException();
-    else if (kind == "stack")
-        return crashStack(0);
-    else if (kind == "threads")
-        crashThreads();
-    else if (kind == "malloc")
-        crashMalloc();
-    else if (kind == "locked")
-        crashLocked();
-    else if (kind == "child")
-        crashChild();
-    else
-        printState();
+    const std::pair<std::string_view, void (*)()> ways[] = { { "segv", crashSegv },
+        { "abort", crashAbort }, { "trap", crashTrap }, { "fpe", crashFpe },
+        { "exception", crashException }, { "stack", [] { crashStack(0); } },
+        { "threads", crashThreads }, { "malloc", crashMalloc }, { "locked", crashLocked },
+        { "child", crashChild }, { "none", printState } };
+    for (const auto &[name, crash] : ways) {
+        if (argc > 1 && name == argv[1])
+            crash();
+    }
     return 0;
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/fixtures/Rows.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -9,27 +11,6 @@
 #include <csignal>
 
 using namespace Qt::StringLiterals;
-
-/// Real crashes of a real child process.
-class tst_Crash : public QObject {
-    Q_OBJECT
-private Q_SLOTS:
-    void initTestCase();
-    void crash_leavesAReportAndItsSignal_data();
-    void crash_leavesAReportAndItsSignal();
-    void crash_thatCannotBeUnwoundEndsAllTheSame();
-    void forkedChild_leavesNoReport();
-    void start_leavesTheProcessAsItWas();
-
-private:
-    struct End {
-        int signal = 0;
-        int exitCode = 0;
-        QByteArray output;
-        QList<QByteArray> reports;
-    };
-    static End run(const QString &kind);
-};
 
 namespace {
 
@@ -50,94 +31,108 @@ QStringList functions(const QByteArray &report)
 
 }
 
-void tst_Crash::initTestCase()
-{
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    QSKIP("a sanitizer handles crashes itself");
-#endif
-}
+/// Real crashes of a real child process.
+class tst_Crash : public QObject {
+    Q_OBJECT
 
-tst_Crash::End tst_Crash::run(const QString &kind)
-{
-    const QTemporaryDir data;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_DATA_HOME"_s, data.filePath(u"home user"_s));
-    QProcess crasher;
-    crasher.setProcessEnvironment(environment);
-    crasher.setWorkingDirectory(data.path()); // For a core file, if any.
-    crasher.start(QStringLiteral(CRASHER), { kind, u"/home/user/Secret Film.mp4"_s });
-    End end;
-    if (!crasher.waitForFinished(20000))
+private:
+    struct End {
+        int signal = 0;
+        int exitCode = 0;
+        QByteArray output;
+        QList<QByteArray> reports;
+    };
+
+    static End run(const QString &kind)
+    {
+        const QTemporaryDir data;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_DATA_HOME"_s, data.filePath(u"home user"_s));
+        QProcess crasher;
+        crasher.setProcessEnvironment(environment);
+        crasher.setWorkingDirectory(data.path()); // For a core file, if any.
+        crasher.start(QStringLiteral(CRASHER), { kind, u"/home/user/Secret Film.mp4"_s });
+        End end;
+        if (!crasher.waitForFinished(20000))
+            return end;
+        (crasher.exitStatus() == QProcess::CrashExit ? end.signal : end.exitCode)
+            = crasher.exitCode();
+        end.output = crasher.readAllStandardOutput();
+        const QDir folder(data.filePath(u"home user/VideoConverter/crash reports"_s));
+        const auto files = folder.entryInfoList(QDir::Files);
+        for (const QFileInfo &info : files) {
+            QFile file(info.filePath());
+            if (file.open(QIODevice::ReadOnly))
+                end.reports.append(file.readAll());
+            const auto all
+                = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+            if ((QFile::permissions(folder.path()) & all) || (file.permissions() & all))
+                end.reports.append("others may read " + info.fileName().toUtf8());
+        }
         return end;
-    (crasher.exitStatus() == QProcess::CrashExit ? end.signal : end.exitCode) = crasher.exitCode();
-    end.output = crasher.readAllStandardOutput();
-    const QDir folder(data.filePath(u"home user/VideoConverter/crash reports"_s));
-    const auto files = folder.entryInfoList(QDir::Files);
-    for (const QFileInfo &info : files) {
-        QFile file(info.filePath());
-        if (file.open(QIODevice::ReadOnly))
-            end.reports.append(file.readAll());
-        const auto all
-            = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
-        if ((QFile::permissions(folder.path()) & all) || (file.permissions() & all))
-            end.reports.append("others may read " + info.fileName().toUtf8());
     }
-    return end;
-}
 
-void tst_Crash::crash_leavesAReportAndItsSignal_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QByteArray>("reason");
-    QTest::addColumn<QString>("function");
-    QTest::newRow("segv") << SIGSEGV << QByteArray("Reason: SIGSEGV") << u"crashSegv()"_s;
-    QTest::newRow("abort") << SIGABRT << QByteArray("Reason: SIGABRT") << u"crashAbort()"_s;
-    QTest::newRow("trap") << SIGILL << QByteArray("Reason: SIGILL (trap stop)") << u"crashTrap()"_s;
-    QTest::newRow("fpe") << SIGFPE << QByteArray("Reason: SIGFPE") << u"crashFpe()"_s;
-    QTest::newRow("exception") << SIGABRT << QByteArray("Uncaught exception: std::runtime_error\n")
-                               << u"crashException()"_s;
-    QTest::newRow("stack") << SIGSEGV << QByteArray("Reason: SIGSEGV") << u"crashStack(int)"_s;
-    QTest::newRow("threads") << SIGSEGV << QByteArray("Reason: SIGSEGV") << u"crashSegv()"_s;
-    QTest::newRow("malloc") << SIGSEGV << QByteArray("Reason: SIGSEGV") << u"crashMalloc()"_s;
-}
+private Q_SLOTS:
+    void initTestCase()
+    {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+        QSKIP("a sanitizer handles crashes itself");
+#endif
+    }
 
-void tst_Crash::crash_leavesAReportAndItsSignal()
-{
-    QFETCH(QByteArray, reason);
-    QFETCH(QString, function);
-    const End end = run(QString::fromLatin1(QTest::currentDataTag()));
-    QTEST(end.signal, "signal");
-    QCOMPARE(end.reports.size(), 1);
-    const QByteArray &report = end.reports.first();
-    QVERIFY2(report.contains(reason), report.constData());
-    QVERIFY2(report.contains("\nVersion: 1.") && report.contains("\nSystem: "), report.constData());
-    QVERIFY2(report.endsWith("End of report\n"), report.constData());
-    QVERIFY2(functions(report).join(u' ').contains(function), report.constData());
-    for (const char *secret : { "/home", "home user", "Secret", "user", "mp4", CRASHER, "/lib" })
-        QVERIFY2(!report.contains(secret), report.constData());
-}
+    void crash_leavesAReportAndItsSignal_data()
+    {
+        addRows<int, Utf8, Utf8>({ "signal", "reason", "function" },
+            { { "segv", SIGSEGV, "Reason: SIGSEGV", "crashSegv()" },
+                { "abort", SIGABRT, "Reason: SIGABRT", "crashAbort()" },
+                { "trap", SIGILL, "Reason: SIGILL (trap stop)", "crashTrap()" },
+                { "fpe", SIGFPE, "Reason: SIGFPE", "crashFpe()" },
+                { "exception", SIGABRT, "Uncaught exception: std::runtime_error\n",
+                    "crashException()" },
+                { "stack", SIGSEGV, "Reason: SIGSEGV", "crashStack(int)" },
+                { "threads", SIGSEGV, "Reason: SIGSEGV", "crashSegv()" },
+                { "malloc", SIGSEGV, "Reason: SIGSEGV", "crashMalloc()" } });
+    }
+    void crash_leavesAReportAndItsSignal()
+    {
+        QFETCH(QString, reason);
+        QFETCH(QString, function);
+        const End end = run(QString::fromLatin1(QTest::currentDataTag()));
+        QTEST(end.signal, "signal");
+        QCOMPARE(end.reports.size(), 1);
+        const QByteArray &report = end.reports.first();
+        QVERIFY2(report.contains(reason.toUtf8()), report.constData());
+        QVERIFY2(
+            report.contains("\nVersion: 1.") && report.contains("\nSystem: "), report.constData());
+        QVERIFY2(report.endsWith("End of report\n"), report.constData());
+        QVERIFY2(functions(report).join(u' ').contains(function), report.constData());
+        for (const char *secret :
+            { "/home", "home user", "Secret", "user", "mp4", CRASHER, "/lib" })
+            QVERIFY2(!report.contains(secret), report.constData());
+    }
 
-void tst_Crash::crash_thatCannotBeUnwoundEndsAllTheSame()
-{
-    const End end = run(u"locked"_s);
-    QCOMPARE(end.signal, SIGSEGV);
-    QCOMPARE(end.reports.size(), 1);
-    QVERIFY(end.reports[0].contains("Reason: SIGSEGV"));
-}
+    void crash_thatCannotBeUnwoundEndsAllTheSame()
+    {
+        const End end = run(u"locked"_s);
+        QCOMPARE(end.signal, SIGSEGV);
+        QCOMPARE(end.reports.size(), 1);
+        QVERIFY(end.reports[0].contains("Reason: SIGSEGV"));
+    }
 
-void tst_Crash::forkedChild_leavesNoReport()
-{
-    const End end = run(u"child"_s);
-    QCOMPARE(end.exitCode, 7);
-    QCOMPARE(end.reports, QList<QByteArray>());
-}
+    void forkedChild_leavesNoReport()
+    {
+        const End end = run(u"child"_s);
+        QCOMPARE(end.exitCode, 7);
+        QCOMPARE(end.reports, QList<QByteArray>());
+    }
 
-void tst_Crash::start_leavesTheProcessAsItWas()
-{
-    const End end = run(u"none"_s);
-    QCOMPARE(end.output, QByteArray("0 blocked, exceptions by libgcc_s.so.1\n"));
-    QCOMPARE(end.reports, QList<QByteArray>());
-}
+    void start_leavesTheProcessAsItWas()
+    {
+        const End end = run(u"none"_s);
+        QCOMPARE(end.output, QByteArray("0 blocked, exceptions by libgcc_s.so.1\n"));
+        QCOMPARE(end.reports, QList<QByteArray>());
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_Crash)
 #include "tst_crash.moc"

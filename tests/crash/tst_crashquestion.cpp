@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "crash/dialog/CrashQuestion.h"
+#include "tests/fixtures/Rows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,37 +12,31 @@ using namespace Qt::StringLiterals;
 
 class tst_CrashQuestion : public QObject {
     Q_OBJECT
+
 private Q_SLOTS:
-    void answer_isThatOfTheButton_data();
-    void answer_isThatOfTheButton();
+    void answer_isThatOfTheButton_data()
+    {
+        addRows<Utf8, SendReport>({ "button", "answer" },
+            { { "send", "Send", SendReport::Yes }, { "always", "Always Send", SendReport::Always },
+                { "don't", "Don't Send", SendReport::No }, { "escape", "", SendReport::No } });
+    }
+    void answer_isThatOfTheButton()
+    {
+        QFETCH(QString, button);
+        QTimer::singleShot(0, [button] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return; // The test then hangs in the question and is ended.
+            const auto buttons = box->buttons();
+            const auto pressed = std::ranges::find(buttons, button, &QAbstractButton::text);
+            if (pressed != buttons.end())
+                (*pressed)->click();
+            else
+                QTest::keyClick(box, Qt::Key_Escape);
+        });
+        QTEST(askToSendReport(nullptr, u"Reason: SIGSEGV\nStack:\n  0 program+0x1\n"_s), "answer");
+    }
 };
-
-void tst_CrashQuestion::answer_isThatOfTheButton_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<SendReport>("answer");
-    QTest::newRow("send") << u"Send"_s << SendReport::Yes;
-    QTest::newRow("always") << u"Always Send"_s << SendReport::Always;
-    QTest::newRow("don't") << u"Don't Send"_s << SendReport::No;
-    QTest::newRow("escape") << QString() << SendReport::No;
-}
-
-void tst_CrashQuestion::answer_isThatOfTheButton()
-{
-    QFETCH(QString, button);
-    QTimer::singleShot(0, [button] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return; // The test then hangs in the question and is ended.
-        const auto buttons = box->buttons();
-        const auto pressed = std::ranges::find(buttons, button, &QAbstractButton::text);
-        if (pressed != buttons.end())
-            (*pressed)->click();
-        else
-            QTest::keyClick(box, Qt::Key_Escape);
-    });
-    QTEST(askToSendReport(nullptr, u"Reason: SIGSEGV\nStack:\n  0 program+0x1\n"_s), "answer");
-}
 
 QTEST_MAIN(tst_CrashQuestion)
 #include "tst_crashquestion.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/fixtures/Rows.h"
 #include "ui/Color.h"
 #include "ui/ConvertPopupButton.h"
 #include "ui/DropBox.h"
@@ -106,15 +107,14 @@ private Q_SLOTS:
 
     void textField_showsThePointingHand_data()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<Qt::CursorShape>("shape");
-        QTest::newRow("the name") << QVariant(u"pointingHandCursor"_s) << Qt::PointingHandCursor;
-        QTest::newRow("other capitals") << QVariant(u"PointingHandCursor"_s) << Qt::ArrowCursor;
-        QTest::newRow("none") << QVariant() << Qt::ArrowCursor;
+        addRows<Utf8, Qt::CursorShape>({ "value", "shape" },
+            { { "the name", "pointingHandCursor", Qt::PointingHandCursor },
+                { "other capitals", "PointingHandCursor", Qt::ArrowCursor },
+                { "none", "", Qt::ArrowCursor } });
     }
     void textField_showsThePointingHand()
     {
-        QFETCH(const QVariant, value);
+        QFETCH(const QString, value);
         TextField field;
         field.setProperty("_cursor", value);
         QTEST(field.cursor().shape(), "shape");
@@ -163,16 +163,13 @@ private Q_SLOTS:
     void timeLeft_speaksWhenSteady_data()
     {
         using Speeds = QList<double>;
-        QTest::addColumn<Speeds>("speeds");
-        QTest::addColumn<int>("seconds");
         // Each speed holds for half a second; -1 stands for no estimate.
-        QTest::newRow("too early") << Speeds(5, 0.01) << -1;
-        QTest::newRow("steady") << Speeds(20, 0.01) << 40;
-        QTest::newRow("nothing moves") << Speeds(20, 0.0) << -1;
-        QTest::newRow("suddenly slower") << Speeds(10, 0.02) + Speeds(10, 0.005) << -1;
-        QTest::newRow("slower for long") << Speeds(10, 0.02) + Speeds(24, 0.005) << 70;
-        QTest::newRow("done") << Speeds(20, 0.05) << -1;
-        QTest::newRow("days") << Speeds(20, 0.000001) << -1;
+        addRows<Speeds, int>({ "speeds", "seconds" },
+            { { "too early", Speeds(5, 0.01), -1 }, { "steady", Speeds(20, 0.01), 40 },
+                { "nothing moves", Speeds(20, 0.0), -1 },
+                { "suddenly slower", Speeds(10, 0.02) + Speeds(10, 0.005), -1 },
+                { "slower for long", Speeds(10, 0.02) + Speeds(24, 0.005), 70 },
+                { "done", Speeds(20, 0.05), -1 }, { "days", Speeds(20, 0.000001), -1 } });
     }
     void timeLeft_speaksWhenSteady()
     {
@@ -190,15 +187,13 @@ private Q_SLOTS:
 
     void proposedName_isNeverTheSource_data()
     {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QString>("ext");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("other format") << u"clip.mov"_s << u"mp4"_s << u"clip"_s;
-        QTest::newRow("the source") << u"film.mp4"_s << u"mp4"_s << u"film 3"_s;
-        QTest::newRow("another film's name") << u"clip.mov"_s << u"avi"_s << u"clip"_s;
-        QTest::newRow("long") << u"123456789012345678901234567890.mp4"_s << u"mp4"_s
-                              << u"123456789012345678901234…"_s;
-        QTest::newRow("dots") << u"a.b.c.mov"_s << u"mkv"_s << u"a.b.c"_s;
+        addRows<Utf8, Utf8, Utf8>({ "source", "ext", "name" },
+            { { "other format", "clip.mov", "mp4", "clip" },
+                { "the source", "film.mp4", "mp4", "film 3" },
+                { "another film's name", "clip.mov", "avi", "clip" },
+                { "long", "123456789012345678901234567890.mp4", "mp4",
+                    "123456789012345678901234…" },
+                { "dots", "a.b.c.mov", "mkv", "a.b.c" } });
     }
     void proposedName_isNeverTheSource()
     {

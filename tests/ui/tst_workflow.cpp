@@ -8,6 +8,7 @@
 #include "tests/analytics/Collector.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
+#include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 #include "tests/ui/User.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
@@ -203,9 +204,9 @@ private Q_SLOTS:
 
     void file_arrivesOnEveryWay_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char *way : { "label", "menu", "paste", "open event", "take" })
-            QTest::newRow(way) << QString::fromLatin1(way);
+        addRows<Utf8>({ "way" },
+            { { "label", "label" }, { "menu", "menu" }, { "paste", "paste" },
+                { "open event", "open event" }, { "take", "take" } });
     }
     void file_arrivesOnEveryWay()
     {
@@ -282,11 +283,9 @@ private Q_SLOTS:
 
     void badFile_isRefused_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("folder") << u"folder.mov"_s;
-        QTest::newRow("gone") << u"gone.mov"_s;
-        QTest::newRow("empty") << u"empty.mov"_s;
-        QTest::newRow("text") << u"text.mov"_s;
+        addRows<Utf8>({ "name" },
+            { { "folder", "folder.mov" }, { "gone", "gone.mov" }, { "empty", "empty.mov" },
+                { "text", "text.mov" } });
     }
     void badFile_isRefused()
     {
@@ -382,20 +381,19 @@ private Q_SLOTS:
 
     void failure_isTold_data()
     {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<WindowUIState>("state");
-        QTest::newRow("exit status")
-            << QByteArray("sleep:50|exit:1") << u"Error processing 100%d %@.mov"_s
-            << WindowUIState::InitialState;
-        QTest::newRow("signal") << QByteArray("signal:9") << u"Error processing 100%d %@.mov"_s
-                                << WindowUIState::InitialState;
-        QTest::newRow("stopped short") << QByteArray(hundredSeconds) + "reports:10:10000|exit:0"
-                                       << QString() << WindowUIState::ConversionIsDone;
-        QTest::newRow("short after one report")
-            << QByteArray(hundredSeconds) + "print:time=00:00:05.00 bitrate\\n|sleep:50|exit:0"
-            << u"Error processing 100%d %@.mov\nThe converting progress was finished at 5s"_s
-            << WindowUIState::ConversionIsDone;
+        using State = WindowUIState;
+        addRows<QByteArray, Utf8, State>({ "script", "message", "state" },
+            { { "exit status", "sleep:50|exit:1", "Error processing 100%d %@.mov",
+                  State::InitialState },
+                { "signal", "signal:9", "Error processing 100%d %@.mov", State::InitialState },
+                { "stopped short", QByteArray(hundredSeconds) + "reports:10:10000|exit:0", "",
+                    State::ConversionIsDone },
+                { "short after one report",
+                    QByteArray(hundredSeconds)
+                        + "print:time=00:00:05.00 bitrate\\n|sleep:50|exit:0",
+                    "Error processing 100%d %@.mov\n"
+                    "The converting progress was finished at 5s",
+                    State::ConversionIsDone } });
     }
     void failure_isTold()
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/fixtures/Rows.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/FileBrowser.h"
@@ -112,211 +113,190 @@ class TestDesktopServices : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void reveal_asksFileManagerForTheFile_data();
-    void reveal_asksFileManagerForTheFile();
-    void reveal_opensFolderWithoutFileManager_data();
-    void reveal_opensFolderWithoutFileManager();
-    void keepAwake_releasesPortalRequest_data();
-    void keepAwake_releasesPortalRequest();
-    void keepAwake_fallsBackToLoginManager_data();
-    void keepAwake_fallsBackToLoginManager();
-    void launcher_tellsWholePercentagesOnce();
-    void notification_escapesTextAndReportsClick();
-    void notification_closesWhenAnswerComesLate();
-    void services_doNothingWithoutBus();
-};
-
-void TestDesktopServices::reveal_asksFileManagerForTheFile_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("uri");
-    QTest::newRow("plain") << u"/films/clip.mp4"_s << u"file:///films/clip.mp4"_s;
-    QTest::newRow("percent") << u"/films/100%d %41.mp4"_s << u"file:///films/100%25d%20%2541.mp4"_s;
-    QTest::newRow("url letters") << u"/films/a?b#c.mp4"_s << u"file:///films/a%3Fb%23c.mp4"_s;
-    QTest::newRow("line end") << u"/films/new\nline.mp4"_s << u"file:///films/new%0Aline.mp4"_s;
-    QTest::newRow("two slashes") << u"//films/clip.mp4"_s << u"file:///films/clip.mp4"_s;
-    QTest::newRow("umlaut") << u"/films/\u00fc.mp4"_s << u"file:///films/%C3%BC.mp4"_s;
-}
-
-void TestDesktopServices::reveal_asksFileManagerForTheFile()
-{
-    QFETCH(QString, path);
-    FolderOpener opener;
-    DesktopStandIn desktop;
-    QVERIFY(desktop.offer(fileManager));
-    desktop.answer(u"ShowItems"_s, {});
-    FileBrowser::reveal(path);
-    QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
-    const QVariantList arguments = desktop.calls(u"ShowItems"_s).constFirst().arguments();
-    QTEST(arguments.value(0).toStringList().join(u' '), "uri");
-    QCOMPARE(opener.folders, QStringList());
-}
-
-void TestDesktopServices::reveal_opensFolderWithoutFileManager_data()
-{
-    QTest::addColumn<bool>("offered");
-    QTest::newRow("absent") << false;
-    QTest::newRow("failing") << true;
-}
-
-void TestDesktopServices::reveal_opensFolderWithoutFileManager()
-{
-    QFETCH(bool, offered);
-    FolderOpener opener;
-    DesktopStandIn desktop;
-    const QDBusConnectionInterface *bus = QDBusConnection::sessionBus().interface();
-    if (!offered && bus->activatableServiceNames().value().contains(fileManager))
-        QSKIP("this machine would start its own file manager");
-    QVERIFY(!offered || desktop.offer(fileManager));
-    FileBrowser::reveal(u"/films/100%d/clip.mp4"_s);
-    QTRY_COMPARE(opener.folders, QStringList(u"/films/100%d"_s));
-}
-
-void TestDesktopServices::keepAwake_releasesPortalRequest_data()
-{
-    QTest::addColumn<bool>("stoppedBeforeTheAnswer");
-    QTest::newRow("after the answer") << false;
-    QTest::newRow("before the answer") << true;
-}
-
-void TestDesktopServices::keepAwake_releasesPortalRequest()
-{
-    QFETCH(bool, stoppedBeforeTheAnswer);
-    const QString request = u"/org/freedesktop/portal/desktop/request/1/t"_s;
-    DesktopStandIn desktop;
-    QVERIFY(desktop.offer(portal));
-    desktop.answer(u"Inhibit"_s, { QVariant::fromValue(QDBusObjectPath(request)) });
-    desktop.answer(u"Close"_s, {});
-    if (stoppedBeforeTheAnswer)
-        desktop.hold();
-    KeepAwake awake;
-    awake.start(u"Converting"_s);
-    QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-    QCOMPARE(desktop.calls(u"Inhibit"_s).constFirst().arguments().value(1), QVariant(4U | 8U));
-    QVERIFY(desktop.calls(u"Close"_s).isEmpty());
-    awake.stop();
-    desktop.release();
-    QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
-    QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), request);
-}
-
-void TestDesktopServices::keepAwake_fallsBackToLoginManager_data()
-{
-    keepAwake_releasesPortalRequest_data();
-}
-
-void TestDesktopServices::keepAwake_fallsBackToLoginManager()
-{
-    QFETCH(bool, stoppedBeforeTheAnswer);
-    Leash leash;
-    DesktopStandIn desktop;
-    QVERIFY(desktop.offer(portal)); // has no inhibitor: answers with an error
-    QVERIFY(desktop.offer(loginManager));
-    KeepAwake awake;
-    desktop.hold();
-    awake.start(u"Converting"_s);
-    QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-    desktop.release();
-    desktop.hold();
-    QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 2);
-    desktop.answer(u"Inhibit"_s, { QVariant::fromValue(leash.takeEnd()) });
-    QCOMPARE(
-        desktop.calls(u"Inhibit"_s).constLast().arguments().value(0), QVariant(u"sleep:idle"_s));
-    if (stoppedBeforeTheAnswer)
-        awake.stop();
-    desktop.release();
-    desktop.answer(u"Inhibit"_s, {}); // from here on only the program holds the end
-    QTest::qWait(0);
-    if (!stoppedBeforeTheAnswer)
-        QVERIFY(leash.isHeld());
-    awake.stop();
-    QTRY_VERIFY(!leash.isHeld());
-}
-
-void TestDesktopServices::launcher_tellsWholePercentagesOnce()
-{
-    LauncherRecorder recorder;
-    QVERIFY(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"task bar"_s)
-                .connect({}, {}, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s, &recorder,
-                    SLOT(update(QString, QVariantMap))));
+    void reveal_asksFileManagerForTheFile_data()
     {
-        LauncherProgress launcher;
-        launcher.clear();
-        for (int step = -10; step <= 2000; ++step)
-            launcher.show(step / 1000.0);
-        launcher.show(qQNaN());
-        launcher.finish();
+        addRows<Utf8, Utf8>({ "path", "uri" },
+            { { "plain", "/films/clip.mp4", "file:///films/clip.mp4" },
+                { "percent", "/films/100%d %41.mp4", "file:///films/100%25d%20%2541.mp4" },
+                { "url letters", "/films/a?b#c.mp4", "file:///films/a%3Fb%23c.mp4" },
+                { "line end", "/films/new\nline.mp4", "file:///films/new%0Aline.mp4" },
+                { "two slashes", "//films/clip.mp4", "file:///films/clip.mp4" },
+                { "umlaut", "/films/\u00fc.mp4", "file:///films/%C3%BC.mp4" } });
     }
-    QTRY_COMPARE(recorder.updates.size(), 104); // 0 to 100 %, unknown, finished, cleared
-    QCOMPARE(recorder.programs.constFirst(), u"application://org.example.VideoConverter.desktop"_s);
-    const auto properties = [](double progress, bool visible, bool urgent) {
-        return QVariantMap{ { u"progress"_s, progress }, { u"progress-visible"_s, visible },
-            { u"urgent"_s, urgent } };
-    };
-    QCOMPARE(recorder.updates.value(0), properties(0, true, false));
-    QCOMPARE(recorder.updates.value(57), properties(0.57, true, false));
-    QCOMPARE(recorder.updates.value(100), properties(1, true, false));
-    QCOMPARE(recorder.updates.value(102), properties(0, false, true));
-    QCOMPARE(recorder.updates.value(103), properties(0, false, false));
-    QDBusConnection::disconnectFromBus(u"task bar"_s);
-}
+    void reveal_asksFileManagerForTheFile()
+    {
+        QFETCH(QString, path);
+        FolderOpener opener;
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(fileManager));
+        desktop.answer(u"ShowItems"_s, {});
+        FileBrowser::reveal(path);
+        QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
+        const QVariantList arguments = desktop.calls(u"ShowItems"_s).constFirst().arguments();
+        QTEST(arguments.value(0).toStringList().join(u' '), "uri");
+        QCOMPARE(opener.folders, QStringList());
+    }
 
-void TestDesktopServices::notification_escapesTextAndReportsClick()
-{
-    DesktopStandIn desktop;
-    QVERIFY(desktop.offer(notifications));
-    desktop.answer(u"Notify"_s, { 42U });
-    DesktopNotification notification;
-    int clicks = 0;
-    connect(&notification, &DesktopNotification::activated, this, [&clicks] { ++clicks; });
-    notification.show(u"Done"_s, u"<b>100%d</b> & \"x\".mp4"_s);
-    QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
-    const QVariantList arguments = desktop.calls(u"Notify"_s).constFirst().arguments();
-    QCOMPARE(arguments.value(4).toString(), u"&lt;b&gt;100%d&lt;/b&gt; &amp; &quot;x&quot;.mp4"_s);
-    QCOMPARE(arguments.value(5).toStringList().value(0), u"default"_s);
+    void reveal_opensFolderWithoutFileManager_data()
+    {
+        addRows<bool>({ "offered" }, { { "absent", false }, { "failing", true } });
+    }
+    void reveal_opensFolderWithoutFileManager()
+    {
+        QFETCH(bool, offered);
+        FolderOpener opener;
+        DesktopStandIn desktop;
+        const QDBusConnectionInterface *bus = QDBusConnection::sessionBus().interface();
+        if (!offered && bus->activatableServiceNames().value().contains(fileManager))
+            QSKIP("this machine would start its own file manager");
+        QVERIFY(!offered || desktop.offer(fileManager));
+        FileBrowser::reveal(u"/films/100%d/clip.mp4"_s);
+        QTRY_COMPARE(opener.folders, QStringList(u"/films/100%d"_s));
+    }
 
-    const auto click = [&desktop](uint id, const QString &action) {
-        QDBusMessage signal
-            = QDBusMessage::createSignal(notificationsPath, notifications, u"ActionInvoked"_s);
-        signal << id << action;
-        desktop.send(signal);
-    };
-    click(41, u"default"_s);
-    click(42, u"other"_s);
-    click(42, u"default"_s);
-    QTRY_COMPARE(clicks, 1);
-    notification.show(u"Done"_s, u"next.mp4"_s);
-    QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 2);
-    QCOMPARE(desktop.calls(u"Notify"_s).constLast().arguments().value(1), QVariant(42U));
-}
+    void keepAwake_releasesPortalRequest_data()
+    {
+        addRows<bool>({ "stoppedBeforeTheAnswer" },
+            { { "after the answer", false }, { "before the answer", true } });
+    }
+    void keepAwake_releasesPortalRequest()
+    {
+        QFETCH(bool, stoppedBeforeTheAnswer);
+        const QString request = u"/org/freedesktop/portal/desktop/request/1/t"_s;
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(portal));
+        desktop.answer(u"Inhibit"_s, { QVariant::fromValue(QDBusObjectPath(request)) });
+        desktop.answer(u"Close"_s, {});
+        if (stoppedBeforeTheAnswer)
+            desktop.hold();
+        KeepAwake awake;
+        awake.start(u"Converting"_s);
+        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
+        QCOMPARE(desktop.calls(u"Inhibit"_s).constFirst().arguments().value(1), QVariant(4U | 8U));
+        QVERIFY(desktop.calls(u"Close"_s).isEmpty());
+        awake.stop();
+        desktop.release();
+        QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
+        QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), request);
+    }
 
-void TestDesktopServices::notification_closesWhenAnswerComesLate()
-{
-    DesktopStandIn desktop;
-    QVERIFY(desktop.offer(notifications));
-    desktop.answer(u"Notify"_s, { 7U });
-    desktop.hold();
-    DesktopNotification notification;
-    notification.show(u"Done"_s, u"clip.mp4"_s);
-    QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
-    notification.close();
-    desktop.release();
-    QTRY_COMPARE(desktop.calls(u"CloseNotification"_s).size(), 1);
-    QCOMPARE(desktop.calls(u"CloseNotification"_s).constFirst().arguments().value(0), QVariant(7U));
-}
+    void keepAwake_fallsBackToLoginManager_data() { keepAwake_releasesPortalRequest_data(); }
+    void keepAwake_fallsBackToLoginManager()
+    {
+        QFETCH(bool, stoppedBeforeTheAnswer);
+        Leash leash;
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(portal)); // has no inhibitor: answers with an error
+        QVERIFY(desktop.offer(loginManager));
+        KeepAwake awake;
+        desktop.hold();
+        awake.start(u"Converting"_s);
+        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
+        desktop.release();
+        desktop.hold();
+        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 2);
+        desktop.answer(u"Inhibit"_s, { QVariant::fromValue(leash.takeEnd()) });
+        QCOMPARE(desktop.calls(u"Inhibit"_s).constLast().arguments().value(0),
+            QVariant(u"sleep:idle"_s));
+        if (stoppedBeforeTheAnswer)
+            awake.stop();
+        desktop.release();
+        desktop.answer(u"Inhibit"_s, {}); // from here on only the program holds the end
+        QTest::qWait(0);
+        if (!stoppedBeforeTheAnswer)
+            QVERIFY(leash.isHeld());
+        awake.stop();
+        QTRY_VERIFY(!leash.isHeld());
+    }
 
-void TestDesktopServices::services_doNothingWithoutBus()
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
-    environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(QCoreApplication::applicationFilePath(), { u"--without-bus"_s });
-    QVERIFY(program.waitForFinished());
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), 7);
-}
+    void launcher_tellsWholePercentagesOnce()
+    {
+        LauncherRecorder recorder;
+        QVERIFY(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"task bar"_s)
+                    .connect({}, {}, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s, &recorder,
+                        SLOT(update(QString, QVariantMap))));
+        {
+            LauncherProgress launcher;
+            launcher.clear();
+            for (int step = -10; step <= 2000; ++step)
+                launcher.show(step / 1000.0);
+            launcher.show(qQNaN());
+            launcher.finish();
+        }
+        QTRY_COMPARE(recorder.updates.size(), 104); // 0 to 100 %, unknown, finished, cleared
+        QCOMPARE(
+            recorder.programs.constFirst(), u"application://org.example.VideoConverter.desktop"_s);
+        const auto properties = [](double progress, bool visible, bool urgent) {
+            return QVariantMap{ { u"progress"_s, progress }, { u"progress-visible"_s, visible },
+                { u"urgent"_s, urgent } };
+        };
+        QCOMPARE(recorder.updates.value(0), properties(0, true, false));
+        QCOMPARE(recorder.updates.value(57), properties(0.57, true, false));
+        QCOMPARE(recorder.updates.value(100), properties(1, true, false));
+        QCOMPARE(recorder.updates.value(102), properties(0, false, true));
+        QCOMPARE(recorder.updates.value(103), properties(0, false, false));
+        QDBusConnection::disconnectFromBus(u"task bar"_s);
+    }
+
+    void notification_escapesTextAndReportsClick()
+    {
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(notifications));
+        desktop.answer(u"Notify"_s, { 42U });
+        DesktopNotification notification;
+        int clicks = 0;
+        connect(&notification, &DesktopNotification::activated, this, [&clicks] { ++clicks; });
+        notification.show(u"Done"_s, u"<b>100%d</b> & \"x\".mp4"_s);
+        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
+        const QVariantList arguments = desktop.calls(u"Notify"_s).constFirst().arguments();
+        QCOMPARE(
+            arguments.value(4).toString(), u"&lt;b&gt;100%d&lt;/b&gt; &amp; &quot;x&quot;.mp4"_s);
+        QCOMPARE(arguments.value(5).toStringList().value(0), u"default"_s);
+
+        const auto click = [&desktop](uint id, const QString &action) {
+            QDBusMessage signal
+                = QDBusMessage::createSignal(notificationsPath, notifications, u"ActionInvoked"_s);
+            signal << id << action;
+            desktop.send(signal);
+        };
+        click(41, u"default"_s);
+        click(42, u"other"_s);
+        click(42, u"default"_s);
+        QTRY_COMPARE(clicks, 1);
+        notification.show(u"Done"_s, u"next.mp4"_s);
+        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 2);
+        QCOMPARE(desktop.calls(u"Notify"_s).constLast().arguments().value(1), QVariant(42U));
+    }
+
+    void notification_closesWhenAnswerComesLate()
+    {
+        DesktopStandIn desktop;
+        QVERIFY(desktop.offer(notifications));
+        desktop.answer(u"Notify"_s, { 7U });
+        desktop.hold();
+        DesktopNotification notification;
+        notification.show(u"Done"_s, u"clip.mp4"_s);
+        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
+        notification.close();
+        desktop.release();
+        QTRY_COMPARE(desktop.calls(u"CloseNotification"_s).size(), 1);
+        QCOMPARE(
+            desktop.calls(u"CloseNotification"_s).constFirst().arguments().value(0), QVariant(7U));
+    }
+
+    void services_doNothingWithoutBus()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QCoreApplication::applicationFilePath(), { u"--without-bus"_s });
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 7);
+    }
+};
 
 int main(int argc, char *argv[])
 {

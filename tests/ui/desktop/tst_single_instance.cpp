@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/fixtures/Rows.h"
 #include "ui/desktop/SingleInstance.h"
 
 #include <QCoreApplication>
@@ -89,149 +90,136 @@ const QStringList handedOver{ u"handed over"_s };
 class TestSingleInstance : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void secondStart_handsFilesOver_data();
-    void secondStart_handsFilesOver();
-    void secondStart_onOtherDisplayRuns();
-    void secondStart_recoversFromKilledInstance();
-    void secondStart_doesNotWaitForHangingInstance();
-    void startsAtOnce_leaveOneRunning();
-    void start_withoutPrivateFolderIsOnItsOwn();
-    void hostilePeer_isDropped_data();
-    void hostilePeer_isDropped();
-
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
     Place m_place;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_place = { .runtimeFolder = m_folder->path(), .temporaryFolder = m_folder->path() };
+    }
+
+    void secondStart_handsFilesOver_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QString>("received");
+        QTest::newRow("none") << QStringList() << QString();
+        QTest::newRow("absolute") << QStringList{ u"/films/a.mp4"_s, u"/films/b.mp4"_s }
+                                  << u"/films/a.mp4|/films/b.mp4"_s;
+        QTest::newRow("relative") << QStringList{ u"a.mp4"_s } << u"%1/a.mp4"_s;
+        QTest::newRow("odd") << QStringList{ u"/f/new\nline \u00fc\"%d.mp4"_s }
+                             << u"/f/new$line \u00fc\"%d.mp4"_s;
+    }
+    void secondStart_handsFilesOver()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QString, received);
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        Instance second(m_place, files);
+        QTRY_COMPARE(second.lines(), handedOver);
+        QTRY_COMPARE(first.lines().value(1),
+            u"received "_s + received.replace(u"%1"_s, QDir::currentPath()));
+        QTRY_COMPARE(second.process.state(), QProcess::NotRunning);
+        QCOMPARE(second.process.exitCode(), 0);
+    }
+
+    void secondStart_onOtherDisplayRuns()
+    {
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        m_place.display = u":2"_s;
+        Instance second(m_place, { u"/films/a.mp4"_s });
+        QTRY_COMPARE(second.lines(), running);
+        QCOMPARE(first.lines(), running);
+    }
+
+    void secondStart_recoversFromKilledInstance()
+    {
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        first.signal(SIGKILL);
+        QVERIFY(first.process.waitForFinished());
+        Instance second(m_place);
+        QTRY_COMPARE(second.lines(), running);
+        Instance third(m_place, { u"/films/a.mp4"_s });
+        QTRY_COMPARE(third.lines(), handedOver);
+        QTRY_COMPARE(second.lines().value(1), u"received /films/a.mp4"_s);
+    }
+
+    void secondStart_doesNotWaitForHangingInstance()
+    {
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        first.signal(SIGSTOP);
+        QElapsedTimer timer;
+        timer.start();
+        Instance second(m_place, { u"/films/a.mp4"_s });
+        QTRY_COMPARE(second.lines(), running);
+        QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
+        first.signal(SIGCONT);
+        Instance third(m_place, { u"/films/b.mp4"_s });
+        QTRY_COMPARE(third.lines(), handedOver);
+    }
+
+    void startsAtOnce_leaveOneRunning()
+    {
+        std::vector<std::unique_ptr<Instance>> instances;
+        for (int number = 0; number < 4; ++number)
+            instances.push_back(std::make_unique<Instance>(m_place));
+        for (const auto &instance : instances)
+            QTRY_VERIFY(!instance->lines().isEmpty());
+        const auto count
+            = std::count_if(instances.cbegin(), instances.cend(), [](const auto &instance) {
+                  return instance->lines().value(0) == running.constFirst();
+              });
+        QCOMPARE(count, 1);
+    }
+
+    void start_withoutPrivateFolderIsOnItsOwn()
+    {
+        const QFile::Permissions everybody = QFile::Permissions::fromInt(0x7777);
+        const QString user = QString::fromLocal8Bit(::getpwuid(::geteuid())->pw_name);
+        m_place.temporaryFolder = m_folder->filePath(u"tmp"_s);
+        const QString substitute = m_place.temporaryFolder + "/runtime-"_L1 + user;
+        QVERIFY(QDir().mkpath(substitute) && QFile::setPermissions(substitute, everybody));
+        QVERIFY(QFile::setPermissions(m_place.runtimeFolder, everybody));
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        Instance second(m_place);
+        QTRY_COMPARE(second.lines(), running);
+    }
+
+    void hostilePeer_isDropped_data()
+    {
+        addRows<QByteArray>({ "request" },
+            { { "nonsense", QByteArray("\x00\xff\xfe nonsense\n", 13) }, { "empty line", "\n" },
+                { "object", "{\"a\":1}\n" }, { "numbers", "[1,2]\n" },
+                { "relative path", "[\"/films/a.mp4\",\"b.mp4\"]\n" },
+                { "deep", QByteArray(100000, '[') + '\n' },
+                { "too long", QByteArray((1 << 20) + 2, 'x') } });
+    }
+    void hostilePeer_isDropped()
+    {
+        QFETCH(QByteArray, request);
+        Instance first(m_place);
+        QTRY_COMPARE(first.lines(), running);
+        const QStringList sockets
+            = QDir(m_folder->path()).entryList({ u"video-converter-*"_s }, QDir::System);
+        QCOMPARE(sockets.size(), 1);
+        QLocalSocket peer;
+        peer.connectToServer(m_folder->filePath(sockets.constFirst()));
+        QVERIFY(peer.waitForConnected());
+        peer.write(request);
+        QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
+        QCOMPARE(peer.readAll(), QByteArray());
+        Instance second(m_place, { u"/films/a.mp4"_s });
+        QTRY_COMPARE(second.lines(), handedOver);
+        QTRY_COMPARE(first.lines().value(1), u"received /films/a.mp4"_s);
+    }
 };
-
-void TestSingleInstance::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_place = { .runtimeFolder = m_folder->path(), .temporaryFolder = m_folder->path() };
-}
-
-void TestSingleInstance::secondStart_handsFilesOver_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("received");
-    QTest::newRow("none") << QStringList() << QString();
-    QTest::newRow("absolute") << QStringList{ u"/films/a.mp4"_s, u"/films/b.mp4"_s }
-                              << u"/films/a.mp4|/films/b.mp4"_s;
-    QTest::newRow("relative") << QStringList{ u"a.mp4"_s } << u"%1/a.mp4"_s;
-    QTest::newRow("odd") << QStringList{ u"/f/new\nline \u00fc\"%d.mp4"_s }
-                         << u"/f/new$line \u00fc\"%d.mp4"_s;
-}
-
-void TestSingleInstance::secondStart_handsFilesOver()
-{
-    QFETCH(QStringList, files);
-    QFETCH(QString, received);
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    Instance second(m_place, files);
-    QTRY_COMPARE(second.lines(), handedOver);
-    QTRY_COMPARE(
-        first.lines().value(1), u"received "_s + received.replace(u"%1"_s, QDir::currentPath()));
-    QTRY_COMPARE(second.process.state(), QProcess::NotRunning);
-    QCOMPARE(second.process.exitCode(), 0);
-}
-
-void TestSingleInstance::secondStart_onOtherDisplayRuns()
-{
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    m_place.display = u":2"_s;
-    Instance second(m_place, { u"/films/a.mp4"_s });
-    QTRY_COMPARE(second.lines(), running);
-    QCOMPARE(first.lines(), running);
-}
-
-void TestSingleInstance::secondStart_recoversFromKilledInstance()
-{
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    first.signal(SIGKILL);
-    QVERIFY(first.process.waitForFinished());
-    Instance second(m_place);
-    QTRY_COMPARE(second.lines(), running);
-    Instance third(m_place, { u"/films/a.mp4"_s });
-    QTRY_COMPARE(third.lines(), handedOver);
-    QTRY_COMPARE(second.lines().value(1), u"received /films/a.mp4"_s);
-}
-
-void TestSingleInstance::secondStart_doesNotWaitForHangingInstance()
-{
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    first.signal(SIGSTOP);
-    QElapsedTimer timer;
-    timer.start();
-    Instance second(m_place, { u"/films/a.mp4"_s });
-    QTRY_COMPARE(second.lines(), running);
-    QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
-    first.signal(SIGCONT);
-    Instance third(m_place, { u"/films/b.mp4"_s });
-    QTRY_COMPARE(third.lines(), handedOver);
-}
-
-void TestSingleInstance::startsAtOnce_leaveOneRunning()
-{
-    std::vector<std::unique_ptr<Instance>> instances;
-    for (int number = 0; number < 4; ++number)
-        instances.push_back(std::make_unique<Instance>(m_place));
-    for (const auto &instance : instances)
-        QTRY_VERIFY(!instance->lines().isEmpty());
-    const auto count = std::count_if(instances.cbegin(), instances.cend(),
-        [](const auto &instance) { return instance->lines().value(0) == running.constFirst(); });
-    QCOMPARE(count, 1);
-}
-
-void TestSingleInstance::start_withoutPrivateFolderIsOnItsOwn()
-{
-    const QFile::Permissions everybody = QFile::Permissions::fromInt(0x7777);
-    const QString user = QString::fromLocal8Bit(::getpwuid(::geteuid())->pw_name);
-    m_place.temporaryFolder = m_folder->filePath(u"tmp"_s);
-    const QString substitute = m_place.temporaryFolder + "/runtime-"_L1 + user;
-    QVERIFY(QDir().mkpath(substitute) && QFile::setPermissions(substitute, everybody));
-    QVERIFY(QFile::setPermissions(m_place.runtimeFolder, everybody));
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    Instance second(m_place);
-    QTRY_COMPARE(second.lines(), running);
-}
-
-void TestSingleInstance::hostilePeer_isDropped_data()
-{
-    QTest::addColumn<QByteArray>("request");
-    QTest::newRow("nonsense") << QByteArray("\x00\xff\xfe nonsense\n", 13);
-    QTest::newRow("empty line") << QByteArray("\n");
-    QTest::newRow("object") << QByteArray("{\"a\":1}\n");
-    QTest::newRow("numbers") << QByteArray("[1,2]\n");
-    QTest::newRow("relative path") << QByteArray("[\"/films/a.mp4\",\"b.mp4\"]\n");
-    QTest::newRow("deep") << QByteArray(100000, '[') + '\n';
-    QTest::newRow("too long") << QByteArray((1 << 20) + 2, 'x');
-}
-
-void TestSingleInstance::hostilePeer_isDropped()
-{
-    QFETCH(QByteArray, request);
-    Instance first(m_place);
-    QTRY_COMPARE(first.lines(), running);
-    const QStringList sockets
-        = QDir(m_folder->path()).entryList({ u"video-converter-*"_s }, QDir::System);
-    QCOMPARE(sockets.size(), 1);
-    QLocalSocket peer;
-    peer.connectToServer(m_folder->filePath(sockets.constFirst()));
-    QVERIFY(peer.waitForConnected());
-    peer.write(request);
-    QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
-    QCOMPARE(peer.readAll(), QByteArray());
-    Instance second(m_place, { u"/films/a.mp4"_s });
-    QTRY_COMPARE(second.lines(), handedOver);
-    QTRY_COMPARE(first.lines().value(1), u"received /films/a.mp4"_s);
-}
 
 int main(int argc, char *argv[])
 {
