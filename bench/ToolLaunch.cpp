@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the sandbox adds to a run: the same small tool, started as the engine starts it and without the sandbox, alternating.
-// Usage: bench-tool-launch FOLDER. Prints the medians of both in milliseconds.
+// What the sandbox adds to a run: the same small tool, started as the engine starts it and without
+// the sandbox, alternating. Usage: bench-tool-launch FOLDER. Prints the medians of both in
+// milliseconds.
 #include "engine/Task.h"
 #include "support/Bundle.h"
 #include "support/Console.h"
@@ -30,7 +31,7 @@ qint64 confinedRun(const QString &tool, const QString &folder)
     clock.start();
     Task task;
     task.setLaunchPath(tool);
-    task.setAccess({{tool}, {folder}});
+    task.setAccess({ { tool }, { folder } });
     task.tryLaunch();
     (void)task.readDataToEndOfFile();
     return clock.nsecsElapsed();
@@ -42,7 +43,7 @@ qint64 plainRun(const QString &tool)
     clock.start();
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.setChildProcessModifier([] { });
+    process.setChildProcessModifier([] {});
     process.start(tool, {});
     process.waitForFinished();
     return clock.nsecsElapsed();

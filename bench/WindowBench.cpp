@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Drives the real window inside this process. Usage: bench-window cover FILM | bench-window progress FILM FOLDER
+// Drives the real window inside this process. Usage: bench-window cover FILM | bench-window
+// progress FILM FOLDER
 //   cover     prints the milliseconds from the arrival of a film to its painted cover
-//   progress  converts with whatever tool the bundle has; prints the longest stall of the event loop in milliseconds and the
+//   progress  converts with whatever tool the bundle has; prints the longest stall of the event
+//   loop in milliseconds and the
 //             share of one core that the process used
 #include "engine/FFMPEG.h"
 #include "support/Console.h"
@@ -50,7 +52,7 @@ void takeFilm(AppDelegate &delegate, const QString &film)
 {
     PaintWatch watch;
     auto *cover = delegate.window()->findChild<QWidget *>(u"movieCoverImageView"_s);
-    delegate.takeFiles({film});
+    delegate.takeFiles({ film });
     spinUntil([&] { return delegate.uiState() == WindowUIState::CoverIsSet; });
     cover->installEventFilter(&watch);
     spinUntil([&] { return watch.painted; });
@@ -74,7 +76,8 @@ void measureProgress(AppDelegate &delegate)
     QTimer ticks;
     QElapsedTimer sinceTick;
     qint64 longest = 0;
-    QObject::connect(&ticks, &QTimer::timeout, [&] { longest = std::max(longest, sinceTick.restart()); });
+    QObject::connect(
+        &ticks, &QTimer::timeout, [&] { longest = std::max(longest, sinceTick.restart()); });
     sinceTick.start();
     // Often enough to see the stalls that matter: each tick is work of the measured process too.
     ticks.start(std::chrono::milliseconds(5));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// The platform's own updater in place of ours: schedule, dialogs, signatures and installation are its own.
-/// Thread: the main one.
+/// The platform's own updater in place of ours: schedule, dialogs, signatures and installation are
+/// its own. Thread: the main one.
 namespace PlatformUpdater {
 
 void start();
