@@ -12,7 +12,8 @@ namespace Color {
     const auto component = [](quint8 value) {
         if (value == 0)
             qFatal("a colour component of 0 can't be inverted");
-        return static_cast<float>(1 / value);
+        const quint8 inverted = 1 / value;
+        return static_cast<float>(inverted);
     };
     return QColor::fromRgbF(component(r), component(g), component(b), 1.0F);
 }

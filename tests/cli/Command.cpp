@@ -16,7 +16,7 @@ constexpr unsigned nobody = 65534;
 
 QString copiedProgram()
 {
-    const QString copy = Bundle::main().bundlePath() + u"/Contents/MacOS/video-converter-cli"_s;
+    QString copy = Bundle::main().bundlePath() + u"/Contents/MacOS/video-converter-cli"_s;
     QFile::remove(copy);
     if (!QFile::copy(QStringLiteral(VC_CLI_PROGRAM), copy))
         qFatal("The program can't be copied to %s", qPrintable(copy));

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A film of 100 s, converted in about 2 s.
-const QByteArray slowTool = "print:  Duration: 00:01:40.00, start: 0\\n|output|reports:100:20000";
+constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|output|reports:100:20000";
 
 }
 
@@ -78,8 +78,8 @@ private Q_SLOTS:
         const auto process = m_command.start(u"convert --to FLV film.mov -o bar.flv"_s, {},
             [master] { ::dup2(::open(::ptsname(master), O_RDWR | O_NOCTTY), STDOUT_FILENO); });
         QCOMPARE(Command::wait(*process).exitCode, 0);
-        QByteArray screen(64 * 1024, '\0');
-        screen.resize(std::max<ssize_t>(0, ::read(master, screen.data(), 64 * 1024)));
+        QByteArray screen(65536, '\0');
+        screen.resize(std::max<ssize_t>(0, ::read(master, screen.data(), 65536)));
         ::close(master);
         const QList<QByteArray> frames = screen.split('\r');
         QVERIFY2(frames.size() > 5, screen.constData());

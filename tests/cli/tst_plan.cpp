@@ -34,7 +34,8 @@ private Q_SLOTS:
         const QString text = m_command.run(u"formats"_s).out;
         const QByteArray json = m_command.run(u"formats --json"_s).out.toUtf8();
         QStringList names;
-        for (const QJsonValue &entry : QJsonDocument::fromJson(json).array())
+        const QJsonArray entries = QJsonDocument::fromJson(json).array();
+        for (const auto &entry : entries)
             names << entry[u"name"_s].toString();
         QCOMPARE(names, entryNames());
         for (const QString &name : names)

@@ -23,7 +23,7 @@ private Q_SLOTS:
     void answer_isThatOfTheButton()
     {
         QFETCH(QString, button);
-        QTimer::singleShot(0, [button] {
+        QTimer::singleShot(0, this, [button] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box)
                 return; // The test then hangs in the question and is ended.

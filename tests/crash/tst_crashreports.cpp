@@ -160,7 +160,7 @@ private Q_SLOTS:
     void session_tellsHowTheLastOneEnded()
     {
         Defaults::setValue(u"CrashReportsAlwaysSend"_s, true);
-        for (const QByteArray event : { "no clean end", "clean end" }) {
+        for (const QByteArray &event : QByteArrayList{ "no clean end", "clean end" }) {
             m_server->bodies.clear();
             SessionEvents first;
             first.begin();

@@ -135,7 +135,7 @@ private Q_SLOTS:
 
         row("audio", "", u"-f mp3"_s);
         row("GIF", "", gif);
-        for (const QByteArray none : { "", R"({"codec_type":"data"},{"codec_type":"subtitle"})",
+        for (const char *none : { "", R"({"codec_type":"data"},{"codec_type":"subtitle"})",
                  R"({"codec_type":"Video"})", R"({"codec_type":["video"]})" })
             row("MP4", none, tail.sliced(1));
 

@@ -105,9 +105,10 @@ private Q_SLOTS:
 
     void doNotTrack_isObeyed()
     {
-        for (const QByteArray value : { "1", "true", "0", "" }) {
+        for (const auto &[value, obeyed] : std::initializer_list<std::pair<const char *, bool>>{
+                 { "1", true }, { "true", true }, { "0", false }, { "", false } }) {
             qputenv("DO_NOT_TRACK", value);
-            QCOMPARE(Configuration::doNotTrack(), value == "1" || value == "true");
+            QCOMPARE(Configuration::doNotTrack(), obeyed);
         }
         qunsetenv("DO_NOT_TRACK");
     }
@@ -162,8 +163,8 @@ private Q_SLOTS:
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    if (app.arguments().value(1) == u"--print-bundle") {
+    const QCoreApplication app(argc, argv);
+    if (QCoreApplication::arguments().value(1) == u"--print-bundle") {
         std::fputs(qPrintable(Bundle::main().bundlePath()), stdout);
         return 0;
     }

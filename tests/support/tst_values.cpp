@@ -104,7 +104,7 @@ private Q_SLOTS:
         QCOMPARE(readings("0"), u"- | 0 | 0 | 0"_s);
         QCOMPARE(readings("29.97"), u"- | 29.97 | 29 | 29"_s);
         QCOMPARE(readings("-1.9"), u"- | -1.9 | -1 | -1"_s);
-        for (const QByteArray number : { "9007199254740993", "9223372036854775807" })
+        for (const char *number : { "9007199254740993", "9223372036854775807" })
             QCOMPARE(readings(number),
                 QString::fromLatin1("- | " + QByteArrayList(3, number).join(" | ")));
         QCOMPARE(readings("1e300"), u"- | 1e+300 | - | 0"_s);

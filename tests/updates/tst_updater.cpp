@@ -47,7 +47,7 @@ struct Keys {
     QByteArray secretKey = QByteArray(crypto_sign_SECRETKEYBYTES, '\0');
 };
 
-const QByteArray package = "the new package";
+constexpr char package[] = "the new package";
 
 Answer feed(const QByteArray &items)
 {
@@ -249,7 +249,7 @@ private Q_SLOTS:
             { { "rightly signed", { .body = package }, "saved" },
                 { "redirected once", redirection("/moved"), "saved" },
                 { "one byte changed", { .body = "the new packagf" }, "forged" },
-                { "one byte more", { .body = package + "\n" }, "forged" },
+                { "one byte more", { .body = QByteArray(package) + "\n" }, "forged" },
                 { "empty", {}, "failed" },
                 { "huge", { .body = QByteArray(2 << 20, 'x') }, "failed" },
                 { "never ends", { .body = package, .isEndless = true }, "failed" },
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QCOMPARE(mine.size(), 0);
         QFile file(m_settings.downloadFolder + u"/VideoConverter-1.6 2.deb"_s);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), package);
+        QCOMPARE(file.readAll(), QByteArray(package));
         QCOMPARE(saved[0][0].toString(), file.fileName());
     }
 };

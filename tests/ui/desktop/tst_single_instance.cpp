@@ -82,8 +82,8 @@ private:
     QByteArray m_output;
 };
 
-const QStringList running{ u"running"_s };
-const QStringList handedOver{ u"handed over"_s };
+QStringList running() { return { u"running"_s }; }
+QStringList handedOver() { return { u"handed over"_s }; }
 
 }
 
@@ -117,9 +117,9 @@ private Q_SLOTS:
         QFETCH(QStringList, files);
         QFETCH(QString, received);
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         Instance second(m_place, files);
-        QTRY_COMPARE(second.lines(), handedOver);
+        QTRY_COMPARE(second.lines(), handedOver());
         QTRY_COMPARE(first.lines().value(1),
             u"received "_s + received.replace(u"%1"_s, QDir::currentPath()));
         QTRY_COMPARE(second.process.state(), QProcess::NotRunning);
@@ -129,51 +129,52 @@ private Q_SLOTS:
     void secondStart_onOtherDisplayRuns()
     {
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         m_place.display = u":2"_s;
         Instance second(m_place, { u"/films/a.mp4"_s });
-        QTRY_COMPARE(second.lines(), running);
-        QCOMPARE(first.lines(), running);
+        QTRY_COMPARE(second.lines(), running());
+        QCOMPARE(first.lines(), running());
     }
 
     void secondStart_recoversFromKilledInstance()
     {
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         first.signal(SIGKILL);
         QVERIFY(first.process.waitForFinished());
         Instance second(m_place);
-        QTRY_COMPARE(second.lines(), running);
+        QTRY_COMPARE(second.lines(), running());
         Instance third(m_place, { u"/films/a.mp4"_s });
-        QTRY_COMPARE(third.lines(), handedOver);
+        QTRY_COMPARE(third.lines(), handedOver());
         QTRY_COMPARE(second.lines().value(1), u"received /films/a.mp4"_s);
     }
 
     void secondStart_doesNotWaitForHangingInstance()
     {
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         first.signal(SIGSTOP);
         QElapsedTimer timer;
         timer.start();
         Instance second(m_place, { u"/films/a.mp4"_s });
-        QTRY_COMPARE(second.lines(), running);
+        QTRY_COMPARE(second.lines(), running());
         QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
         first.signal(SIGCONT);
         Instance third(m_place, { u"/films/b.mp4"_s });
-        QTRY_COMPARE(third.lines(), handedOver);
+        QTRY_COMPARE(third.lines(), handedOver());
     }
 
     void startsAtOnce_leaveOneRunning()
     {
         std::vector<std::unique_ptr<Instance>> instances;
+        instances.reserve(4);
         for (int number = 0; number < 4; ++number)
             instances.push_back(std::make_unique<Instance>(m_place));
         for (const auto &instance : instances)
             QTRY_VERIFY(!instance->lines().isEmpty());
         const auto count
             = std::count_if(instances.cbegin(), instances.cend(), [](const auto &instance) {
-                  return instance->lines().value(0) == running.constFirst();
+                  return instance->lines().value(0) == running().constFirst();
               });
         QCOMPARE(count, 1);
     }
@@ -187,9 +188,9 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(substitute) && QFile::setPermissions(substitute, everybody));
         QVERIFY(QFile::setPermissions(m_place.runtimeFolder, everybody));
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         Instance second(m_place);
-        QTRY_COMPARE(second.lines(), running);
+        QTRY_COMPARE(second.lines(), running());
     }
 
     void hostilePeer_isDropped_data()
@@ -205,7 +206,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, request);
         Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running);
+        QTRY_COMPARE(first.lines(), running());
         const QStringList sockets
             = QDir(m_folder->path()).entryList({ u"video-converter-*"_s }, QDir::System);
         QCOMPARE(sockets.size(), 1);
@@ -216,7 +217,7 @@ private Q_SLOTS:
         QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
         QCOMPARE(peer.readAll(), QByteArray());
         Instance second(m_place, { u"/films/a.mp4"_s });
-        QTRY_COMPARE(second.lines(), handedOver);
+        QTRY_COMPARE(second.lines(), handedOver());
         QTRY_COMPARE(first.lines().value(1), u"received /films/a.mp4"_s);
     }
 };
