@@ -11,6 +11,16 @@
 
 namespace {
 
+// Goes with the window in front, unless that is one which the program may close while the alert
+// stands, such as that of a download.
+QWidget *parentWindow()
+{
+    QWidget *window = QApplication::activeWindow();
+    while (window && !window->isModal() && window->parentWidget())
+        window = window->parentWidget()->window();
+    return window;
+}
+
 // The labels of a message box guess their format, and a file may be named like mark-up.
 void showPlainText(const QMessageBox &box)
 {
@@ -42,7 +52,7 @@ QString breakable(const QString &text)
 
 void displayError(const QString &message, const QString &informativeText)
 {
-    QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Warning, {}, {}, QMessageBox::Ok, parentWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(breakable(message));
     if (!informativeText.isEmpty())
@@ -58,8 +68,7 @@ bool displayQuestion(const QString &question)
     LocalizedText yesText = QT_TRANSLATE_NOOP3("Localizable", "Alert.Yes", "");
     yesText.fallback = "Yes";
 
-    QMessageBox box(
-        QMessageBox::Information, {}, {}, QMessageBox::NoButton, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Information, {}, {}, QMessageBox::NoButton, parentWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(breakable(question));
     QPushButton *no = box.addButton(localized(noText), QMessageBox::NoRole);

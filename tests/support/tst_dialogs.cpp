@@ -96,6 +96,22 @@ private Q_SLOTS:
         QVERIFY(answering.wasShown);
     }
 
+    void alert_outlivesTheWindowInFront()
+    {
+        QWidget window;
+        window.show();
+        auto *download = new QDialog(&window);
+        download->show();
+        download->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(download));
+        const Answering answering([download](QMessageBox &box) {
+            delete download;
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        displayError(u"message"_s);
+        QVERIFY(answering.wasShown);
+    }
+
     void site_followsTheLanguage()
     {
         // The site's address and the lines printed.
