@@ -50,6 +50,7 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &text)
 
 AboutWindow::AboutWindow()
 {
+    setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(formatted(localized(QT_TRANSLATE_NOOP3(
                                  "Localizable", "About %@", "about box, with the program's name")),
         { programName() }));

@@ -9,7 +9,7 @@ class QLabel;
 class QPushButton;
 
 /// The about box: icon, name and version of the program, credits and a way to its web site. Closed,
-/// it is hidden only.
+/// it is hidden only; open, it does not keep the program from ending with its main window.
 class AboutWindow : public QDialog {
     Q_OBJECT
 

@@ -160,6 +160,17 @@ private Q_SLOTS:
         QVERIFY(!window.isVisible());
     }
 
+    void aboutBox_letsTheProgramEnd()
+    {
+        QWidget window;
+        AboutWindow about;
+        window.show();
+        about.showWindow();
+        QTimer::singleShot(0, &window, &QWidget::close);
+        QTimer::singleShot(5000, &window, [] { QApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0);
+    }
+
     void aboutBox_hasWebSiteOnlyIfThereIsOne()
     {
         AboutWindow window;
