@@ -139,7 +139,11 @@ void AppDelegate::showStateInMenus()
     const bool takesFiles = allowDragDrop(m_outlets->dropAcceptor);
     m_outlets->openAction->setEnabled(takesFiles);
     m_outlets->pasteAction->setEnabled(takesFiles);
-    m_outlets->formatMenu->menuAction()->setEnabled(m_uiState == WindowUIState::CoverIsSet);
+    const bool offersFormats = m_uiState == WindowUIState::CoverIsSet;
+    m_outlets->formatMenu->menuAction()->setEnabled(offersFormats);
+    // It may stand open for the film before.
+    if (!offersFormats)
+        m_outlets->formatMenu->hide();
     m_outlets->cancelAction->setEnabled(m_uiState == WindowUIState::Converting);
     m_outlets->revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
     m_outlets->startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
