@@ -84,7 +84,8 @@ private:
     void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
     void updateProgress();
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
-    void failWhileConverting(const std::optional<QString> &errmsg);
+    struct Source;
+    void failWhileConverting(const Source &source, const std::optional<QString> &errmsg);
 
     [[nodiscard]] bool mayCloseNow();
     void closeIfAsked();

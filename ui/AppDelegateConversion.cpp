@@ -42,6 +42,12 @@ struct AppDelegate::Choice {
     QString ext;
 };
 
+/// The film of a conversion and its number among those taken in.
+struct AppDelegate::Source {
+    QString path;
+    int probe;
+};
+
 void AppDelegate::rawFormatMenuItemPressed(const QAction *item)
 {
     const auto constraints = videoConstraints(title(item), title(m_outlets->audioMenuItem),
@@ -84,9 +90,10 @@ void AppDelegate::startConversion(const QString &destPath, const VideoConstraint
     m_resultFilePath = destPath;
     const QPointer<AppDelegate> self(this);
     m_run = FFMPEG::convertFile(m_processingFilePath, destPath, constraints, *m_processingInfo,
-        [self](const std::optional<QString> &errmsg) {
+        [self, source = Source{ m_processingFilePath, m_probe }](
+            const std::optional<QString> &errmsg) {
             if (self)
-                self->failWhileConverting(errmsg);
+                self->failWhileConverting(source, errmsg);
         });
     setProgress(m_run);
     m_run->setEndHandler([self] {
@@ -156,14 +163,16 @@ void AppDelegate::updateProgress()
         Path::lastPathComponent(m_resultFilePath));
 }
 
-void AppDelegate::failWhileConverting(const std::optional<QString> &errmsg)
+void AppDelegate::failWhileConverting(const Source &source, const std::optional<QString> &errmsg)
 {
-    setUiState(WindowUIState::InitialState);
+    // A tool that fails after its bar was full may find a later film in the window.
+    if (source.probe == m_probe)
+        setUiState(WindowUIState::InitialState);
     QString format = localized(QT_TRANSLATE_NOOP3(
         "Localizable", "Error processing %@", "Error message on conversion failure"));
     if (errmsg)
         format += u'\n' + *errmsg;
-    const QString message = formatted(format, { Path::lastPathComponent(m_processingFilePath) });
+    const QString message = formatted(format, { Path::lastPathComponent(source.path) });
     m_status->notify(m_window.windowTitle(), message);
     ++m_alerts;
     displayError(message);
