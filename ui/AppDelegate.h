@@ -86,6 +86,7 @@ private:
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
     struct Source;
     void failWhileConverting(const Source &source, const std::optional<QString> &errmsg);
+    [[nodiscard]] bool cancelIfConfirmed();
 
     [[nodiscard]] bool mayCloseNow();
     void closeIfAsked();

@@ -19,6 +19,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -180,16 +182,17 @@ void AppDelegate::failWhileConverting(const Source &source, const std::optional<
     closeIfAsked();
 }
 
-void AppDelegate::cancelProgressPressed()
+void AppDelegate::cancelProgressPressed() { std::ignore = cancelIfConfirmed(); }
+
+bool AppDelegate::cancelIfConfirmed()
 {
-    if (!m_progress || isBlocked())
-        return;
-    if (!confirmsCancel())
-        return;
+    if (!m_progress || isBlocked() || !confirmsCancel())
+        return false;
     Analytics::send(QString(), u"convert"_s, u"abort"_s, true);
     // The conversion may have ended while the question stood.
     if (const std::shared_ptr<Progress> progress = m_progress)
         progress->cancel();
+    return true;
 }
 
 void AppDelegate::progressWasCancelled(const std::weak_ptr<Progress> &object)
@@ -226,11 +229,8 @@ QByteArray AppDelegate::lastToolOutput() const
 bool AppDelegate::mayCloseNow()
 {
     const auto runs = [this] { return m_run && !m_run->isEnded(); };
-    if (m_uiState == WindowUIState::Converting && runs()) {
-        cancelProgressPressed();
-        if (m_uiState == WindowUIState::Converting && m_progress)
-            return false;
-    }
+    if (m_uiState == WindowUIState::Converting && m_progress && runs() && !cancelIfConfirmed())
+        return false;
     // A run whose bar is full writes its last bytes; a cancelled one removes its output. Both are
     // waited for, but one that never ends must not keep the window for ever.
     if (m_closesAfterRun && runs() && !m_run->isCancelled() && !isBlocked() && confirmsCancel())
