@@ -201,6 +201,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
+    stayOpen();
     if (!hasVisibleWindows || m_window.isMinimized())
         m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
@@ -231,6 +232,7 @@ void AppDelegate::takeFiles(const QStringList &paths)
 {
     if (isBlocked() || paths.isEmpty() || !allowDragDrop(m_outlets->dropAcceptor))
         return;
+    stayOpen();
     Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
     processFile(paths.constFirst());
 }

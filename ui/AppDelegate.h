@@ -89,6 +89,7 @@ private:
     [[nodiscard]] bool cancelIfConfirmed();
 
     [[nodiscard]] bool mayCloseNow();
+    void stayOpen();
     void closeIfAsked();
 
     QMainWindow m_window;

@@ -240,6 +240,12 @@ bool AppDelegate::mayCloseNow()
     return !m_closesAfterRun;
 }
 
+void AppDelegate::stayOpen()
+{
+    m_closesAfterRun = false;
+    m_window.setEnabled(true);
+}
+
 void AppDelegate::closeIfAsked()
 {
     if (m_closesAfterRun && m_alerts == 0 && m_run && m_run->isEnded())
