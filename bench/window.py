@@ -27,7 +27,7 @@ class Screen:
         self.file = open(image, "rb")
         self.pixels = mmap.mmap(self.file.fileno(), 0, access=mmap.ACCESS_READ)
         home = self.folder / "home"
-        home.mkdir(exist_ok=True)
+        home.mkdir(mode=0o700, exist_ok=True)
         self.env = {**os.environ, "DISPLAY": DISPLAY, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8", "HOME": str(home),
                     "XDG_CONFIG_HOME": str(home), "XDG_RUNTIME_DIR": str(home), "DBUS_SESSION_BUS_ADDRESS": ""}
         self.blank = self.ink()
