@@ -84,8 +84,8 @@ private:
     void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
     void updateProgress();
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
-    struct Source;
-    void failWhileConverting(const Source &source, const std::optional<QString> &errmsg);
+    void failWhileConverting(const std::optional<QString> &errmsg);
+    void tellFailure(const QString &path, const std::optional<QString> &errmsg);
     [[nodiscard]] bool cancelIfConfirmed();
 
     [[nodiscard]] bool mayCloseNow();

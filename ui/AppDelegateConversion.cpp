@@ -44,12 +44,6 @@ struct AppDelegate::Choice {
     QString ext;
 };
 
-/// The film of a conversion and its number among those taken in.
-struct AppDelegate::Source {
-    QString path;
-    int probe;
-};
-
 void AppDelegate::rawFormatMenuItemPressed(const QAction *item)
 {
     const auto constraints = videoConstraints(title(item), title(m_outlets->audioMenuItem),
@@ -92,10 +86,12 @@ void AppDelegate::startConversion(const QString &destPath, const VideoConstraint
     m_resultFilePath = destPath;
     const QPointer<AppDelegate> self(this);
     m_run = FFMPEG::convertFile(m_processingFilePath, destPath, constraints, *m_processingInfo,
-        [self, source = Source{ m_processingFilePath, m_probe }](
-            const std::optional<QString> &errmsg) {
-            if (self)
-                self->failWhileConverting(source, errmsg);
+        [self, path = m_processingFilePath, probe = m_probe](const std::optional<QString> &errmsg) {
+            // A tool that fails after its bar was full may find a later film in the window.
+            if (self && self->m_probe == probe)
+                self->failWhileConverting(errmsg);
+            else if (self)
+                self->tellFailure(path, errmsg);
         });
     setProgress(m_run);
     m_run->setEndHandler([self] {
@@ -165,16 +161,19 @@ void AppDelegate::updateProgress()
         Path::lastPathComponent(m_resultFilePath));
 }
 
-void AppDelegate::failWhileConverting(const Source &source, const std::optional<QString> &errmsg)
+void AppDelegate::failWhileConverting(const std::optional<QString> &errmsg)
 {
-    // A tool that fails after its bar was full may find a later film in the window.
-    if (source.probe == m_probe)
-        setUiState(WindowUIState::InitialState);
+    setUiState(WindowUIState::InitialState);
+    tellFailure(m_processingFilePath, errmsg);
+}
+
+void AppDelegate::tellFailure(const QString &path, const std::optional<QString> &errmsg)
+{
     QString format = localized(QT_TRANSLATE_NOOP3(
         "Localizable", "Error processing %@", "Error message on conversion failure"));
     if (errmsg)
         format += u'\n' + *errmsg;
-    const QString message = formatted(format, { Path::lastPathComponent(source.path) });
+    const QString message = formatted(format, { Path::lastPathComponent(path) });
     m_status->notify(m_window.windowTitle(), message);
     ++m_alerts;
     displayError(message);
