@@ -411,6 +411,18 @@ private Q_SLOTS:
         QVERIFY(open(u"100%d %@.mov"_s) || state == WindowUIState::InitialState);
     }
 
+    void lateFailure_namesItsOwnFilm()
+    {
+        QVERIFY(QFile::copy(m_film, path(u"next.mov"_s)));
+        const auto swap
+            = convertWith(QByteArray(hundredSeconds) + "reports:100:100|sleep:1500|exit:1");
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        ToolSwap::setScript("exit:0");
+        QVERIFY(open(u"next.mov"_s));
+        QTRY_COMPARE(m_user->read, QStringList(u"Error processing film.mov"_s));
+        QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
+    }
+
     void missingTool_leavesTheWindowUsable()
     {
         QVERIFY(open(u"film.mov"_s));
@@ -447,6 +459,31 @@ private Q_SLOTS:
         QVERIFY(window->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 10000);
         QVERIFY(!QFile::exists(path(u"result.mkv"_s)));
+    }
+
+    void close_isTakenBack()
+    {
+        auto *window = m_delegate->window();
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "deaf|reports:3000:20000");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        m_user->saysYes = true;
+        QVERIFY(!window->close());
+        ToolSwap::setScript("exit:0");
+        QVERIFY(waitFor(WindowUIState::InitialState));
+        m_delegate->takeFiles({ m_film });
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QTRY_COMPARE_WITH_TIMEOUT(Processes::children(), QStringList(), 10000);
+        QTest::qWait(50);
+        QVERIFY(window->isVisible() && window->isEnabled());
+    }
+
+    void close_answeredNoKeepsTheWindow()
+    {
+        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:3000");
+        QVERIFY(waitFor(WindowUIState::Converting));
+        m_user->whileReading = [this] { QVERIFY(waitFor(WindowUIState::ConversionIsDone)); };
+        QVERIFY(!m_delegate->window()->close());
+        QVERIFY(m_delegate->window()->isVisible());
     }
 
     void close_leavesTheLastBytesAlone()
