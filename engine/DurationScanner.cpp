@@ -21,7 +21,7 @@ std::optional<qint64> DurationScanner::duration()
     // The range of a search has as many units as the text has characters, counted over the whole
     // text.
     const qsizetype searchedEnd = std::max<qsizetype>(Text::characterCount(m_tail) - m_surplus, 0);
-    const QStringView searched = QStringView(m_tail).first(searchedEnd);
+    const QStringView searched = Pattern::searchRange(m_tail, searchedEnd);
     const QRegularExpressionMatch match = ToolOutput::regexprDuration().match(searched);
     if (match.hasMatch()) {
         // The first match stays the first however the text grows: when it holds no time ("N/A"), no

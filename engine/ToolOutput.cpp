@@ -39,7 +39,7 @@ std::optional<qint64> getFFMpegDuration(const QString &text)
     if (!regexp.isValid())
         return std::nullopt;
     const QRegularExpressionMatch match
-        = regexp.match(QStringView(text).first(Text::characterCount(text)));
+        = regexp.match(Pattern::searchRange(text, Text::characterCount(text)));
     if (!match.hasMatch())
         return std::nullopt;
     const auto group = [&](int index) {

@@ -12,6 +12,12 @@ QRegularExpression compiled(const QString &pattern, QRegularExpression::PatternO
     return QRegularExpression(u"(*ANY)"_s + pattern, options);
 }
 
+QStringView searchRange(QStringView text, qsizetype count)
+{
+    const bool cutsPair = count > 0 && text[count - 1].isHighSurrogate();
+    return text.first(cutsPair ? count - 1 : count);
+}
+
 QString matchPattern(const QString &text, const QString &pattern, int index)
 {
     return matchRegex(text, compiled(pattern, lineOptions), index);
@@ -21,10 +27,7 @@ QString matchRegex(const QString &text, const QRegularExpression &expression, in
 {
     if (!expression.isValid())
         return {};
-    QStringView searched = QStringView(text).first(Text::characterCount(text));
-    // Half a surrogate pair at the end would make the expression engine refuse the whole text.
-    if (!searched.empty() && searched.back().isHighSurrogate())
-        searched.chop(1);
+    const QStringView searched = searchRange(text, Text::characterCount(text));
     return substringFromCheckingResult(expression.match(searched), index);
 }
 

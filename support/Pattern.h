@@ -17,6 +17,10 @@ inline constexpr QRegularExpression::PatternOptions lineOptions
 [[nodiscard]] QRegularExpression compiled(const QString &pattern,
     QRegularExpression::PatternOptions options = QRegularExpression::NoPatternOption);
 
+/// The first `count` units of a text as a range to search. Without half a surrogate pair at its
+/// end, for which the expression engine would refuse all of it.
+[[nodiscard]] QStringView searchRange(QStringView text, qsizetype count);
+
 /// Group `index` of the first match; the pattern is compiled with lineOptions.
 /// Only as many UTF-16 units are searched as the text has characters (grapheme clusters).
 [[nodiscard]] QString matchPattern(const QString &text, const QString &pattern, int index);

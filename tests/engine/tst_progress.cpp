@@ -24,6 +24,7 @@ private Q_SLOTS:
                 { "minutes beyond the hour", "00:75:00", 4500 },
                 { "single digits", "1:2:3", 3723 },
                 { "surrounded", "at 00:00:10.5 of it", 10 },
+                { "the search ends amid a character", "00:00:07😀", 7 },
                 { "a part beyond 64 bits counts as 0", "99999999999999999999:00:07", 7 },
                 { "not available", "N/A", -1 },
                 { "empty", "", -1 },
@@ -59,8 +60,8 @@ private Q_SLOTS:
         // Pieces that make matches across blocks, false starts, and characters of more than one
         // unit (which shorten the range of the search) likely.
         const QStringList pieces{ u"Duration: "_s, u"00:01:40.00"_s, u"N/A"_s, u", start:"_s,
-            u"\n"_s, u"\r\n"_s, u"😀"_s, u"👨‍👩‍👧"_s, u"e\u0301"_s, u"title"_s,
-            u"\r"_s };
+            u"\n"_s, u"\r\n"_s, u"😀"_s, u"👨‍👩‍👧"_s, u"e\u0301"_s, u"title"_s, u"\r"_s,
+            u"Duration: 00:00:07.00, start:\n"_s };
         QRandomGenerator random(20);
         int found = 0;
         for (int round = 0; round < 3000; ++round) {
