@@ -92,6 +92,7 @@ bool Task::isRunning() const
 
 QByteArray Task::availableData()
 {
+    const auto start = std::chrono::steady_clock::now();
     if (m_process.bytesAvailable() == 0)
         m_process.waitForReadyRead(waitMilliseconds);
     // Small pieces in quick succession are read together: each costs several system calls.
@@ -101,8 +102,15 @@ QByteArray Task::availableData()
         m_process.waitForReadyRead(0);
     }
     QByteArray data = m_process.readAllStandardOutput();
-    if (!data.isEmpty())
+    if (data.isEmpty()) {
+        // A longer wait tells that this program was stopped, by Ctrl-Z, and the tool with it.
+        m_silence += std::min<std::chrono::steady_clock::duration>(
+            std::chrono::steady_clock::now() - start,
+            std::chrono::milliseconds(2 * waitMilliseconds));
+    } else {
         m_lastOutput = std::chrono::steady_clock::now();
+        m_silence = {};
+    }
     return data;
 }
 
@@ -144,10 +152,7 @@ int Task::terminationStatus() const
 
 void Task::closeFile() { m_process.closeReadChannel(QProcess::StandardOutput); }
 
-bool Task::isSilentForTooLong() const
-{
-    return std::chrono::steady_clock::now() - m_lastOutput > silenceLimit();
-}
+bool Task::isSilentForTooLong() const { return m_silence > silenceLimit(); }
 
 void Task::setSilenceLimit(std::chrono::seconds limit) { silenceSeconds = limit.count(); }
 

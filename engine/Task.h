@@ -75,4 +75,5 @@ private:
     QString m_launchPath;
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
+    std::chrono::steady_clock::duration m_silence{};
 };

@@ -106,6 +106,20 @@ private Q_SLOTS:
         QVERIFY2(flood > 60'000'000 && flood < 80'000'000, qPrintable(QString::number(flood)));
     }
 
+    void silence_countsOnlyWhileSomebodyListens()
+    {
+        // As after Ctrl-Z, when program and tool have been stopped for long.
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "forever");
+        Task::setSilenceLimit(1s);
+        Task task;
+        task.setLaunchPath(toolPath());
+        task.launch();
+        QThread::msleep(1100);
+        QCOMPARE(task.availableData(), QByteArray());
+        QVERIFY(!task.isSilentForTooLong());
+        Task::setSilenceLimit(300s);
+    }
+
     void sandbox_refusesWhatIsNotNeeded_data()
     {
         const QByteArray allowed = "allowed =0";
