@@ -119,7 +119,9 @@ void ask(const QString &path, Cover coverWish, const std::shared_ptr<ProbeAnswer
 QString absolutePath(const QString &path)
 {
     static const QRegularExpression nothing(u"/(?:\\.?/)+"_s);
-    QString absolute = path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path;
+    // A current folder that was removed has no path; without the dot "/" would stand in for it.
+    const QString folder = QDir::currentPath().isEmpty() ? u"."_s : QDir::currentPath();
+    QString absolute = path.startsWith(u'/') ? path : folder + u'/' + path;
     return absolute.replace(nothing, u"/"_s);
 }
 

@@ -92,6 +92,21 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(u"/dev/null"_s));
     }
 
+    void removedCurrentFolder_isNotTheRoot()
+    {
+        const QByteArray gone = QFile::encodeName(m_command->path(u"gone"_s));
+        m_command->makeFolder(u"gone"_s);
+        const auto process = m_command->start(
+            u"convert --to MP4 -o result.mp4"_s, { m_command->path(u"film.mp4"_s) }, [&gone] {
+                if (::chdir(gone.constData()) != 0 || ::rmdir(gone.constData()) != 0)
+                    ::_exit(126);
+            });
+        const Finished converted = Command::wait(*process);
+        QVERIFY(!QFile::remove(u"/result.mp4"_s));
+        QVERIFY2(converted.err.endsWith(u"The film or the destination's folder has gone.\n"_s),
+            qPrintable(converted.err));
+    }
+
     void laterFilm_isNotReplaced()
     {
         // The first film's result would be called as the second film. The first failure counts.
