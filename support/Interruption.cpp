@@ -57,8 +57,11 @@ Interruption::Interruption()
     ::signal(SIGPIPE, SIG_IGN);
     watch(SIGINT);
     watch(SIGTERM);
-    if (!isIgnored(SIGHUP)) // as nohup leaves it
-        watch(SIGHUP);
+    // As nohup leaves the one, and a script the other in what it runs in the background.
+    for (const int signalNumber : { SIGHUP, SIGQUIT }) {
+        if (!isIgnored(signalNumber))
+            watch(signalNumber);
+    }
 }
 
 Interruption::~Interruption() = default;

@@ -90,8 +90,9 @@ std::unique_ptr<QProcess> Command::start(
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_folder.path());
     process->setChildProcessModifier([unprivileged = m_unprivileged, inChild] {
-        // A test run in the background of a script has it ignored.
+        // A test run in the background of a script has them ignored.
         ::signal(SIGINT, SIG_DFL);
+        ::signal(SIGQUIT, SIG_DFL);
         inChild();
         if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
             ::_exit(126);

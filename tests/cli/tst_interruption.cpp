@@ -70,6 +70,7 @@ private Q_SLOTS:
                 { "SIGINT", SIGINT, false, "130: film.mp4: Cancelled.\n" },
                 { "SIGTERM", SIGTERM, false, "143: film.mp4: Cancelled.\n" },
                 { "SIGHUP", SIGHUP, false, "129: film.mp4: Cancelled.\n" },
+                { "SIGQUIT", SIGQUIT, false, "131: film.mp4: Cancelled.\n" },
                 { "SIGINT by the terminal", SIGINT, true, "130: film.mp4: Cancelled.\n" },
             });
     }
