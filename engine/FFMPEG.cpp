@@ -13,11 +13,18 @@
 #include "support/Console.h"
 #include "support/FileSystem.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QImageReader>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// The library's own limit of 128 megabytes refuses the covers of 8K films.
+void allowLargeCovers() { QImageReader::setAllocationLimit(512); }
+
+Q_COREAPP_STARTUP_FUNCTION(allowLargeCovers)
 
 // Runs a tool to its end and gives its whole output; absent when it can't be launched.
 std::optional<QByteArray> toolOutput(
