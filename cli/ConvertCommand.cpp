@@ -122,6 +122,10 @@ std::optional<Failure> converted(const ConversionItem &item, const CommandLine &
     const auto film = examined(item.path, Cover::LeftOut, interruption);
     if (const auto *refusal = std::get_if<Failure>(&film))
         return *refusal;
+    if (!line.overwrite) {
+        if (auto refusal = takenMeanwhile(item.destPath))
+            return refusal;
+    }
     return Conversion(item, reporter)
         .run(line.entries.front(), std::get<FilmDescription>(film).info, interruption);
 }

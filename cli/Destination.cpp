@@ -11,6 +11,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,13 @@ namespace {
 Failure refused(const LocalizedText &text)
 {
     return { ExitCode::DestinationRefused, localized(text) };
+}
+
+Failure existsAlready()
+{
+    return refused(QT_TRANSLATE_NOOP3("Localizable",
+        "The destination exists already; --overwrite replaces it.",
+        "Why a conversion's result can't be written"));
 }
 
 bool mayWrite(const QString &path, int mode)
@@ -94,13 +103,21 @@ std::optional<Failure> destinationRefusal(
             QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.",
                 "Why a conversion's result can't be written"));
     if (!overwrite)
-        return refused(QT_TRANSLATE_NOOP3("Localizable",
-            "The destination exists already; --overwrite replaces it.",
-            "Why a conversion's result can't be written"));
+        return existsAlready();
     if (!mayWrite(destPath, W_OK))
         return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.",
             "Why a conversion's result can't be written"));
     return std::nullopt;
+}
+
+std::optional<Failure> takenMeanwhile(const QString &destPath)
+{
+    const QByteArray path = QFile::encodeName(destPath);
+    const int fd = ::open(path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (fd >= 0)
+        ::close(fd);
+    // What else may hinder, the tool meets too and tells.
+    return fd < 0 && errno == EEXIST ? std::optional(existsAlready()) : std::nullopt;
 }
 
 QString linkTarget(const QString &destPath)

@@ -25,6 +25,9 @@ struct ConversionItem {
 /// allowed, and a film that this run reads never.
 [[nodiscard]] std::optional<Failure> destinationRefusal(
     const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite);
+/// Makes the file, empty, so that of several programs that start together only one writes it.
+/// Refuses where another one has been faster.
+[[nodiscard]] std::optional<Failure> takenMeanwhile(const QString &destPath);
 /// The file itself where the destination is a link to one: so it is what is removed when a
 /// conversion fails.
 [[nodiscard]] QString linkTarget(const QString &destPath);

@@ -134,6 +134,19 @@ private Q_SLOTS:
         QCOMPARE(files(u"out"_s), (QStringList{ u"FILM 3.mkv"_s, u"film 2.mkv"_s, u"film.mkv"_s }));
     }
 
+    void simultaneousRuns_writeOneFileOnce()
+    {
+        const QString line = u"convert --to MKV film.mp4 -d folder"_s;
+        const auto first = m_command->start(line);
+        const auto second = m_command->start(line);
+        QStringList ends{ Command::wait(*first).end(), Command::wait(*second).end() };
+        ends.sort();
+        QCOMPARE(ends.first(), u"0: "_s);
+        QCOMPARE(ends.last(),
+            u"4: %1: The destination exists already; --overwrite replaces it.\n"_s.arg(
+                m_command->path(u"folder/film.mkv"_s)));
+    }
+
     void existingFile_isReplacedOnRequest()
     {
         for (const QString &destination : { u"exists.mp4"_s, u"toexisting.mp4"_s }) {
