@@ -52,8 +52,11 @@ namespace CoverFolder {
 QString uniqueImagePath()
 {
     const std::lock_guard lock(folderMutex);
-    if (!folder())
+    // A folder that could not be made, or was swept from a shared place, is made anew.
+    if (!folder() || !QFileInfo::exists(folder()->path()))
         folder() = newFolder();
+    if (!folder()->isValid())
+        return {};
     return folder()->path() + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces) + u".jpg"_s;
 }
 

@@ -125,6 +125,10 @@ void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
 {
     Async::background([path, offset, completionHandler = std::move(completionHandler)] {
         const QString imagePath = CoverFolder::uniqueImagePath();
+        if (imagePath.isEmpty()) {
+            Async::async([completionHandler] { completionHandler({}); });
+            return;
+        }
         const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath,
             u"-y"_s };
         const ToolAccess access{ { path }, { QFileInfo(imagePath).path() } };

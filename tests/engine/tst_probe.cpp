@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "engine/CoverFolder.h"
 #include "engine/FFMPEG.h"
 #include "engine/MovieProbe.h"
 #include "engine/SerialQueue.h"
@@ -146,6 +147,19 @@ private Q_SLOTS:
         QFETCH(const qint64, seconds);
         QTEST(MovieProbe::coverOffset(DurationInfo(seconds)), "cover");
         QTEST(MovieProbe::lengthBucket(seconds), "bucket");
+    }
+
+    void cover_needsATemporaryFolder()
+    {
+        CoverFolder::remove();
+        const QByteArray temporary = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/proc");
+        QStringList answers;
+        probe(path(u"five.mp4"_s), answers);
+        QTRY_COMPARE(answers, QStringList{ u"5s, 0 x 0"_s });
+        temporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+        probe(path(u"five.mp4"_s), answers);
+        QTRY_COMPARE(answers.value(1), u"5s, 320 x 180"_s);
     }
 
     void cover_isPrivateAndGoesAtTheEnd()
