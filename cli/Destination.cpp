@@ -107,7 +107,8 @@ std::optional<Failure> destinationRefusal(
     if (!mayWrite(destPath, W_OK))
         return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.",
             "Why a conversion's result can't be written"));
-    return std::nullopt;
+    // An unfinished file could not be removed.
+    return folderRefusal(Path::stringByDeletingLastPathComponent(linkTarget(destPath)));
 }
 
 std::optional<Failure> takenMeanwhile(const QString &destPath)

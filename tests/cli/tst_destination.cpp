@@ -67,6 +67,7 @@ private Q_SLOTS:
                 { "device", "-o /dev/null --overwrite",
                     "The destination is a pipe or a device, not a file." },
                 { "file in a read-only folder", "-o readonly/x.mp4", readOnlyFolder },
+                { "to be replaced there", "-o readonly/exists.mp4 --overwrite", readOnlyFolder },
                 { "read-only folder", "-d readonly", readOnlyFolder },
                 { "read-only file", "-o readonly.mp4 --overwrite",
                     "The destination may not be written to." },
@@ -78,6 +79,9 @@ private Q_SLOTS:
         QFETCH(const QString, message);
         m_command->makeFolder(u"readonly"_s);
         m_command->write(u"readonly.mp4"_s, "precious");
+        m_command->write(u"readonly/exists.mp4"_s, "precious");
+        QFile::setPermissions(
+            m_command->path(u"readonly/exists.mp4"_s), QFile::Permissions(0x6666));
         QFile::setPermissions(m_command->path(u"readonly"_s), QFile::Permissions(0x5555));
         QFile::setPermissions(m_command->path(u"readonly.mp4"_s), QFile::Permissions(0x4444));
         if (words.contains(u"readonly"_s) && !m_command->dropPrivileges())
