@@ -70,7 +70,7 @@ std::optional<Failure> Conversion::run(
 {
     m_clock.start();
     m_reporter.started(m_item);
-    m_progress = FFMPEG::convertFile(m_item.path, linkTarget(m_item.destPath), entry, info,
+    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info,
         [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
     wait(interruption);
     std::optional<Failure> failure = outcome();

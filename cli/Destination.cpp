@@ -2,6 +2,7 @@
 #include "cli/Destination.h"
 
 #include "cli/Examination.h"
+#include "engine/Obstacle.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/FileSystem.h"
 #include "support/Localized.h"
@@ -79,28 +80,34 @@ std::optional<Failure> folderRefusal(const QString &folder)
     return std::nullopt;
 }
 
-std::optional<Failure> destinationRefusal(
-    const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite)
+std::optional<Failure> sourceRefusal(
+    const QString &destPath, const std::vector<ConversionItem> &items)
 {
-    const QFileInfo info(destPath);
     const auto isDestination
         = [&](const ConversionItem &item) { return isSameFile(item.path, destPath); };
     if (std::any_of(items.begin(), items.end(), isDestination))
         return refused(QT_TRANSLATE_NOOP3("Localizable",
             "The result can't replace a film that is to be converted.",
             "Why a conversion's result can't be written"));
-    if (info.isDir() || destPath.endsWith(u'/'))
-        return refused(QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.",
-            "Why a conversion's result can't be written"));
-    if (!info.exists() && info.isSymbolicLink())
-        return refused(
-            QT_TRANSLATE_NOOP3("Localizable", "The destination is a link that leads nowhere.",
-                "Why a conversion's result can't be written"));
+    return std::nullopt;
+}
+
+std::optional<Failure> destinationRefusal(
+    const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite)
+{
+    const QFileInfo info(destPath);
+    if (auto refusal = sourceRefusal(destPath, items))
+        return refusal;
+    if (const auto obstacle = obstacleAt(destPath))
+        return Failure{ ExitCode::DestinationRefused, *obstacle };
     if (!info.exists())
         return folderRefusal(Path::stringByDeletingLastPathComponent(destPath));
-    if (!isRegularFile(destPath))
+    const auto meetsHere = [&](const ConversionItem &item) {
+        return item.destPath != destPath && isSameFile(item.destPath, destPath);
+    };
+    if (std::any_of(items.begin(), items.end(), meetsHere))
         return refused(
-            QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.",
+            QT_TRANSLATE_NOOP3("Localizable", "The result would replace another one of this run.",
                 "Why a conversion's result can't be written"));
     if (!overwrite)
         return existsAlready();
@@ -119,10 +126,4 @@ std::optional<Failure> takenMeanwhile(const QString &destPath)
         ::close(fd);
     // What else may hinder, the tool meets too and tells.
     return fd < 0 && errno == EEXIST ? std::optional(existsAlready()) : std::nullopt;
-}
-
-QString linkTarget(const QString &destPath)
-{
-    const QString target = QFileInfo(destPath).canonicalFilePath();
-    return target.isEmpty() ? destPath : target;
 }

@@ -21,13 +21,13 @@ struct ConversionItem {
 
 /// Why nothing can be written to a folder.
 [[nodiscard]] std::optional<Failure> folderRefusal(const QString &folder);
+/// Refuses a destination that is one of the films, whatever its spelling.
+[[nodiscard]] std::optional<Failure> sourceRefusal(
+    const QString &destPath, const std::vector<ConversionItem> &items);
 /// Why a file must not be written: nothing but an ordinary file is replaced, that only when it is
-/// allowed, and a film that this run reads never.
+/// allowed, and neither a film that this run reads nor another of its results.
 [[nodiscard]] std::optional<Failure> destinationRefusal(
     const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite);
 /// Makes the file, empty, so that of several programs that start together only one writes it.
 /// Refuses where another one has been faster.
 [[nodiscard]] std::optional<Failure> takenMeanwhile(const QString &destPath);
-/// The file itself where the destination is a link to one: so it is what is removed when a
-/// conversion fails.
-[[nodiscard]] QString linkTarget(const QString &destPath);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/Destination.h"
 #include "cli/Examination.h"
 #include "cli/Output.h"
 #include "cli/ShownText.h"
@@ -92,7 +93,11 @@ ExitCode planConversions(const CommandLine &line, Interruption &interruption)
         print(line, std::get<JSON>(saved));
         return ExitCode::Done;
     }
-    const auto result = examined(absolutePath(line.films.first()), Cover::LeftOut, interruption);
+    const QString path = absolutePath(line.films.at(0));
+    if (const auto refusal = sourceRefusal(
+            absolutePath(line.films.at(1)), { { .film = {}, .path = path, .destPath = {} } }))
+        return Output::failure(line.films.at(1), *refusal);
+    const auto result = examined(path, Cover::LeftOut, interruption);
     if (const auto *failure = std::get_if<Failure>(&result))
         return Output::failure(line.films.first(), *failure);
     print(line, std::get<FilmDescription>(result).info);

@@ -3,6 +3,7 @@
 
 #include "engine/Async.h"
 #include "engine/DestinationClaim.h"
+#include "engine/Obstacle.h"
 #include "engine/Task.h"
 #include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
@@ -47,7 +48,11 @@ void ConversionRun::run()
         postError(localized(
             QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
                 "Error message when source and destination are one file")));
+    } else if (const std::optional<QString> obstacle = obstacleAt(m_job.destPath)) {
+        postError(obstacle);
     } else {
+        // Where the user keeps a link, what it leads to is written, and removed after a failure.
+        m_job.destPath = linkTarget(m_job.destPath);
         convert();
     }
     m_progress->end(m_output);
@@ -132,7 +137,8 @@ void ConversionRun::judge(const Task &task)
 
 bool ConversionRun::hasSucceeded(const Task &task) const
 {
-    return task.terminationStatus() == 0 && !ToolOutput::reportsLostOutput(m_output);
+    return task.terminationStatus() == 0
+        && !ToolOutput::reportsLostOutput(m_output, { m_job.path, m_job.destPath });
 }
 
 void ConversionRun::finish(Task &task, bool launched)

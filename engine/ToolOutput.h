@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QRegularExpression>
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,8 +22,8 @@ namespace ToolOutput {
 /// Position in the last progress report of a block, in seconds.
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
 /// The tool says that the end of its result could not be written: a disk was full. Some versions
-/// end with status 0 even so.
-[[nodiscard]] bool reportsLostOutput(const QByteArray &output);
+/// end with status 0 even so. What the names of the files say is not taken for the tool's words.
+[[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);
 /// A block of output as text. Tags cut in the middle of a character make a block undecodable: then
 /// each line is decoded on its own, and only those that are broken are lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/FileSystem.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <optional>
 #include <sys/stat.h>
@@ -35,4 +35,10 @@ bool isSameFile(const QString &path, const QString &otherPath)
     const auto file = attributes(path);
     const auto other = attributes(otherPath);
     return file && other && file->st_dev == other->st_dev && file->st_ino == other->st_ino;
+}
+
+QString linkTarget(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isSymbolicLink() && file.exists() ? file.canonicalFilePath() : path;
 }

@@ -13,3 +13,6 @@
 /// Both paths lead to one existing file, whatever their spelling: through links, "..", "//" or
 /// other letter case.
 [[nodiscard]] bool isSameFile(const QString &path, const QString &otherPath);
+/// The file that a link leads to; the path itself where there is no link, or one that leads
+/// nowhere.
+[[nodiscard]] QString linkTarget(const QString &path);

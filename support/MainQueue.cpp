@@ -31,6 +31,20 @@ void runNext()
     block();
 }
 
+// The library counts a timer's milliseconds in 32 bits.
+constexpr std::chrono::milliseconds longestTimer = std::chrono::hours(24);
+
+void runAfter(std::chrono::milliseconds wait, const std::function<void()> &block)
+{
+    const std::chrono::milliseconds step = std::min(wait, longestTimer);
+    QTimer::singleShot(step, Qt::PreciseTimer, QCoreApplication::instance(), [wait, step, block] {
+        if (wait > step)
+            runAfter(wait - step, block);
+        else
+            block();
+    });
+}
+
 // What the blocks hold may need the application object, so they must not live on until the statics
 // go, nor run in a later application.
 void dropBlocks()
@@ -65,9 +79,7 @@ void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)
     using std::chrono::milliseconds;
     const auto wait
         = std::chrono::ceil<milliseconds>(std::max(delay, std::chrono::nanoseconds::zero()));
-    post([wait, block = std::move(block)] {
-        QTimer::singleShot(wait, Qt::PreciseTimer, QCoreApplication::instance(), block);
-    });
+    post([wait, block = std::move(block)] { runAfter(wait, block); });
 }
 
 bool isMainThread()

@@ -713,6 +713,11 @@ Are you sure you want to continue?</source>
         <comment>update download</comment>
         <translation>تعذّر تنزيل التحديث. يُرجى المحاولة لاحقًا.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>ستحل النتيجة محل نتيجة أخرى من هذا التشغيل.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -717,6 +717,11 @@ Möchten Sie wirklich fortfahren?</translation>
         <comment>update download</comment>
         <translation>Das Update konnte nicht heruntergeladen werden. Bitte versuchen Sie es später erneut.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Das Ergebnis würde ein anderes dieses Aufrufs ersetzen.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

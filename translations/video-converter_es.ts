@@ -715,6 +715,11 @@ Are you sure you want to continue?</source>
         <comment>update download</comment>
         <translation>No se pudo descargar la actualización. Inténtelo de nuevo más tarde.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El resultado reemplazaría a otro de esta misma ejecución.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -716,6 +716,11 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <comment>update download</comment>
         <translation>Impossible de télécharger la mise à jour. Veuillez réessayer plus tard.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Le résultat remplacerait un autre résultat de cette exécution.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -713,6 +713,11 @@ Are you sure you want to continue?</source>
         <comment>update download</comment>
         <translation>アップデートをダウンロードできませんでした。後でもう一度お試しください。</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>この実行の別の変換結果を置き換えてしまいます。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -713,6 +713,11 @@ Tem certeza de que deseja continuar?</translation>
         <comment>update download</comment>
         <translation>Não foi possível baixar a atualização. Tente novamente mais tarde.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O resultado substituiria outro desta mesma execução.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -715,6 +715,11 @@ Are you sure you want to continue?</source>
         <comment>update download</comment>
         <translation>Не удалось загрузить обновление. Повторите попытку позже.</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Результат заменит другой результат этого же запуска.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -712,6 +712,11 @@ Are you sure you want to continue?</source>
         <comment>update download</comment>
         <translation>无法下载更新。请稍后再试。</translation>
     </message>
+    <message>
+        <source>The result would replace another one of this run.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>该结果会替换本次运行的另一个结果。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

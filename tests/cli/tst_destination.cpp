@@ -127,6 +127,18 @@ private Q_SLOTS:
         QVERIFY(m_command->exists(u"a 2.mp4"_s));
     }
 
+    void resultsOfOneRun_doNotReplaceEachOther()
+    {
+        m_command->write(u"other.mov"_s, m_film);
+        QFile::link(u"film.mkv"_s, m_command->path(u"folder/other.mkv"_s));
+        const Finished converted
+            = m_command->run(u"convert --to MKV film.mp4 other.mov -d folder --overwrite"_s);
+        QVERIFY2(converted.err.endsWith(
+                     u"/other.mkv: The result would replace another one of this run.\n"_s),
+            qPrintable(converted.err));
+        QVERIFY2(converted.out.endsWith(u"1 of 2 films converted\n"_s), qPrintable(converted.out));
+    }
+
     void filmsOfOneName_getNumbers()
     {
         m_command->makeFolder(u"out"_s);

@@ -73,6 +73,9 @@ private Q_SLOTS:
         QCOMPARE(words, expected.split(u' '));
         QVERIFY(!m_command.exists(u"o.webm"_s));
         QCOMPARE(m_command.run(u"plan --to WebM gone o.webm"_s).exitCode, 3);
+        QVERIFY(QFile::link(m_command.path(m_film), m_command.path(u"link.webm"_s)));
+        QCOMPARE(m_command.run(u"plan --to WebM"_s, { m_film, u"link.webm"_s }).end(),
+            u"4: link.webm: The result can't replace a film that is to be converted.\n"_s);
     }
 
     void plan_survivesAShell()

@@ -216,6 +216,49 @@ private Q_SLOTS:
         }
     }
 
+    void destinationThatIsNoFile_isRefused()
+    {
+        QVERIFY(QFile::link(u"nowhere"_s, path(u"dangling.mp4"_s)));
+        QVERIFY(QFile::link(u"/dev/null"_s, path(u"device.mp4"_s)));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
+        for (const QString &destination :
+            { path(u"dangling.mp4"_s), path(u"device.mp4"_s), m_folder->path() }) {
+            const Conversion conversion(path(u"in.mov"_s), destination);
+            conversion.wait();
+            QVERIFY2(conversion.errors.value(0).startsWith(u"The destination is a "_s),
+                qPrintable(conversion.errors.value(0)));
+            QVERIFY(QFileInfo(destination).isSymbolicLink() || QFile::exists(destination));
+        }
+    }
+
+    // The link is the user's; the unfinished file is not what it shall lead to.
+    void failureThroughALink_leavesTheLinkOnly()
+    {
+        QDir(m_folder->path()).mkdir(u"sub"_s);
+        QFile target(path(u"sub/target"_s));
+        QVERIFY(target.open(QIODevice::WriteOnly));
+        QVERIFY(QFile::link(u"sub/target"_s, path(u"out.mp4"_s)));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
+        const Conversion conversion(path(u"in.mov"_s), path(u"out.mp4"_s));
+        conversion.wait();
+        QCOMPARE(conversion.errors, QStringList{ u"(none)"_s });
+        QVERIFY(!target.exists());
+        QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
+    }
+
+    void namesThatReadLikeAFailure_areNone()
+    {
+        const QString name = path(u"a\nError closing file.mp4"_s);
+        QByteArray printed = name.toUtf8();
+        printed.replace("\n", "\\n");
+        const ToolSwap swap(
+            u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|print:Output to '" + printed + "'\\n");
+        const Conversion conversion(path(u"in.mov"_s), name);
+        conversion.wait();
+        QCOMPARE(conversion.errors, QStringList());
+        QVERIFY(QFile::exists(name));
+    }
+
     void secondRunToOnePlace_waitsForTheFirst()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "deaf|output|forever");

@@ -3,6 +3,7 @@
 #include "support/MainQueue.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <memory>
@@ -75,6 +76,13 @@ private Q_SLOTS:
         QTRY_COMPARE(order.size(), 3);
         QCOMPARE(order.join(u", "_s), u"now, overdue, late"_s);
         QVERIFY2(elapsed >= 120, qPrintable(QString::number(elapsed)));
+
+        // Longer than the library's timers can wait.
+        QTest::failOnWarning(QRegularExpression(u"[Tt]imer"_s));
+        bool ran = false;
+        MainQueue::postAfter(24h * 40, [&ran] { ran = true; });
+        QTest::qWait(50);
+        QVERIFY(!ran);
     }
 
     void blockOfAnEarlierApplication_isDropped()
