@@ -51,8 +51,10 @@ public:
     {
     }
 
-    std::optional<Failure> run(
-        const VideoConstraints &entry, const JSON &info, Interruption &interruption);
+    /// Lets the tool get ready; run() or abandon() follows.
+    void prepare(const VideoConstraints &entry);
+    void abandon() { m_info.set_value(std::nullopt); }
+    std::optional<Failure> run(const JSON &info, Interruption &interruption);
 
 private:
     void wait(Interruption &interruption);
@@ -61,17 +63,23 @@ private:
     const ConversionItem &m_item;
     Reporter &m_reporter;
     QElapsedTimer m_clock;
+    std::promise<std::optional<JSON>> m_info;
     std::shared_ptr<Progress> m_progress;
     std::optional<RunFailure> m_failure;
 };
 
-std::optional<Failure> Conversion::run(
-    const VideoConstraints &entry, const JSON &info, Interruption &interruption)
+void Conversion::prepare(const VideoConstraints &entry)
+{
+    m_progress
+        = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, m_info.get_future().share(),
+            [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
+}
+
+std::optional<Failure> Conversion::run(const JSON &info, Interruption &interruption)
 {
     m_clock.start();
     m_reporter.started(m_item);
-    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info,
-        [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
+    m_info.set_value(info);
     wait(interruption);
     std::optional<Failure> failure = outcome();
     if (!failure)
@@ -119,15 +127,18 @@ std::optional<Failure> converted(const ConversionItem &item, const CommandLine &
 {
     if (auto refusal = destinationRefusal(item.destPath, all, line.overwrite))
         return refusal;
+    Conversion conversion(item, reporter);
+    conversion.prepare(line.entries.front());
     const auto film = examined(item.path, Cover::LeftOut, interruption);
-    if (const auto *refusal = std::get_if<Failure>(&film))
-        return *refusal;
-    if (!line.overwrite) {
-        if (auto refusal = takenMeanwhile(item.destPath))
-            return refusal;
+    const auto *failure = std::get_if<Failure>(&film);
+    std::optional<Failure> refusal = failure ? std::optional(*failure) : std::nullopt;
+    if (!refusal && !line.overwrite)
+        refusal = takenMeanwhile(item.destPath);
+    if (refusal) {
+        conversion.abandon();
+        return refusal;
     }
-    return Conversion(item, reporter)
-        .run(line.entries.front(), std::get<FilmDescription>(film).info, interruption);
+    return conversion.run(std::get<FilmDescription>(film).info, interruption);
 }
 
 /// The other films have no better chance.

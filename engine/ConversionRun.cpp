@@ -39,11 +39,21 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
     , m_progress(std::move(progress))
     , m_errorHandler(std::move(errorHandler))
 {
+    // Where the user keeps a link, what it leads to is written, and removed after a failure.
+    m_job.destPath = linkTarget(m_job.destPath);
 }
 
-void ConversionRun::run()
+void ConversionRun::run(const FFMPEG::PendingInfo &conversionInfo)
 {
-    if (isSameFile(m_job.path, m_job.destPath)) {
+    Task task;
+    prepare(task);
+    if (conversionInfo.wait_for(std::chrono::seconds::zero()) != std::future_status::ready)
+        task.launchAhead();
+    const std::optional<JSON> info = conversionInfo.get();
+    m_job.conversionInfo = info.value_or(JSON());
+    if (!info) {
+        task.terminate();
+    } else if (isSameFile(m_job.path, m_job.destPath)) {
         // The tool would empty the source before it read it, and the clean-up would remove it.
         postError(localized(
             QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
@@ -51,19 +61,22 @@ void ConversionRun::run()
     } else if (const std::optional<QString> obstacle = obstacleAt(m_job.destPath)) {
         postError(obstacle);
     } else {
-        // Where the user keeps a link, what it leads to is written, and removed after a failure.
-        m_job.destPath = linkTarget(m_job.destPath);
-        convert();
+        convert(task);
     }
     m_progress->end(m_output);
 }
 
-void ConversionRun::convert()
+void ConversionRun::prepare(Task &task) const
+{
+    task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
+    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
+}
+
+void ConversionRun::convert(Task &task)
 {
     const DestinationClaim claim(m_job.destPath, [this] { return m_progress->isCancelled(); });
     if (!claim.isHeld())
         return;
-    Task task;
     const bool launched = launch(task);
     if (launched) {
         follow(task);
@@ -74,9 +87,7 @@ void ConversionRun::convert()
 
 bool ConversionRun::launch(Task &task)
 {
-    task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
     task.setArguments(conversionArguments(m_job));
-    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;

@@ -14,7 +14,7 @@ struct ConversionJob {
     QString path;
     QString destPath;
     VideoConstraints constraints;
-    JSON conversionInfo;
+    JSON conversionInfo = {};
 };
 
 /// The complete argument list of the tool for a conversion.
@@ -28,10 +28,12 @@ public:
     ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,
         FFMPEG::ConversionErrorHandler errorHandler);
 
-    void run();
+    /// Waits for the media information; the tool is loaded meanwhile.
+    void run(const FFMPEG::PendingInfo &conversionInfo);
 
 private:
-    void convert();
+    void prepare(Task &task) const;
+    void convert(Task &task);
     bool launch(Task &task);
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);

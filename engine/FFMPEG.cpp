@@ -90,11 +90,21 @@ std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString
     const VideoConstraints &constraints, const JSON &conversionInfo,
     ConversionErrorHandler errorHandler)
 {
+    std::promise<std::optional<JSON>> known;
+    known.set_value(conversionInfo);
+    return convertFile(
+        path, destPath, constraints, known.get_future().share(), std::move(errorHandler));
+}
+
+std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString &destPath,
+    const VideoConstraints &constraints, const PendingInfo &conversionInfo,
+    ConversionErrorHandler errorHandler)
+{
     auto progress = std::make_shared<Progress>(-1);
     progress->setKind(Progress::Kind::File);
-    Async::background([job = ConversionJob{ path, destPath, constraints, conversionInfo }, progress,
+    Async::background([job = ConversionJob{ path, destPath, constraints }, progress, conversionInfo,
                           errorHandler = std::move(errorHandler)] {
-        ConversionRun(job, progress, errorHandler).run();
+        ConversionRun(job, progress, errorHandler).run(conversionInfo);
     });
     return progress;
 }

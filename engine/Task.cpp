@@ -47,24 +47,47 @@ Task::~Task() { terminate(); }
 
 void Task::setLaunchPath(const QString &path) { m_launchPath = path; }
 
-void Task::setArguments(const QStringList &arguments) { m_process.setArguments(arguments); }
+void Task::setArguments(const QStringList &arguments) { m_arguments = arguments; }
 
 void Task::setAccess(const ToolAccess &access) { m_access = access; }
 
+void Task::launchAhead()
+{
+    auto lateArguments = std::make_unique<LateArguments>();
+    if (!lateArguments->isPossible())
+        return;
+    m_lateArguments = std::move(lateArguments);
+    m_process.setProcessEnvironment(m_lateArguments->environment());
+    start(LateArguments::placeholders());
+    m_process.setProcessEnvironment(QProcessEnvironment(QProcessEnvironment::InheritFromParent));
+}
+
 void Task::launch()
+{
+    const auto lateArguments = std::move(m_lateArguments);
+    if (!lateArguments || !lateArguments->send(m_arguments)) {
+        terminate();
+        if (!start(m_arguments))
+            throw LaunchException{ invalidArgument,
+                m_launchPath + u": "_s + m_process.errorString() };
+    }
+    m_lastOutput = std::chrono::steady_clock::now();
+}
+
+bool Task::start(const QStringList &arguments)
 {
     const Sandbox sandbox(m_launchPath, m_access);
     if (!sandbox.isConfining())
         Console::print(u"the tool runs without a sandbox: this kernel offers none"_s);
-    m_process.setChildProcessModifier([parent = ::getpid(), &sandbox] {
-        dieWithParent(parent);
-        sandbox.enter();
-    });
-    m_process.setProgram(m_launchPath);
-    m_process.start(QIODevice::ReadOnly);
-    if (!m_process.waitForStarted(-1))
-        throw LaunchException{ invalidArgument, m_launchPath + u": "_s + m_process.errorString() };
-    m_lastOutput = std::chrono::steady_clock::now();
+    m_process.setChildProcessModifier(
+        [parent = ::getpid(), &sandbox, lateArguments = m_lateArguments.get()] {
+            dieWithParent(parent);
+            sandbox.enter();
+            if (lateArguments)
+                lateArguments->enter();
+        });
+    m_process.start(m_launchPath, arguments, QIODevice::ReadOnly);
+    return m_process.waitForStarted(-1);
 }
 
 bool Task::tryLaunch(LaunchError *error)

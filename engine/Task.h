@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/LateArguments.h"
 #include "engine/Sandbox.h"
 
 #include <QByteArray>
@@ -9,6 +10,7 @@
 #include <QStringList>
 
 #include <chrono>
+#include <memory>
 
 /// Raised by Task::launch.
 struct LaunchException {
@@ -41,6 +43,9 @@ public:
     /// Grants the tool the files that it needs; see Sandbox.
     void setAccess(const ToolAccess &access);
 
+    /// Starts the tool before its arguments are set, so that it is ready at the launch. Nothing
+    /// that it does can be noticed before; where the system offers no such start, nothing happens.
+    void launchAhead();
     /// Errors: throws LaunchException.
     virtual void launch();
     /// Launches under a guard. False exactly when an error was produced: for the exception named
@@ -71,8 +76,12 @@ public:
     static void stopReading();
 
 private:
+    bool start(const QStringList &arguments);
+
     QProcess m_process;
     QString m_launchPath;
+    QStringList m_arguments;
+    std::unique_ptr<LateArguments> m_lateArguments;
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};

@@ -246,6 +246,25 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
     }
 
+    void filmThatIsRefused_leavesTheDestinationAlone()
+    {
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output");
+        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"out.mp4"_s)));
+        for (const bool accepted : { false, true }) {
+            std::promise<std::optional<JSON>> info;
+            const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
+                videoConstraints(u"MP4"_s, {}, {}, {}).value(), info.get_future().share(),
+                [](const std::optional<QString> &) { QFAIL("no error"); });
+            QTRY_COMPARE(Processes::children().size(), 1);
+            QTest::qWait(100);
+            QVERIFY(!progress->isEnded());
+            QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), 8);
+            info.set_value(accepted ? std::optional(JSON()) : std::nullopt);
+            QTRY_VERIFY(progress->isEnded());
+            QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), accepted ? 0 : 8);
+        }
+    }
+
     void namesThatReadLikeAFailure_areNone()
     {
         const QString name = path(u"a\nError closing file.mp4"_s);

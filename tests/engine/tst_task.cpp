@@ -6,6 +6,7 @@
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -69,6 +70,66 @@ private Q_SLOTS:
         QVERIFY(error.domain.isEmpty() && error.localizedDescription.isEmpty());
         task.thrower = [] { throw LaunchException{ u"NSGenericException"_s, u"why"_s }; };
         QVERIFY_THROWS_EXCEPTION(LaunchException, task.tryLaunch(&error));
+    }
+
+    // Whatever the tool is, what it prints and how it is listed are those of the launch proper.
+    void launchAhead_changesNothingButTheTime_data()
+    {
+        using With = ToolSwap::With;
+        const QByteArray wrapper = "#!/bin/sh\necho \"$@\"; sleep 0.2\n";
+        addRows<With, QByteArray, int, bool>({ "replacement", "script", "length", "heldBack" },
+            {
+                { "real program", With::FakeTool, "arguments|sleep:200", 5, true },
+                { "no room", With::FakeTool, "arguments|sleep:200", 20'000, false },
+                { "shell script", With::Nothing, wrapper, 5, true },
+            });
+    }
+    void launchAhead_changesNothingButTheTime()
+    {
+        QFETCH(const ToolSwap::With, replacement);
+        QFETCH(const QByteArray, script);
+        QFETCH(const int, length);
+        const ToolSwap swap(u"ffmpeg"_s, replacement, script);
+        if (replacement == ToolSwap::With::Nothing) {
+            QFile tool(toolPath());
+            QVERIFY(tool.open(QIODevice::WriteOnly) && tool.write(script) > 0);
+            QVERIFY(tool.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        }
+        const QString last = u"ü "_s + QString(length, u'x');
+        Task task;
+        task.setLaunchPath(toolPath());
+        task.launchAhead();
+        QCOMPARE(Processes::children().size(), 1);
+        QTest::qWait(100);
+        const QList<qint64> waiting = Processes::withArgument(u"-version"_s);
+        QCOMPARE(waiting.size(), 1);
+        task.setArguments({ u"-first"_s, QString(), last });
+        QVERIFY(task.tryLaunch());
+        QTRY_COMPARE(Processes::withArgument(last).size(), 1);
+        QTEST(Processes::withArgument(last) == waiting, "heldBack");
+        QByteArray output = task.readDataToEndOfFile();
+        output.replace('\t', ' ');
+        QVERIFY2(
+            QString::fromUtf8(output).endsWith(u"-first  "_s + last + u"\n"_s), output.constData());
+        QCOMPARE(task.terminationStatus(), 0);
+    }
+
+    void launchAhead_withoutALaunch_leavesNothing()
+    {
+        for (const auto replacement : { ToolSwap::With::FakeTool, ToolSwap::With::Nothing }) {
+            const ToolSwap swap(u"ffmpeg"_s, replacement, "deaf|forever");
+            QElapsedTimer timer;
+            timer.start();
+            {
+                Task task;
+                task.setLaunchPath(toolPath());
+                task.launchAhead();
+                if (replacement == ToolSwap::With::Nothing)
+                    QVERIFY(!task.tryLaunch());
+            }
+            QCOMPARE(Processes::children(), QStringList());
+            QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+        }
     }
 
     void output_isReadInFull()
