@@ -6,6 +6,7 @@
 #include "cli/Reporter.h"
 #include "cli/ToolFailure.h"
 #include "engine/FFMPEG.h"
+#include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "support/Format.h"
 #include "support/Interruption.h"
@@ -53,7 +54,7 @@ public:
 
     /// Lets the tool get ready; run() or abandon() follows.
     void prepare(const VideoConstraints &entry);
-    void abandon() { m_info.set_value(std::nullopt); }
+    void abandon() { m_info->tell(std::nullopt); }
     std::optional<Failure> run(const JSON &info, Interruption &interruption);
 
 private:
@@ -63,23 +64,22 @@ private:
     const ConversionItem &m_item;
     Reporter &m_reporter;
     QElapsedTimer m_clock;
-    std::promise<std::optional<JSON>> m_info;
+    std::shared_ptr<PendingInfo> m_info = std::make_shared<PendingInfo>();
     std::shared_ptr<Progress> m_progress;
     std::optional<RunFailure> m_failure;
 };
 
 void Conversion::prepare(const VideoConstraints &entry)
 {
-    m_progress
-        = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, m_info.get_future().share(),
-            [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
+    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, m_info,
+        [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
 }
 
 std::optional<Failure> Conversion::run(const JSON &info, Interruption &interruption)
 {
     m_clock.start();
     m_reporter.started(m_item);
-    m_info.set_value(info);
+    m_info->tell(info);
     wait(interruption);
     std::optional<Failure> failure = outcome();
     if (!failure)

@@ -4,6 +4,7 @@
 #include "engine/Async.h"
 #include "engine/DestinationClaim.h"
 #include "engine/Obstacle.h"
+#include "engine/PendingInfo.h"
 #include "engine/Task.h"
 #include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
@@ -43,13 +44,13 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
     m_job.destPath = linkTarget(m_job.destPath);
 }
 
-void ConversionRun::run(const FFMPEG::PendingInfo &conversionInfo)
+void ConversionRun::run(PendingInfo &conversionInfo)
 {
     Task task;
     prepare(task);
-    if (conversionInfo.wait_for(std::chrono::seconds::zero()) != std::future_status::ready)
+    if (!conversionInfo.isTold())
         task.launchAhead();
-    const std::optional<JSON> info = conversionInfo.get();
+    const std::optional<JSON> info = conversionInfo.wait();
     m_job.conversionInfo = info.value_or(JSON());
     if (!info) {
         task.terminate();

@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+class PendingInfo;
 class Task;
 
 /// What one conversion is asked to do.
@@ -29,7 +30,7 @@ public:
         FFMPEG::ConversionErrorHandler errorHandler);
 
     /// Waits for the media information; the tool is loaded meanwhile.
-    void run(const FFMPEG::PendingInfo &conversionInfo);
+    void run(PendingInfo &conversionInfo);
 
 private:
     void prepare(Task &task) const;

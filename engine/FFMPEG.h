@@ -8,10 +8,10 @@
 #include <QString>
 
 #include <functional>
-#include <future>
 #include <memory>
 #include <optional>
 
+class PendingInfo;
 class Progress;
 
 /// Why a file can't be converted.
@@ -39,10 +39,6 @@ public:
     /// `errmsg` is meant for the user; absent when the tool failed.
     using ConversionErrorHandler = std::function<void(const std::optional<QString> &errmsg)>;
 
-    /// A media information that comes later, or not at all: then nothing is converted, and what is
-    /// at the destination stays.
-    using PendingInfo = std::shared_future<std::optional<JSON>>;
-
     FFMPEG() = delete;
 
     /// Describes a film. Exactly one of the handlers runs.
@@ -62,9 +58,10 @@ public:
         const VideoConstraints &constraints, const JSON &conversionInfo,
         ConversionErrorHandler errorHandler);
     /// The same for a film that is still examined: the tool is loaded meanwhile. The run ends only
-    /// after the information, or its absence, has been told.
+    /// after the information has been told. For a film that is refused nothing is done, and what is
+    /// at the destination stays.
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
-        const VideoConstraints &constraints, const PendingInfo &conversionInfo,
+        const VideoConstraints &constraints, const std::shared_ptr<PendingInfo> &conversionInfo,
         ConversionErrorHandler errorHandler);
 
     /// Ends probes that still run and waits until every conversion is over. Called once, before the

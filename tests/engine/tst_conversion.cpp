@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/FFMPEG.h"
+#include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "engine/SerialQueue.h"
 #include "support/Console.h"
@@ -251,15 +252,15 @@ private Q_SLOTS:
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output");
         QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"out.mp4"_s)));
         for (const bool accepted : { false, true }) {
-            std::promise<std::optional<JSON>> info;
+            const auto info = std::make_shared<PendingInfo>();
             const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
-                videoConstraints(u"MP4"_s, {}, {}, {}).value(), info.get_future().share(),
+                videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
                 [](const std::optional<QString> &) { QFAIL("no error"); });
             QTRY_COMPARE(Processes::children().size(), 1);
             QTest::qWait(100);
             QVERIFY(!progress->isEnded());
             QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), 8);
-            info.set_value(accepted ? std::optional(JSON()) : std::nullopt);
+            info->tell(accepted ? std::optional(JSON()) : std::nullopt);
             QTRY_VERIFY(progress->isEnded());
             QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), accepted ? 0 : 8);
         }
