@@ -10,6 +10,7 @@
 
 namespace {
 
+// Never destroyed: a run's thread may go after the main one.
 struct Claims {
     std::mutex mutex;
     std::condition_variable released;
@@ -18,7 +19,7 @@ struct Claims {
 
 Claims &claims()
 {
-    static Claims all;
+    static Claims &all = *new Claims;
     return all;
 }
 
