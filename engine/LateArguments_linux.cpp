@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "engine/LateArguments.h"
-
 #include "support/Bundle.h"
 
 #include <QFile>
@@ -31,14 +30,12 @@ bool canBePutInFront(const QString &library)
 LateArguments::LateArguments()
     : m_library(Bundle::main().bundlePath() + u"/Contents/Frameworks/arguments-later.so"_s)
 {
-#ifdef Q_OS_LINUX
     std::array<int, 2> ends{ -1, -1 };
     if (!canBePutInFront(m_library)
         || ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return;
     m_ourEnd = ends[0];
     m_toolEnd = ends[1];
-#endif
 }
 
 LateArguments::~LateArguments()
