@@ -7,6 +7,7 @@
 #include "support/Console.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -34,10 +35,11 @@ std::pair<double, int> run(int reports)
     // The pauses let the shorter ones be read one by one.
     const QByteArray script = QByteArray::number(reports) + (reports > 1000 ? ":60" : ":200");
     qputenv("FAKE_TOOL_SCRIPT", "print:Duration: 00:01:40.00, start: 0\\n|reports:" + script);
+    const QTemporaryDir folder;
     int seen = 0;
     const double before = processorMicroseconds();
-    const auto progress
-        = FFMPEG::convertFile(u"/dev/zero"_s, u"/dev/null"_s, mp4, JSON(), [](const auto &) {});
+    const auto progress = FFMPEG::convertFile(
+        u"/dev/zero"_s, folder.filePath(u"out.mp4"_s), mp4, JSON(), [](const auto &) {});
     progress->addObserver(Progress::Key::CompletedUnitCount, &seen, [&](Progress::Key) { ++seen; });
     SerialQueue::waitForAll();
     return { processorMicroseconds() - before, seen };
@@ -63,6 +65,8 @@ int main(int argc, char *argv[])
     const double empty = median(0).first;
     for (const int reports : { 10, 1000, 100'000 }) {
         const auto [microseconds, seen] = median(reports);
+        if (seen == 0)
+            qFatal("No report was read");
         std::printf("%d %d %.2f\n", reports, seen, (microseconds - empty) / reports);
     }
     return 0;
