@@ -118,9 +118,11 @@ QByteArray Task::availableData()
     const auto start = std::chrono::steady_clock::now();
     if (m_process.bytesAvailable() == 0)
         m_process.waitForReadyRead(waitMilliseconds);
-    // Small pieces in quick succession are read together: each costs several system calls.
+    // Many small pieces in quick succession are read together: each costs several system calls. A
+    // few, as at a tool's end, are not worth the wait.
     const auto now = std::chrono::steady_clock::now();
-    if (isRunning() && m_process.bytesAvailable() < smallPiece && now - m_lastOutput < 20ms) {
+    m_quickPieces = now - m_lastOutput < 20ms ? m_quickPieces + 1 : 0;
+    if (isRunning() && m_process.bytesAvailable() < smallPiece && m_quickPieces > 20) {
         std::this_thread::sleep_for(5ms);
         m_process.waitForReadyRead(0);
     }

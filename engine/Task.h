@@ -85,4 +85,5 @@ private:
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};
+    int m_quickPieces = 0;
 };
