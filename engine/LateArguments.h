@@ -16,8 +16,8 @@ public:
 
     [[nodiscard]] bool isPossible() const { return m_toolEnd >= 0; }
 
-    /// What the tool is started with. Where it is not held back all the same, it tells its version
-    /// and ends.
+    /// What the tool is started with; engine/preload knows it again. Where it is not held back all
+    /// the same, it tells its version and ends.
     [[nodiscard]] static QStringList placeholders();
     [[nodiscard]] QProcessEnvironment environment() const;
     /// To be called in the tool's process between fork and exec.

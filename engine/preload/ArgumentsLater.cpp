@@ -17,6 +17,18 @@ using StartMain = int (*)(Main, int, char **, Hook, Hook, Hook, void *);
 /// What the starting program has left in the environment; see LateArguments.
 constexpr const char *channelName = "VIDEO_CONVERTER_ARGUMENTS_FD";
 
+// Only the tool itself was started with the room, not what a script before it runs with the same
+// environment. Where the script has added arguments of its own, the room is not at the end.
+bool endsWithRoom(int argc, char **argv)
+{
+    if (argc < 3)
+        return false;
+    const char *placeholder = argv[argc - 2];
+    const char *dots = argv[argc - 1];
+    return std::strcmp(placeholder, "-version") == 0 && dots == placeholder + sizeof "-version"
+        && std::strspn(dots, ".") == std::strlen(dots);
+}
+
 // Reads to the end; the arguments are separated by zeros. What is left of the room is cleared.
 std::size_t receive(int channel, char *room, std::size_t size)
 {
@@ -47,7 +59,7 @@ extern "C" __attribute__((visibility("default"))) int __libc_start_main(
 {
     const auto start = reinterpret_cast<StartMain>(::dlsym(RTLD_NEXT, "__libc_start_main"));
     const char *channel = std::getenv(channelName);
-    if (!channel || argc < 3)
+    if (!channel || !endsWithRoom(argc, argv))
         return start(main, argc, argv, init, fini, linkerFini, stackEnd);
     char *room = argv[argc - 2];
     const std::size_t size

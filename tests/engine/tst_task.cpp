@@ -114,6 +114,27 @@ private Q_SLOTS:
         QCOMPARE(task.terminationStatus(), 0);
     }
 
+    // A script before the tool may start helpers, which get its environment, or add arguments.
+    void environmentOfALateStart_changesNoOtherProgram()
+    {
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
+        const QStringList others[] = { { u"-a"_s, u"bc"_s, u"..."_s },
+            LateArguments::placeholders() << u"-threads"_s << u"1"_s };
+        for (const QStringList &arguments : others) {
+            LateArguments late;
+            QVERIFY(late.isPossible());
+            QProcess program;
+            program.setProcessEnvironment(late.environment());
+            program.setChildProcessModifier([&late] { late.enter(); });
+            program.start(toolPath(), arguments, QIODevice::ReadOnly);
+            QVERIFY(program.waitForStarted());
+            QVERIFY(!late.send({ u"-of"_s, u"the"_s, u"tool"_s }));
+            QVERIFY(program.waitForFinished(5000));
+            QCOMPARE(program.readAllStandardError().trimmed().split('\t').last(),
+                arguments.last().toUtf8());
+        }
+    }
+
     void launchAhead_withoutALaunch_leavesNothing()
     {
         for (const auto replacement : { ToolSwap::With::FakeTool, ToolSwap::With::Nothing }) {
