@@ -40,8 +40,6 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
     , m_progress(std::move(progress))
     , m_errorHandler(std::move(errorHandler))
 {
-    // Where the user keeps a link, what it leads to is written, and removed after a failure.
-    m_job.destPath = linkTarget(m_job.destPath);
 }
 
 void ConversionRun::run(PendingInfo &conversionInfo)
@@ -52,6 +50,9 @@ void ConversionRun::run(PendingInfo &conversionInfo)
         task.launchAhead();
     const std::optional<JSON> info = conversionInfo.wait();
     m_job.conversionInfo = info.value_or(JSON());
+    // Where the user keeps a link, what it leads to is written, and removed after a failure.
+    m_job.destPath = linkTarget(m_job.destPath);
+    prepare(task);
     if (!info) {
         task.terminate();
     } else if (isSameFile(m_job.path, m_job.destPath)) {
@@ -70,7 +71,7 @@ void ConversionRun::run(PendingInfo &conversionInfo)
 void ConversionRun::prepare(Task &task) const
 {
     task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
-    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
+    task.setAccess({ { m_job.path }, { QFileInfo(linkTarget(m_job.destPath)).path() } });
 }
 
 void ConversionRun::convert(Task &task)

@@ -33,6 +33,15 @@ void dieWithParent([[maybe_unused]] pid_t parent)
 #endif
 }
 
+// What a sandbox grants are these, not what the paths lead to later.
+std::vector<FileIdentity> filesOf(const ToolAccess &access)
+{
+    std::vector<FileIdentity> files;
+    for (const QString &path : access.readableFiles + access.writableFolders)
+        files.push_back(fileIdentity(path));
+    return files;
+}
+
 }
 
 const QString Task::invalidArgument = u"NSInvalidArgumentException"_s;
@@ -57,6 +66,7 @@ void Task::launchAhead()
     if (!lateArguments->isPossible())
         return;
     m_lateArguments = std::move(lateArguments);
+    m_filesAhead = filesOf(m_access);
     m_process.setProcessEnvironment(m_lateArguments->environment());
     start(LateArguments::placeholders());
     m_process.setProcessEnvironment(QProcessEnvironment(QProcessEnvironment::InheritFromParent));
@@ -65,7 +75,8 @@ void Task::launchAhead()
 void Task::launch()
 {
     const auto lateArguments = std::move(m_lateArguments);
-    if (!lateArguments || !lateArguments->send(m_arguments)) {
+    const bool isReady = lateArguments && m_filesAhead == filesOf(m_access);
+    if (!isReady || !lateArguments->send(m_arguments)) {
         terminate();
         if (!start(m_arguments))
             throw LaunchException{ invalidArgument,

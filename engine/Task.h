@@ -3,6 +3,7 @@
 
 #include "engine/LateArguments.h"
 #include "engine/Sandbox.h"
+#include "support/FileSystem.h"
 
 #include <QByteArray>
 #include <QProcess>
@@ -11,6 +12,7 @@
 
 #include <chrono>
 #include <memory>
+#include <vector>
 
 /// Raised by Task::launch.
 struct LaunchException {
@@ -45,6 +47,7 @@ public:
 
     /// Starts the tool before its arguments are set, so that it is ready at the launch. Nothing
     /// that it does can be noticed before; where the system offers no such start, nothing happens.
+    /// Its access may still change: then it is started anew.
     void launchAhead();
     /// Errors: throws LaunchException.
     virtual void launch();
@@ -82,6 +85,7 @@ private:
     QString m_launchPath;
     QStringList m_arguments;
     std::unique_ptr<LateArguments> m_lateArguments;
+    std::vector<FileIdentity> m_filesAhead;
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};

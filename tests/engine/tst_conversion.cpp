@@ -266,6 +266,32 @@ private Q_SLOTS:
         }
     }
 
+    // The waiting tool was granted the files that the paths led to when it was started.
+    void whatChangesDuringTheExamination_isConvertedAsItIs()
+    {
+        const QByteArray reading = "read:" + QFile::encodeName(path(u"in.mov"_s));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, reading + "|output|exit:1");
+        QStringList errors;
+        const auto info = std::make_shared<PendingInfo>();
+        const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
+            videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
+            [&](const std::optional<QString> &errmsg) { errors << errmsg.value_or(u"(none)"_s); });
+        QTRY_COMPARE(Processes::children().size(), 1);
+        QTest::qWait(100);
+        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"new.mov"_s)));
+        QVERIFY(QFile::remove(path(u"in.mov"_s)));
+        QVERIFY(QFile::rename(path(u"new.mov"_s), path(u"in.mov"_s)));
+        QVERIFY(QDir(m_folder->path()).mkdir(u"sub"_s));
+        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"sub/target"_s)));
+        QVERIFY(QFile::link(u"sub/target"_s, path(u"out.mp4"_s)));
+        info->tell(JSON());
+        QTRY_COMPARE(errors, QStringList{ u"(none)"_s });
+        QTRY_VERIFY(progress->isEnded());
+        QCOMPARE(progress->toolOutput(), QByteArray("allowed "));
+        QVERIFY(!QFile::exists(path(u"sub/target"_s)));
+        QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
+    }
+
     void namesThatReadLikeAFailure_areNone()
     {
         const QString name = path(u"a\nError closing file.mp4"_s);
