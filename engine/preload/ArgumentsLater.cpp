@@ -17,6 +17,18 @@ using StartMain = int (*)(Main, int, char **, Hook, Hook, Hook, void *);
 /// What the starting program has left in the environment; see LateArguments.
 constexpr const char *channelName = "VIDEO_CONVERTER_ARGUMENTS_FD";
 
+// Not by unsetenv(): a shell has one of its own, which knows nothing of the environment so early.
+void removeFromEnvironment(const char *name)
+{
+    const std::size_t length = std::strlen(name);
+    char **kept = environ;
+    for (char **each = environ; *each; ++each) {
+        if (std::strncmp(*each, name, length) != 0 || (*each)[length] != '=')
+            *kept++ = *each;
+    }
+    *kept = nullptr;
+}
+
 // Only the tool itself was started with the room, not what a script before it runs with the same
 // environment. Where the script has added arguments of its own, the room is not at the end.
 bool endsWithRoom(int argc, char **argv)
@@ -65,8 +77,8 @@ extern "C" __attribute__((visibility("default"))) int __libc_start_main(
     const std::size_t size
         = static_cast<std::size_t>(argv[argc - 1] - room) + std::strlen(argv[argc - 1]);
     const std::size_t length = receive(std::atoi(channel), room, size);
-    ::unsetenv(channelName);
-    ::unsetenv("LD_PRELOAD");
+    removeFromEnvironment(channelName);
+    removeFromEnvironment("LD_PRELOAD");
     // One pointer for each byte is more than enough.
     auto **arguments = static_cast<char **>(std::calloc(length + size_t(argc), sizeof(char *)));
     int count = 0;

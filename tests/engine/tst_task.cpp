@@ -76,12 +76,15 @@ private Q_SLOTS:
     void launchAhead_changesNothingButTheTime_data()
     {
         using With = ToolSwap::With;
-        const QByteArray wrapper = "#!/bin/sh\necho \"$@\"; sleep 0.2\n";
+        const QByteArray wrapper
+            = "\n[ -z \"$LD_PRELOAD$VIDEO_CONVERTER_ARGUMENTS_FD\" ] && echo \"$@\"; sleep 0.2\n";
         addRows<With, QByteArray, int, bool>({ "replacement", "script", "length", "heldBack" },
             {
                 { "real program", With::FakeTool, "arguments|sleep:200", 5, true },
                 { "no room", With::FakeTool, "arguments|sleep:200", 20'000, false },
-                { "shell script", With::Nothing, wrapper, 5, true },
+                { "shell script", With::Nothing, "#!/bin/sh" + wrapper, 5, true },
+                { "shell with an environment of its own", With::Nothing, "#!/bin/bash" + wrapper, 5,
+                    true },
             });
     }
     void launchAhead_changesNothingButTheTime()
