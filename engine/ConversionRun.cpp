@@ -79,12 +79,21 @@ void ConversionRun::convert(Task &task)
     const DestinationClaim claim(m_job.destPath, [this] { return m_progress->isCancelled(); });
     if (!claim.isHeld())
         return;
-    const bool launched = launch(task);
+    const bool launched = waitUntilLoaded(task) && launch(task);
     if (launched) {
         follow(task);
         judge(task);
     }
     finish(task, launched);
+}
+
+bool ConversionRun::waitUntilLoaded(Task &task) const
+{
+    while (task.isLoading()) {
+        if (m_progress->isCancelled())
+            return false;
+    }
+    return true;
 }
 
 bool ConversionRun::launch(Task &task)

@@ -35,6 +35,7 @@ public:
 private:
     void prepare(Task &task) const;
     void convert(Task &task);
+    [[nodiscard]] bool waitUntilLoaded(Task &task) const;
     bool launch(Task &task);
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QProcessEnvironment>
 #include <QStringList>
 
@@ -23,14 +24,19 @@ public:
     /// To be called in the tool's process between fork and exec.
     void enter() const;
 
-    /// To be called once the tool has been started. True when it has taken the arguments; false
-    /// when it was not held back.
+    /// Waits a moment for the tool, once it has been started. False when it is held back or has
+    /// ended, or has had time enough.
+    [[nodiscard]] bool isLoading();
+    /// Waits until the tool is loaded. True when it has taken the arguments; false when it was not
+    /// held back.
     [[nodiscard]] bool send(const QStringList &arguments);
 
 private:
     void closeToolEnd();
+    bool hasNews(qint64 milliseconds);
 
     QString m_library;
+    QDeadlineTimer m_patience{ std::chrono::seconds(10) };
     int m_ourEnd = -1;
     int m_toolEnd = -1;
 };

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype room = 16384;
-constexpr int loadingMilliseconds = 10'000;
 
 // The linker's variable knows no quoting, and one of the user's own has its reasons.
 bool canBePutInFront(const QString &library)
@@ -57,15 +56,15 @@ QProcessEnvironment LateArguments::environment() const
 
 void LateArguments::enter() const { ::fcntl(m_toolEnd, F_SETFD, 0); }
 
+bool LateArguments::isLoading() { return !hasNews(100) && !m_patience.hasExpired(); }
+
 bool LateArguments::send(const QStringList &arguments)
 {
-    closeToolEnd();
     QByteArray block;
     for (const QString &argument : arguments)
         block += QFile::encodeName(argument) + '\0';
-    pollfd tool{ m_ourEnd, POLLIN, 0 };
     char ready = 0;
-    return block.size() <= room && ::poll(&tool, 1, loadingMilliseconds) == 1
+    return block.size() <= room && hasNews(m_patience.remainingTime())
         && ::recv(m_ourEnd, &ready, 1, 0) == 1
         && ::send(m_ourEnd, block.constData(), static_cast<std::size_t>(block.size()), MSG_NOSIGNAL)
         == block.size();
@@ -77,4 +76,11 @@ void LateArguments::closeToolEnd()
     if (m_toolEnd >= 0)
         ::close(m_toolEnd);
     m_toolEnd = -1;
+}
+
+bool LateArguments::hasNews(qint64 milliseconds)
+{
+    closeToolEnd();
+    pollfd tool{ m_ourEnd, POLLIN, 0 };
+    return ::poll(&tool, 1, static_cast<int>(milliseconds)) == 1;
 }

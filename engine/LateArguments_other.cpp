@@ -11,4 +11,6 @@ QProcessEnvironment LateArguments::environment() const { return {}; }
 
 void LateArguments::enter() const { }
 
+bool LateArguments::isLoading() { return false; }
+
 bool LateArguments::send(const QStringList &) { return false; }

@@ -72,6 +72,8 @@ void Task::launchAhead()
     m_process.setProcessEnvironment(QProcessEnvironment(QProcessEnvironment::InheritFromParent));
 }
 
+bool Task::isLoading() { return m_lateArguments && m_lateArguments->isLoading(); }
+
 void Task::launch()
 {
     const auto lateArguments = std::move(m_lateArguments);

@@ -49,6 +49,8 @@ public:
     /// that it does can be noticed before; where the system offers no such start, nothing happens.
     /// Its access may still change: then it is started anew.
     void launchAhead();
+    /// Waits a moment for a tool that was started ahead. False when the launch need not wait.
+    [[nodiscard]] bool isLoading();
     /// Errors: throws LaunchException.
     virtual void launch();
     /// Launches under a guard. False exactly when an error was produced: for the exception named

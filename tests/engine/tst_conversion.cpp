@@ -3,6 +3,7 @@
 #include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "engine/SerialQueue.h"
+#include "support/Bundle.h"
 #include "support/Console.h"
 #include "support/MainQueue.h"
 #include "tests/fixtures/Processes.h"
@@ -264,6 +265,27 @@ private Q_SLOTS:
             QTRY_VERIFY(progress->isEnded());
             QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), accepted ? 0 : 8);
         }
+    }
+
+    void toolThatNeverGetsReady_isCancelledSoon()
+    {
+        const QString library
+            = Bundle::main().bundlePath() + u"/Contents/Frameworks/arguments-later.so"_s;
+        QVERIFY(QFile::rename(library, library + u".aside"_s));
+        QVERIFY(QFile::link(path(u"in.mov"_s), library));
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "forever");
+        const auto info = std::make_shared<PendingInfo>();
+        const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
+            videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
+            [](const std::optional<QString> &) { QFAIL("no error"); });
+        const bool started = QTest::qWaitFor([] { return Processes::children().size() == 1; });
+        QTest::qWait(200);
+        QVERIFY(QFile::remove(library) && QFile::rename(library + u".aside"_s, library));
+        QVERIFY(started);
+        info->tell(JSON());
+        QTest::qWait(50);
+        progress->cancel();
+        QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 2000);
     }
 
     // The waiting tool was granted the files that the paths led to when it was started.

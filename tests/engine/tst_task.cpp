@@ -77,11 +77,11 @@ private Q_SLOTS:
     {
         using With = ToolSwap::With;
         const QByteArray wrapper
-            = "\n[ -z \"$LD_PRELOAD$VIDEO_CONVERTER_ARGUMENTS_FD\" ] && echo \"$@\"; sleep 0.2\n";
+            = "\n[ -z \"$LD_PRELOAD$VIDEO_CONVERTER_ARGUMENTS_FD\" ] && echo \"$@\"; sleep 0.4\n";
         addRows<With, QByteArray, int, bool>({ "replacement", "script", "length", "heldBack" },
             {
-                { "real program", With::FakeTool, "arguments|sleep:200", 5, true },
-                { "no room", With::FakeTool, "arguments|sleep:200", 20'000, false },
+                { "real program", With::FakeTool, "arguments|sleep:400", 5, true },
+                { "no room", With::FakeTool, "arguments|sleep:400", 20'000, false },
                 { "shell script", With::Nothing, "#!/bin/sh" + wrapper, 5, true },
                 { "shell with an environment of its own", With::Nothing, "#!/bin/bash" + wrapper, 5,
                     true },
@@ -103,8 +103,7 @@ private Q_SLOTS:
         task.setLaunchPath(toolPath());
         task.launchAhead();
         QCOMPARE(Processes::children().size(), 1);
-        QTest::qWait(100);
-        const QList<qint64> waiting = Processes::withArgument(u"-version"_s);
+        const QList<qint64> waiting = Processes::withArgument(toolPath());
         QCOMPARE(waiting.size(), 1);
         task.setArguments({ u"-first"_s, QString(), last });
         QVERIFY(task.tryLaunch());
