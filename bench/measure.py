@@ -94,8 +94,7 @@ def engine(folder):
     bare_probe = ["ffprobe", "-v", "quiet", "-print_format", "json", "-show_format", "-show_streams", source]
     bare_copy = planned("MKV", source, f"{out}.mkv")
     copy = [*convert, f"{out}.mkv", "--to", "MKV"]
-    compare("stream copy, 100 s of 1080p", copy, [bare_copy], 15)
-    compare("the same, and the probe it needs", copy, [bare_probe, bare_copy], 15)
+    compare("stream copy, 100 s of 1080p", copy, [bare_probe, bare_copy], 31)
     bare_cover = ["ffmpeg", "-an", "-ss", "00:00:40", "-i", source, folder / "cover.jpg", "-y"]
     compare("probe with cover", [CLI, "probe", source, "--json"], [bare_probe, bare_cover], 15)
 

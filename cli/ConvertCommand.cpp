@@ -6,7 +6,6 @@
 #include "cli/Reporter.h"
 #include "cli/ToolFailure.h"
 #include "engine/FFMPEG.h"
-#include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "support/Format.h"
 #include "support/Interruption.h"
@@ -52,10 +51,8 @@ public:
     {
     }
 
-    /// Lets the tool get ready; run() or abandon() follows.
-    void prepare(const VideoConstraints &entry);
-    void abandon() { m_info->tell(std::nullopt); }
-    std::optional<Failure> run(const JSON &info, Interruption &interruption);
+    std::optional<Failure> run(
+        const VideoConstraints &entry, const JSON &info, Interruption &interruption);
 
 private:
     void wait(Interruption &interruption);
@@ -64,22 +61,17 @@ private:
     const ConversionItem &m_item;
     Reporter &m_reporter;
     QElapsedTimer m_clock;
-    std::shared_ptr<PendingInfo> m_info = std::make_shared<PendingInfo>();
     std::shared_ptr<Progress> m_progress;
     std::optional<RunFailure> m_failure;
 };
 
-void Conversion::prepare(const VideoConstraints &entry)
-{
-    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, m_info,
-        [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
-}
-
-std::optional<Failure> Conversion::run(const JSON &info, Interruption &interruption)
+std::optional<Failure> Conversion::run(
+    const VideoConstraints &entry, const JSON &info, Interruption &interruption)
 {
     m_clock.start();
     m_reporter.started(m_item);
-    m_info->tell(info);
+    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info,
+        [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
     wait(interruption);
     std::optional<Failure> failure = outcome();
     if (!failure)
@@ -127,18 +119,15 @@ std::optional<Failure> converted(const ConversionItem &item, const CommandLine &
 {
     if (auto refusal = destinationRefusal(item.destPath, all, line.overwrite))
         return refusal;
-    Conversion conversion(item, reporter);
-    conversion.prepare(line.entries.front());
     const auto film = examined(item.path, Cover::LeftOut, interruption);
-    const auto *failure = std::get_if<Failure>(&film);
-    std::optional<Failure> refusal = failure ? std::optional(*failure) : std::nullopt;
-    if (!refusal && !line.overwrite)
-        refusal = takenMeanwhile(item.destPath);
-    if (refusal) {
-        conversion.abandon();
-        return refusal;
+    if (const auto *failure = std::get_if<Failure>(&film))
+        return *failure;
+    if (!line.overwrite) {
+        if (auto refusal = takenMeanwhile(item.destPath))
+            return refusal;
     }
-    return conversion.run(std::get<FilmDescription>(film).info, interruption);
+    return Conversion(item, reporter)
+        .run(line.entries.front(), std::get<FilmDescription>(film).info, interruption);
 }
 
 /// The other films have no better chance.

@@ -29,13 +29,6 @@ function(vc_test name)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${bundle}/Contents/MacOS UNITY_BUILD OFF)
     target_link_libraries(${name} PRIVATE vc_options Qt6::Test ${ARG_LINK})
     vc_bundle_tools(${bundle})
-    if(TARGET arguments-later)
-        add_dependencies(${name} arguments-later)
-        set_target_properties(${name} PROPERTIES LINK_DEPENDS $<TARGET_FILE:arguments-later>)
-        add_custom_command(TARGET ${name} POST_BUILD
-            COMMAND ${CMAKE_COMMAND} -E make_directory ${bundle}/Contents/Frameworks
-            COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:arguments-later> ${bundle}/Contents/Frameworks)
-    endif()
     set(command ${name})
     if(ARG_DISPLAY)
         set(command ${CMAKE_SOURCE_DIR}/tests/with-display $<TARGET_FILE:${name}>)

@@ -4,7 +4,6 @@
 #include "engine/Async.h"
 #include "engine/DestinationClaim.h"
 #include "engine/Obstacle.h"
-#include "engine/PendingInfo.h"
 #include "engine/Task.h"
 #include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
@@ -42,20 +41,11 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
 {
 }
 
-void ConversionRun::run(PendingInfo &conversionInfo)
+void ConversionRun::run()
 {
-    Task task;
-    prepare(task);
-    if (!conversionInfo.isTold())
-        task.launchAhead();
-    const std::optional<JSON> info = conversionInfo.wait();
-    m_job.conversionInfo = info.value_or(JSON());
     // Where the user keeps a link, what it leads to is written, and removed after a failure.
     m_job.destPath = linkTarget(m_job.destPath);
-    prepare(task);
-    if (!info) {
-        task.terminate();
-    } else if (isSameFile(m_job.path, m_job.destPath)) {
+    if (isSameFile(m_job.path, m_job.destPath)) {
         // The tool would empty the source before it read it, and the clean-up would remove it.
         postError(localized(
             QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
@@ -63,23 +53,18 @@ void ConversionRun::run(PendingInfo &conversionInfo)
     } else if (const std::optional<QString> obstacle = obstacleAt(m_job.destPath)) {
         postError(obstacle);
     } else {
-        convert(task);
+        convert();
     }
     m_progress->end(m_output);
 }
 
-void ConversionRun::prepare(Task &task) const
-{
-    task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
-    task.setAccess({ { m_job.path }, { QFileInfo(linkTarget(m_job.destPath)).path() } });
-}
-
-void ConversionRun::convert(Task &task)
+void ConversionRun::convert()
 {
     const DestinationClaim claim(m_job.destPath, [this] { return m_progress->isCancelled(); });
     if (!claim.isHeld())
         return;
-    const bool launched = waitUntilLoaded(task) && launch(task);
+    Task task;
+    const bool launched = launch(task);
     if (launched) {
         follow(task);
         judge(task);
@@ -87,18 +72,11 @@ void ConversionRun::convert(Task &task)
     finish(task, launched);
 }
 
-bool ConversionRun::waitUntilLoaded(Task &task) const
-{
-    while (task.isLoading()) {
-        if (m_progress->isCancelled())
-            return false;
-    }
-    return true;
-}
-
 bool ConversionRun::launch(Task &task)
 {
+    task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
     task.setArguments(conversionArguments(m_job));
+    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;

@@ -7,7 +7,6 @@
 
 #include <QStringList>
 
-class PendingInfo;
 class Task;
 
 /// What one conversion is asked to do.
@@ -29,13 +28,10 @@ public:
     ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,
         FFMPEG::ConversionErrorHandler errorHandler);
 
-    /// Waits for the media information; the tool is loaded meanwhile.
-    void run(PendingInfo &conversionInfo);
+    void run();
 
 private:
-    void prepare(Task &task) const;
-    void convert(Task &task);
-    [[nodiscard]] bool waitUntilLoaded(Task &task) const;
+    void convert();
     bool launch(Task &task);
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);

@@ -6,7 +6,6 @@
 #include "engine/ConversionRun.h"
 #include "engine/CoverFolder.h"
 #include "engine/MovieProbe.h"
-#include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "engine/SerialQueue.h"
 #include "engine/Task.h"
@@ -91,20 +90,11 @@ std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString
     const VideoConstraints &constraints, const JSON &conversionInfo,
     ConversionErrorHandler errorHandler)
 {
-    const auto known = std::make_shared<PendingInfo>();
-    known->tell(conversionInfo);
-    return convertFile(path, destPath, constraints, known, std::move(errorHandler));
-}
-
-std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString &destPath,
-    const VideoConstraints &constraints, const std::shared_ptr<PendingInfo> &conversionInfo,
-    ConversionErrorHandler errorHandler)
-{
     auto progress = std::make_shared<Progress>(-1);
     progress->setKind(Progress::Kind::File);
-    Async::background([job = ConversionJob{ path, destPath, constraints }, progress, conversionInfo,
+    Async::background([job = ConversionJob{ path, destPath, constraints, conversionInfo }, progress,
                           errorHandler = std::move(errorHandler)] {
-        ConversionRun(job, progress, errorHandler).run(*conversionInfo);
+        ConversionRun(job, progress, errorHandler).run();
     });
     return progress;
 }

@@ -11,7 +11,6 @@
 #include <memory>
 #include <optional>
 
-class PendingInfo;
 class Progress;
 
 /// Why a file can't be converted.
@@ -57,13 +56,6 @@ public:
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
         const VideoConstraints &constraints, const JSON &conversionInfo,
         ConversionErrorHandler errorHandler);
-    /// The same for a film that is still examined: the tool is loaded meanwhile. The run ends only
-    /// after the information has been told. For a film that is refused nothing is done, and what is
-    /// at the destination stays.
-    static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
-        const VideoConstraints &constraints, const std::shared_ptr<PendingInfo> &conversionInfo,
-        ConversionErrorHandler errorHandler);
-
     /// Ends probes that still run and waits until every conversion is over. Called once, before the
     /// program ends.
     static void shutDown();

@@ -33,15 +33,6 @@ void dieWithParent([[maybe_unused]] pid_t parent)
 #endif
 }
 
-// What a sandbox grants are these, not what the paths lead to later.
-std::vector<FileIdentity> filesOf(const ToolAccess &access)
-{
-    std::vector<FileIdentity> files;
-    for (const QString &path : access.readableFiles + access.writableFolders)
-        files.push_back(fileIdentity(path));
-    return files;
-}
-
 }
 
 const QString Task::invalidArgument = u"NSInvalidArgumentException"_s;
@@ -60,47 +51,19 @@ void Task::setArguments(const QStringList &arguments) { m_arguments = arguments;
 
 void Task::setAccess(const ToolAccess &access) { m_access = access; }
 
-void Task::launchAhead()
-{
-    auto lateArguments = std::make_unique<LateArguments>();
-    if (!lateArguments->isPossible())
-        return;
-    m_lateArguments = std::move(lateArguments);
-    m_filesAhead = filesOf(m_access);
-    m_process.setProcessEnvironment(m_lateArguments->environment());
-    start(LateArguments::placeholders());
-    m_process.setProcessEnvironment(QProcessEnvironment(QProcessEnvironment::InheritFromParent));
-}
-
-bool Task::isLoading() { return m_lateArguments && m_lateArguments->isLoading(); }
-
 void Task::launch()
-{
-    const auto lateArguments = std::move(m_lateArguments);
-    const bool isReady = lateArguments && m_filesAhead == filesOf(m_access);
-    if (!isReady || !lateArguments->send(m_arguments)) {
-        terminate();
-        if (!start(m_arguments))
-            throw LaunchException{ invalidArgument,
-                m_launchPath + u": "_s + m_process.errorString() };
-    }
-    m_lastOutput = std::chrono::steady_clock::now();
-}
-
-bool Task::start(const QStringList &arguments)
 {
     const Sandbox sandbox(m_launchPath, m_access);
     if (!sandbox.isConfining())
         Console::print(u"the tool runs without a sandbox: this kernel offers none"_s);
-    m_process.setChildProcessModifier(
-        [parent = ::getpid(), &sandbox, lateArguments = m_lateArguments.get()] {
-            dieWithParent(parent);
-            sandbox.enter();
-            if (lateArguments)
-                lateArguments->enter();
-        });
-    m_process.start(m_launchPath, arguments, QIODevice::ReadOnly);
-    return m_process.waitForStarted(-1);
+    m_process.setChildProcessModifier([parent = ::getpid(), &sandbox] {
+        dieWithParent(parent);
+        sandbox.enter();
+    });
+    m_process.start(m_launchPath, m_arguments, QIODevice::ReadOnly);
+    if (!m_process.waitForStarted(-1))
+        throw LaunchException{ invalidArgument, m_launchPath + u": "_s + m_process.errorString() };
+    m_lastOutput = std::chrono::steady_clock::now();
 }
 
 bool Task::tryLaunch(LaunchError *error)

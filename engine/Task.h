@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/LateArguments.h"
 #include "engine/Sandbox.h"
-#include "support/FileSystem.h"
 
 #include <QByteArray>
 #include <QProcess>
@@ -11,8 +9,6 @@
 #include <QStringList>
 
 #include <chrono>
-#include <memory>
-#include <vector>
 
 /// Raised by Task::launch.
 struct LaunchException {
@@ -45,12 +41,6 @@ public:
     /// Grants the tool the files that it needs; see Sandbox.
     void setAccess(const ToolAccess &access);
 
-    /// Starts the tool before its arguments are set, so that it is ready at the launch. Nothing
-    /// that it does can be noticed before; where the system offers no such start, nothing happens.
-    /// Its access may still change: then it is started anew.
-    void launchAhead();
-    /// Waits a moment for a tool that was started ahead. False when the launch need not wait.
-    [[nodiscard]] bool isLoading();
     /// Errors: throws LaunchException.
     virtual void launch();
     /// Launches under a guard. False exactly when an error was produced: for the exception named
@@ -81,13 +71,9 @@ public:
     static void stopReading();
 
 private:
-    bool start(const QStringList &arguments);
-
     QProcess m_process;
     QString m_launchPath;
     QStringList m_arguments;
-    std::unique_ptr<LateArguments> m_lateArguments;
-    std::vector<FileIdentity> m_filesAhead;
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};

@@ -5,7 +5,6 @@ set(installed_bundle lib/video-converter/VideoConverter.app)
 set(programs video-converter video-converter-cli)
 
 install(TARGETS ${programs} RUNTIME DESTINATION ${installed_bundle}/Contents/MacOS)
-install(TARGETS arguments-later LIBRARY DESTINATION ${installed_bundle}/Contents/Frameworks)
 install(FILES ${VC_BUNDLE}/Contents/Info.plist DESTINATION ${installed_bundle}/Contents)
 install(DIRECTORY ${VC_BUNDLE}/Contents/Resources DESTINATION ${installed_bundle}/Contents OPTIONAL)
 

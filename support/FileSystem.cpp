@@ -37,12 +37,6 @@ bool isSameFile(const QString &path, const QString &otherPath)
     return file && other && file->st_dev == other->st_dev && file->st_ino == other->st_ino;
 }
 
-FileIdentity fileIdentity(const QString &path)
-{
-    const auto file = attributes(path);
-    return file ? FileIdentity(file->st_dev, file->st_ino) : FileIdentity();
-}
-
 QString linkTarget(const QString &path)
 {
     const QFileInfo file(path);

@@ -3,8 +3,6 @@
 
 #include <QString>
 
-#include <utility>
-
 /// What the file system says of a path. Links are followed.
 /// Thread: any.
 
@@ -15,9 +13,6 @@
 /// Both paths lead to one existing file, whatever their spelling: through links, "..", "//" or
 /// other letter case.
 [[nodiscard]] bool isSameFile(const QString &path, const QString &otherPath);
-/// The numbers of a file's device and of the file there; both 0 where none can be examined.
-using FileIdentity = std::pair<quint64, quint64>;
-[[nodiscard]] FileIdentity fileIdentity(const QString &path);
 /// The file that a link leads to; the path itself where there is no link, or one that leads
 /// nowhere.
 [[nodiscard]] QString linkTarget(const QString &path);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "engine/FFMPEG.h"
-#include "engine/PendingInfo.h"
 #include "engine/Progress.h"
 #include "engine/SerialQueue.h"
 #include "support/Bundle.h"
@@ -245,72 +244,6 @@ private Q_SLOTS:
         conversion.wait();
         QCOMPARE(conversion.errors, QStringList{ u"(none)"_s });
         QVERIFY(!target.exists());
-        QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
-    }
-
-    void filmThatIsRefused_leavesTheDestinationAlone()
-    {
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output");
-        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"out.mp4"_s)));
-        for (const bool accepted : { false, true }) {
-            const auto info = std::make_shared<PendingInfo>();
-            const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
-                videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
-                [](const std::optional<QString> &) { QFAIL("no error"); });
-            QTRY_COMPARE(Processes::children().size(), 1);
-            QTest::qWait(100);
-            QVERIFY(!progress->isEnded());
-            QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), 8);
-            info->tell(accepted ? std::optional(JSON()) : std::nullopt);
-            QTRY_VERIFY(progress->isEnded());
-            QCOMPARE(QFileInfo(path(u"out.mp4"_s)).size(), accepted ? 0 : 8);
-        }
-    }
-
-    void toolThatNeverGetsReady_isCancelledSoon()
-    {
-        const QString library
-            = Bundle::main().bundlePath() + u"/Contents/Frameworks/arguments-later.so"_s;
-        QVERIFY(QFile::rename(library, library + u".aside"_s));
-        QVERIFY(QFile::link(path(u"in.mov"_s), library));
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "forever");
-        const auto info = std::make_shared<PendingInfo>();
-        const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
-            videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
-            [](const std::optional<QString> &) { QFAIL("no error"); });
-        const bool started = QTest::qWaitFor([] { return Processes::children().size() == 1; });
-        QTest::qWait(200);
-        QVERIFY(QFile::remove(library) && QFile::rename(library + u".aside"_s, library));
-        QVERIFY(started);
-        info->tell(JSON());
-        QTest::qWait(50);
-        progress->cancel();
-        QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 2000);
-    }
-
-    // The waiting tool was granted the files that the paths led to when it was started.
-    void whatChangesDuringTheExamination_isConvertedAsItIs()
-    {
-        const QByteArray reading = "read:" + QFile::encodeName(path(u"in.mov"_s));
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, reading + "|output|exit:1");
-        QStringList errors;
-        const auto info = std::make_shared<PendingInfo>();
-        const auto progress = FFMPEG::convertFile(path(u"in.mov"_s), path(u"out.mp4"_s),
-            videoConstraints(u"MP4"_s, {}, {}, {}).value(), info,
-            [&](const std::optional<QString> &errmsg) { errors << errmsg.value_or(u"(none)"_s); });
-        QTRY_COMPARE(Processes::children().size(), 1);
-        QTest::qWait(100);
-        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"new.mov"_s)));
-        QVERIFY(QFile::remove(path(u"in.mov"_s)));
-        QVERIFY(QFile::rename(path(u"new.mov"_s), path(u"in.mov"_s)));
-        QVERIFY(QDir(m_folder->path()).mkdir(u"sub"_s));
-        QVERIFY(QFile::copy(path(u"in.mov"_s), path(u"sub/target"_s)));
-        QVERIFY(QFile::link(u"sub/target"_s, path(u"out.mp4"_s)));
-        info->tell(JSON());
-        QTRY_COMPARE(errors, QStringList{ u"(none)"_s });
-        QTRY_VERIFY(progress->isEnded());
-        QCOMPARE(progress->toolOutput(), QByteArray("allowed "));
-        QVERIFY(!QFile::exists(path(u"sub/target"_s)));
         QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
     }
 
