@@ -43,9 +43,9 @@ QStringList filesOnCommandLine(const QApplication &application)
     QCommandLineParser parser;
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(u"film"_s,
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Film to open.", "help on the command line")),
-        u"[film]"_s);
+    parser.addPositionalArgument(u"video"_s,
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Video to open.", "help on the command line")),
+        u"[video]"_s);
     parser.process(application);
     QStringList paths = parser.positionalArguments();
     for (QString &path : paths)
@@ -83,7 +83,7 @@ private:
     SessionEvents m_session;
 };
 
-int runWindow(SingleInstance &instance, const QStringList &films)
+int runWindow(SingleInstance &instance, const QStringList &videos)
 {
     const Appearance appearance;
     AppDelegate delegate;
@@ -94,7 +94,7 @@ int runWindow(SingleInstance &instance, const QStringList &films)
             delegate.applicationShouldHandleReopen(false);
             delegate.takeFiles(paths);
         });
-    delegate.takeFiles(films);
+    delegate.takeFiles(videos);
     Services services(delegate);
     // Once the window stands: its first question may be one about an earlier crash.
     QTimer::singleShot(0, &delegate, [&services] { services.start(); });
@@ -115,12 +115,12 @@ int main(int argc, char *argv[])
     describe();
     const QLocale language(Translation::install(Bundle::main()));
     QApplication::setLayoutDirection(language.textDirection());
-    const QStringList films = filesOnCommandLine(application);
+    const QStringList videos = filesOnCommandLine(application);
     SingleInstance instance;
-    if (instance.handOver(films))
+    if (instance.handOver(videos))
         return 0;
     Analytics::start();
-    const int status = runWindow(instance, films);
+    const int status = runWindow(instance, videos);
     FFMPEG::shutDown();
     return status;
 }

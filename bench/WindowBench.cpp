@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Drives the real window inside this process. Usage: bench-window cover FILM | bench-window
-// progress FILM FOLDER
-//   cover     prints the milliseconds from the arrival of a film to its painted cover
+// Drives the real window inside this process. Usage: bench-window cover VIDEO | bench-window
+// progress VIDEO FOLDER
+//   cover     prints the milliseconds from the arrival of a video to its painted cover
 //   progress  converts with whatever tool the bundle has; prints the longest stall of the event
 //   loop in milliseconds and the
 //             share of one core that the process used
@@ -48,11 +48,11 @@ void spinUntil(const std::function<bool()> &condition)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void takeFilm(AppDelegate &delegate, const QString &film)
+void takeVideo(AppDelegate &delegate, const QString &video)
 {
     PaintWatch watch;
     auto *cover = delegate.window()->findChild<QWidget *>(u"movieCoverImageView"_s);
-    delegate.takeFiles({ film });
+    delegate.takeFiles({ video });
     spinUntil([&] { return delegate.uiState() == WindowUIState::CoverIsSet; });
     cover->installEventFilter(&watch);
     spinUntil([&] { return watch.painted; });
@@ -103,7 +103,7 @@ int main(int argc, char *argv[])
         QCoreApplication::processEvents();
         QElapsedTimer clock;
         clock.start();
-        takeFilm(delegate, arguments.at(2));
+        takeVideo(delegate, arguments.at(2));
         if (arguments.at(1) == u"cover") {
             std::printf("%lld\n", clock.elapsed());
         } else {

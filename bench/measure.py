@@ -78,15 +78,15 @@ def fake_bundle(folder):
     return copy
 
 
-def film(path, seconds, size, preset):
+def video(path, seconds, size, preset):
     subprocess.run(["ffmpeg", "-loglevel", "error", "-y", "-f", "lavfi", "-i", f"testsrc2=s={size}:r=25", "-f", "lavfi",
                     "-i", "sine=r=48000", "-t", str(seconds), "-c:v", "libx264", "-preset", preset, "-pix_fmt", "yuv420p",
                     "-c:a", "aac", path], check=True, stdin=subprocess.DEVNULL)
 
 
 def engine(folder):
-    source, out = folder / "film.mp4", folder / "out"
-    film(source, 100, "1920x1080", "ultrafast")
+    source, out = folder / "video.mp4", folder / "out"
+    video(source, 100, "1920x1080", "ultrafast")
     print("Headless command against the bare tool with the same arguments")
     convert = [CLI, "convert", "--overwrite", source, "-o"]
     compare("re-encode to 1280 x 720", [*convert, f"{out}.mp4", "--to", "MP4 HD 720"],

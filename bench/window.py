@@ -77,9 +77,9 @@ def seconds(command):
 
 
 def measure(build, folder):
-    film = folder / "short.mp4"
+    video = folder / "short.mp4"
     subprocess.run(["ffmpeg", "-loglevel", "error", "-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=25", "-t", "70", "-c:v", "libx264",
-                    "-preset", "ultrafast", "-pix_fmt", "yuv420p", film], check=True, stdin=subprocess.DEVNULL)
+                    "-preset", "ultrafast", "-pix_fmt", "yuv420p", video], check=True, stdin=subprocess.DEVNULL)
     print("The window")
     with Screen(folder) as screen:
         rounds = [(screen.first_paint([build / "VideoConverter.app/Contents/MacOS/video-converter"]),
@@ -90,17 +90,17 @@ def measure(build, folder):
         print(f"{'idle memory':34} {ours_memory:.1f} MiB, {ours_memory - empty_memory:+.1f} MiB above an empty window")
 
         cover = bench_bundle(build, folder, shutil.which("ffmpeg"))
-        bare = [["ffprobe", "-v", "quiet", "-print_format", "json", "-show_format", "-show_streams", film],
-                ["ffmpeg", "-an", "-ss", "00:00:40", "-i", film, folder / "bare.jpg", "-y"]]
+        bare = [["ffprobe", "-v", "quiet", "-print_format", "json", "-show_format", "-show_streams", video],
+                ["ffmpeg", "-an", "-ss", "00:00:40", "-i", video, folder / "bare.jpg", "-y"]]
         shown, bare_times = [], []
         for _ in range(9):
-            shown.append(int(subprocess.check_output([cover, "cover", film], env=screen.env)))
+            shown.append(int(subprocess.check_output([cover, "cover", video], env=screen.env)))
             bare_times.append(sum(seconds(command) for command in bare) * 1000)
         ours, plain = statistics.median(shown), statistics.median(bare_times)
-        print(f"{'film to painted cover':34} {ours:.0f} ms / bare tools {plain:.0f} ms = {ours / plain:.2f} ({ours - plain:+.0f} ms)")
+        print(f"{'video to painted cover':34} {ours:.0f} ms / bare tools {plain:.0f} ms = {ours / plain:.2f} ({ours - plain:+.0f} ms)")
 
         busy = bench_bundle(build, folder, build / "tests/fixtures/fake-tool")
         script = "output|print:Duration: 00:01:40.00, start: 0\\n|reports:20000:440"
-        result = subprocess.check_output([busy, "progress", film, folder], env={**screen.env, "FAKE_TOOL_SCRIPT": script}, text=True)
+        result = subprocess.check_output([busy, "progress", video, folder], env={**screen.env, "FAKE_TOOL_SCRIPT": script}, text=True)
         stall, share = result.split()
         print(f"{'2 000 reports a second':34} longest stall {stall} ms, {share} % of one core")

@@ -125,9 +125,9 @@ std::optional<Answer> wrongOptions(const QCommandLineParser &parser, Verb verb)
     return std::nullopt;
 }
 
-QString wrongFilms(const CommandLine &line)
+QString wrongVideos(const CommandLine &line)
 {
-    const auto count = line.films.size();
+    const auto count = line.inputs.size();
     switch (line.verb) {
     case Verb::Formats:
         return count == 0 ? QString()
@@ -141,18 +141,18 @@ QString wrongFilms(const CommandLine &line)
         return count == (line.info.isEmpty() ? 2 : 0)
             ? QString()
             : localized(QT_TRANSLATE_NOOP3("Localizable",
-                "'plan' takes either a film and an output file, or --info alone.",
+                "'plan' takes either a video and an output file, or --info alone.",
                 "Command line: wrong usage"));
     case Verb::Convert:
         if (count == 0)
             return localized(QT_TRANSLATE_NOOP3(
-                "Localizable", "There is no film to convert.", "Command line: wrong usage"));
+                "Localizable", "There is no video to convert.", "Command line: wrong usage"));
         if (line.output.isEmpty() == line.folder.isEmpty())
             return localized(QT_TRANSLATE_NOOP3("Localizable",
                 "'convert' needs either --output or --folder.", "Command line: wrong usage"));
         if (count > 1 && line.folder.isEmpty())
             return localized(QT_TRANSLATE_NOOP3("Localizable",
-                "Several films can't go to one output file; use --folder.",
+                "Several videos can't go to one output file; use --folder.",
                 "Command line: wrong usage"));
         return {};
     }
@@ -168,7 +168,7 @@ CommandLine readLine(const QCommandLineParser &parser, Verb verb)
         .overwrite = isSet(parser, Option::Overwrite),
         .verbose = isSet(parser, Option::Verbose),
         .entries = entriesNamed(parser.value(nameOf(Option::To)), verb),
-        .films = parser.positionalArguments().mid(1),
+        .inputs = parser.positionalArguments().mid(1),
         .output = parser.value(nameOf(Option::Output)),
         .folder = parser.value(nameOf(Option::Folder)),
         .info = parser.value(nameOf(Option::Info)) };
@@ -184,7 +184,7 @@ std::variant<CommandLine, Answer> checkedLine(const QCommandLineParser &parser, 
             "Localizable", "--to NAME is missing.", "Command line: wrong usage")));
     if (takesEntry(verb) && line.entries.empty())
         return unknownEntry(parser.value(nameOf(Option::To)));
-    if (const QString wrong = wrongFilms(line); !wrong.isEmpty())
+    if (const QString wrong = wrongVideos(line); !wrong.isEmpty())
         return usageError(wrong);
     return line;
 }

@@ -20,9 +20,9 @@ struct CommandLine {
     bool verbose = false;
     /// The entries named by --to; more than one only for "all".
     std::vector<VideoConstraints> entries;
-    /// Films, as the user wrote them.
-    QStringList films;
-    /// Result of the only film; empty when `folder` is given.
+    /// Videos, as the user wrote them.
+    QStringList inputs;
+    /// Result of the only video; empty when `folder` is given.
     QString output;
     QString folder;
     /// File with a saved media information, "-" for standard input.

@@ -9,6 +9,6 @@ class Interruption;
 /// Thread: the main thread; event loops run inside.
 
 [[nodiscard]] ExitCode listFormats(const CommandLine &line);
-[[nodiscard]] ExitCode probeFilm(const CommandLine &line, Interruption &interruption);
+[[nodiscard]] ExitCode probeVideo(const CommandLine &line, Interruption &interruption);
 [[nodiscard]] ExitCode planConversions(const CommandLine &line, Interruption &interruption);
-[[nodiscard]] ExitCode convertFilms(const CommandLine &line, Interruption &interruption);
+[[nodiscard]] ExitCode convertVideos(const CommandLine &line, Interruption &interruption);

@@ -110,7 +110,7 @@ std::optional<Failure> Conversion::outcome() const
     if (m_progress->isCancelled())
         return Failure{ ExitCode::ToolsMissing,
             localized(QT_TRANSLATE_NOOP3("Localizable",
-                "The tool that converts films can't be started.", "Why a conversion failed")) };
+                "The tool that converts videos can't be started.", "Why a conversion failed")) };
     return std::nullopt;
 }
 
@@ -119,18 +119,18 @@ std::optional<Failure> converted(const ConversionItem &item, const CommandLine &
 {
     if (auto refusal = destinationRefusal(item.destPath, all, line.overwrite))
         return refusal;
-    const auto film = examined(item.path, Cover::LeftOut, interruption);
-    if (const auto *failure = std::get_if<Failure>(&film))
+    const auto video = examined(item.path, Cover::LeftOut, interruption);
+    if (const auto *failure = std::get_if<Failure>(&video))
         return *failure;
     if (!line.overwrite) {
         if (auto refusal = takenMeanwhile(item.destPath))
             return refusal;
     }
     return Conversion(item, reporter)
-        .run(line.entries.front(), std::get<FilmDescription>(film).info, interruption);
+        .run(line.entries.front(), std::get<VideoDescription>(video).info, interruption);
 }
 
-/// The other films have no better chance.
+/// The other videos have no better chance.
 bool endsAll(const std::optional<Failure> &failure)
 {
     return Interruption::signal() != 0 || (failure && failure->code == ExitCode::ToolsMissing);
@@ -138,7 +138,7 @@ bool endsAll(const std::optional<Failure> &failure)
 
 }
 
-ExitCode convertFilms(const CommandLine &line, Interruption &interruption)
+ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
 {
     if (!line.folder.isEmpty()) {
         if (const auto refusal = folderRefusal(absolutePath(line.folder)))

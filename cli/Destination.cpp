@@ -54,12 +54,12 @@ std::vector<ConversionItem> conversionItems(const CommandLine &line)
     const QString ext = conversionDescriptor(line.entries.front().format).ext;
     QSet<QString> taken;
     std::vector<ConversionItem> items;
-    for (const QString &film : line.films) {
-        const QString base = Path::stringByDeletingPathExtension(Path::lastPathComponent(film));
+    for (const QString &video : line.inputs) {
+        const QString base = Path::stringByDeletingPathExtension(Path::lastPathComponent(video));
         const QString destPath = line.folder.isEmpty()
             ? line.output
             : line.folder + u'/' + uniqueName(base, ext, taken);
-        items.push_back({ film, absolutePath(film), absolutePath(destPath) });
+        items.push_back({ video, absolutePath(video), absolutePath(destPath) });
     }
     return items;
 }
@@ -87,7 +87,7 @@ std::optional<Failure> sourceRefusal(
         = [&](const ConversionItem &item) { return isSameFile(item.path, destPath); };
     if (std::any_of(items.begin(), items.end(), isDestination))
         return refused(QT_TRANSLATE_NOOP3("Localizable",
-            "The result can't replace a film that is to be converted.",
+            "The result can't replace a video that is to be converted.",
             "Why a conversion's result can't be written"));
     return std::nullopt;
 }

@@ -6,26 +6,26 @@
 #include <optional>
 #include <vector>
 
-/// One film on its way.
+/// One video on its way.
 struct ConversionItem {
     /// As the user wrote it.
-    QString film;
+    QString input;
     /// Absolute paths.
     QString path;
     QString destPath;
 };
 
-/// The films of a command line with their destinations. In a folder each gets its film's name with
-/// the output's extension, and a number where two films bear the same name.
+/// The videos of a command line with their destinations. In a folder each gets its video's name
+/// with the output's extension, and a number where two videos bear the same name.
 [[nodiscard]] std::vector<ConversionItem> conversionItems(const CommandLine &line);
 
 /// Why nothing can be written to a folder.
 [[nodiscard]] std::optional<Failure> folderRefusal(const QString &folder);
-/// Refuses a destination that is one of the films, whatever its spelling.
+/// Refuses a destination that is one of the videos, whatever its spelling.
 [[nodiscard]] std::optional<Failure> sourceRefusal(
     const QString &destPath, const std::vector<ConversionItem> &items);
 /// Why a file must not be written: nothing but an ordinary file is replaced, that only when it is
-/// allowed, and neither a film that this run reads nor another of its results.
+/// allowed, and neither a video that this run reads nor another of its results.
 [[nodiscard]] std::optional<Failure> destinationRefusal(
     const QString &destPath, const std::vector<ConversionItem> &items, bool overwrite);
 /// Makes the file, empty, so that of several programs that start together only one writes it.

@@ -27,19 +27,19 @@ QString fileRefusal(const QString &path)
     const bool readable = ::access(QFile::encodeName(path).constData(), R_OK) == 0;
     if (!readable && errno != EACCES)
         return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "There is no such file.", "Why a film can't be converted"));
+            "Localizable", "There is no such file.", "Why a video can't be converted"));
     if (file.isDir())
         return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "This is a folder, not a film.", "Why a film can't be converted"));
+            "Localizable", "This is a folder, not a video.", "Why a video can't be converted"));
     if (!readable)
         return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "The file may not be read: permission denied.", "Why a film can't be converted"));
+            "The file may not be read: permission denied.", "Why a video can't be converted"));
     if (!isRegularFile(path))
         return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "This is a pipe or a device, not a file.", "Why a film can't be converted"));
+            "This is a pipe or a device, not a file.", "Why a video can't be converted"));
     if (file.size() == 0)
         return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "The file is empty.", "Why a film can't be converted"));
+            "Localizable", "The file is empty.", "Why a video can't be converted"));
     return {};
 }
 
@@ -48,27 +48,27 @@ LocalizedText messageOf(ProbeRefusal refusal)
     switch (refusal) {
     case ProbeRefusal::NotARegularFile:
         return QT_TRANSLATE_NOOP3(
-            "Localizable", "The file has gone.", "Why a film can't be converted");
+            "Localizable", "The file has gone.", "Why a video can't be converted");
     case ProbeRefusal::ToolNotLaunched:
-        return QT_TRANSLATE_NOOP3("Localizable", "The tool that examines films can't be started.",
-            "Why a film can't be converted");
+        return QT_TRANSLATE_NOOP3("Localizable", "The tool that examines videos can't be started.",
+            "Why a video can't be converted");
     case ProbeRefusal::NotMedia:
         return QT_TRANSLATE_NOOP3("Localizable",
-            "The file is no film, or it is damaged or incomplete.",
-            "Why a film can't be converted");
+            "The file is no video, or it is damaged or incomplete.",
+            "Why a video can't be converted");
     case ProbeRefusal::NoDuration:
         return QT_TRANSLATE_NOOP3("Localizable", "The file does not tell how long it plays.",
-            "Why a film can't be converted");
+            "Why a video can't be converted");
     case ProbeRefusal::NoSize:
         return QT_TRANSLATE_NOOP3(
-            "Localizable", "The file's size can't be found out.", "Why a film can't be converted");
+            "Localizable", "The file's size can't be found out.", "Why a video can't be converted");
     case ProbeRefusal::TooShort:
-        return QT_TRANSLATE_NOOP3(
-            "Localizable", "The film is shorter than one second.", "Why a film can't be converted");
+        return QT_TRANSLATE_NOOP3("Localizable", "The video is shorter than one second.",
+            "Why a video can't be converted");
     case ProbeRefusal::SizeDiffers:
         return QT_TRANSLATE_NOOP3("Localizable",
             "The file is still being written, or could be read only in part.",
-            "Why a film can't be converted");
+            "Why a video can't be converted");
     }
     return {};
 }
@@ -88,10 +88,10 @@ std::optional<Failure> missingTool()
 
 /// Outlives the wait: the answer may come after an interruption has ended that.
 struct ProbeAnswer {
-    std::variant<FilmDescription, Failure> result;
+    std::variant<VideoDescription, Failure> result;
     std::function<void()> wake;
 
-    void give(std::variant<FilmDescription, Failure> value)
+    void give(std::variant<VideoDescription, Failure> value)
     {
         result = std::move(value);
         if (wake)
@@ -107,7 +107,7 @@ void ask(const QString &path, Cover coverWish, const std::shared_ptr<ProbeAnswer
         answer->give(Failure{ code, localized(messageOf(refusal)) });
     };
     const auto accept = [answer](const JSON &info, const QImage &cover, const QString &duration) {
-        answer->give(FilmDescription{ .info = info,
+        answer->give(VideoDescription{ .info = info,
             .duration = duration,
             .cover = cover.isNull() ? std::nullopt : std::optional(cover.size()) });
     };
@@ -125,7 +125,7 @@ QString absolutePath(const QString &path)
     return absolute.replace(nothing, u"/"_s);
 }
 
-std::variant<FilmDescription, Failure> examined(
+std::variant<VideoDescription, Failure> examined(
     const QString &path, Cover cover, Interruption &interruption)
 {
     if (const QString refusal = fileRefusal(path); !refusal.isEmpty())
@@ -140,7 +140,7 @@ std::variant<FilmDescription, Failure> examined(
     if (Interruption::signal() == 0)
         loop.exec();
     answer->wake = nullptr;
-    // A tool that got the same Ctrl-C gives a refusal that says nothing of the film.
+    // A tool that got the same Ctrl-C gives a refusal that says nothing of the video.
     if (Interruption::signal() != 0)
         return cancelledFailure();
     return answer->result;

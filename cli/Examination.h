@@ -12,8 +12,8 @@
 
 class Interruption;
 
-/// What is known of a film.
-struct FilmDescription {
+/// What is known of a video.
+struct VideoDescription {
     JSON info;
     /// Display text of the length.
     QString duration;
@@ -26,9 +26,9 @@ struct FilmDescription {
 /// and stays.
 [[nodiscard]] QString absolutePath(const QString &path);
 
-/// Examines the film at an absolute path and waits for the result; Cancelled when the program is
+/// Examines the video at an absolute path and waits for the result; Cancelled when the program is
 /// interrupted. Thread: the main thread; an event loop runs inside.
-[[nodiscard]] std::variant<FilmDescription, Failure> examined(
+[[nodiscard]] std::variant<VideoDescription, Failure> examined(
     const QString &path, Cover cover, Interruption &interruption);
 
 /// What an interrupted command ends with.

@@ -9,12 +9,12 @@ QString general()
 {
     return localized(QT_TRANSLATE_NOOP3("Localizable",
         "Usage: video-converter-cli COMMAND [OPTIONS]\n"
-        "Converts films.\n"
+        "Converts videos.\n"
         "\n"
         "  formats   lists the outputs that --to takes\n"
-        "  probe     describes a film\n"
+        "  probe     describes a video\n"
         "  plan      prints the tool's command line without running it\n"
-        "  convert   converts films\n"
+        "  convert   converts videos\n"
         "\n"
         "video-converter-cli COMMAND --help tells more about a command. All commands take:\n"
         "  --json      prints JSON\n"
@@ -22,9 +22,10 @@ QString general()
         "  -h, --help  prints this help\n"
         "  --version   prints the version\n"
         "\n"
-        "Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination\n"
+        "Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 "
+        "destination\n"
         "refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).\n"
-        "With several films it is that of the first that was not converted.",
+        "With several videos it is that of the first that was not converted.",
         "Help of the headless command; words in capitals stand for what the user types"));
 }
 
@@ -39,7 +40,7 @@ QString of(Verb verb)
     case Verb::Probe:
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "Usage: video-converter-cli probe FILE [--json]\n"
-            "Describes a film. With --json: all that the tool says of it (info), its length\n"
+            "Describes a video. With --json: all that the tool says of it (info), its length\n"
             "(duration, seconds) and the size of its cover picture or null (cover).",
             "Help of the headless command"));
     case Verb::Plan:
@@ -49,7 +50,7 @@ QString of(Verb verb)
             "Prints the tool's command line, quoted for a shell, without running it.\n"
             "\n"
             "  --to NAME        the output, one of those that 'formats' lists, or all\n"
-            "  --info JSONFILE  takes the film's description from a file made by 'probe --json'\n"
+            "  --info JSONFILE  takes the video's description from a file made by 'probe --json'\n"
             "                   (- for standard input) and prints only the arguments that depend\n"
             "                   on it\n"
             "  --json           prints one object: name of the output, list of arguments",
@@ -58,12 +59,12 @@ QString of(Verb verb)
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "Usage: video-converter-cli convert --to NAME FILE -o OUT\n"
             "       video-converter-cli convert --to NAME FILE... -d FOLDER\n"
-            "Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.\n"
+            "Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.\n"
             "\n"
             "  --to NAME            the output, one of those that 'formats' lists\n"
             "  -o, --output OUT     the file to write\n"
-            "  -d, --folder FOLDER  the folder to write to; the files get the films' names\n"
-            "  --overwrite          replaces files that exist; a film itself is never replaced\n"
+            "  -d, --folder FOLDER  the folder to write to; the files get the videos' names\n"
+            "  --overwrite          replaces files that exist; a video itself is never replaced\n"
             "  --json               prints one JSON object a line\n"
             "\n"
             "A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- "

@@ -21,14 +21,15 @@ void PlainReporter::progressed(const ConversionItem &item, const ProgressSample 
     if (step == m_lastStep)
         return;
     m_lastStep = step;
-    Output::line(printable(item.film) + u": "_s + progressText(sample).trimmed());
+    Output::line(printable(item.input) + u": "_s + progressText(sample).trimmed());
 }
 
 void PlainReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)
 {
     Output::line(formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@: converted to %@ in %@",
-                               "Film, file that was made of it, time that it took")),
-        { printable(item.film), printable(item.destPath), DurationInfo(elapsed / 1s).toString() }));
+                               "Video, file that was made of it, time that it took")),
+        { printable(item.input), printable(item.destPath),
+            DurationInfo(elapsed / 1s).toString() }));
 }
 
 void PlainReporter::failed(const ConversionItem &item, const Failure &failure)
@@ -38,7 +39,7 @@ void PlainReporter::failed(const ConversionItem &item, const Failure &failure)
 
 void PlainReporter::summedUp(int converted, int all)
 {
-    Output::line(formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%d of %d films converted",
-                               "Sum after the conversion of several films")),
+    Output::line(formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%d of %d videos converted",
+                               "Sum after the conversion of several videos")),
         { qint64{ converted }, qint64{ all } }));
 }

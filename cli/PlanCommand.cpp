@@ -32,12 +32,12 @@ std::variant<JSON, Failure> savedInfo(const QString &name)
     else
         return Failure{ ExitCode::InputRefused,
             localized(QT_TRANSLATE_NOOP3("Localizable", "The file can't be opened.",
-                "Why a saved description of a film can't be used")) };
+                "Why a saved description of a video can't be used")) };
     const JSON json = JSON::parse(bytes);
     if (json.value().isNull())
         return Failure{ ExitCode::InputRefused,
             localized(QT_TRANSLATE_NOOP3("Localizable", "The file holds no JSON.",
-                "Why a saved description of a film can't be used")) };
+                "Why a saved description of a video can't be used")) };
     const JSON inner = json[u"info"_s];
     return inner.value().isObject() ? inner : json;
 }
@@ -53,8 +53,8 @@ QStringList plannedArguments(
 {
     if (!line.info.isEmpty())
         return builtArguments(entry, info);
-    return conversionArguments({ .path = absolutePath(line.films.at(0)),
-        .destPath = absolutePath(line.films.at(1)),
+    return conversionArguments({ .path = absolutePath(line.inputs.at(0)),
+        .destPath = absolutePath(line.inputs.at(1)),
         .constraints = entry,
         .conversionInfo = info });
 }
@@ -93,13 +93,13 @@ ExitCode planConversions(const CommandLine &line, Interruption &interruption)
         print(line, std::get<JSON>(saved));
         return ExitCode::Done;
     }
-    const QString path = absolutePath(line.films.at(0));
+    const QString path = absolutePath(line.inputs.at(0));
     if (const auto refusal = sourceRefusal(
-            absolutePath(line.films.at(1)), { { .film = {}, .path = path, .destPath = {} } }))
-        return Output::failure(line.films.at(1), *refusal);
+            absolutePath(line.inputs.at(1)), { { .input = {}, .path = path, .destPath = {} } }))
+        return Output::failure(line.inputs.at(1), *refusal);
     const auto result = examined(path, Cover::LeftOut, interruption);
     if (const auto *failure = std::get_if<Failure>(&result))
-        return Output::failure(line.films.first(), *failure);
-    print(line, std::get<FilmDescription>(result).info);
+        return Output::failure(line.inputs.first(), *failure);
+    print(line, std::get<VideoDescription>(result).info);
     return ExitCode::Done;
 }

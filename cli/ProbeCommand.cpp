@@ -17,14 +17,14 @@ qint64 wholeSeconds(const JSON &info)
     return static_cast<qint64>(info[u"format"_s][u"duration"_s].stringValue().toDouble());
 }
 
-QJsonObject jsonOf(const FilmDescription &film)
+QJsonObject jsonOf(const VideoDescription &video)
 {
     QJsonValue cover = QJsonValue::Null;
-    if (film.cover)
-        cover = QJsonObject{ { u"width"_s, film.cover->width() },
-            { u"height"_s, film.cover->height() } };
-    return { { u"info"_s, film.info.value() }, { u"duration"_s, film.duration },
-        { u"seconds"_s, wholeSeconds(film.info) }, { u"cover"_s, cover } };
+    if (video.cover)
+        cover = QJsonObject{ { u"width"_s, video.cover->width() },
+            { u"height"_s, video.cover->height() } };
+    return { { u"info"_s, video.info.value() }, { u"duration"_s, video.duration },
+        { u"seconds"_s, wholeSeconds(video.info) }, { u"cover"_s, cover } };
 }
 
 /// Such as "video, h264, 1920 x 1080" or "audio, aac, 48000 Hz, 2 channels".
@@ -50,33 +50,33 @@ void printField(const LocalizedText &name, const QString &value)
     Output::line(leftJustified(localized(name) + u": "_s, 12) + value);
 }
 
-void printText(const FilmDescription &film)
+void printText(const VideoDescription &video)
 {
-    printField(QT_TRANSLATE_NOOP3("Localizable", "Length", "Property of a film"), film.duration);
-    printField(QT_TRANSLATE_NOOP3("Localizable", "Container", "Property of a film"),
-        printable(film.info[u"format"_s][u"format_long_name"_s].stringValue()));
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Length", "Property of a video"), video.duration);
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Container", "Property of a video"),
+        printable(video.info[u"format"_s][u"format_long_name"_s].stringValue()));
     int index = 0;
-    for (const JSON &stream : film.info[u"streams"_s].array())
-        printField(QT_TRANSLATE_NOOP3("Localizable", "Stream", "Property of a film"),
+    for (const JSON &stream : video.info[u"streams"_s].array())
+        printField(QT_TRANSLATE_NOOP3("Localizable", "Stream", "Property of a video"),
             u"%1, %2"_s.arg(index++).arg(streamText(stream)));
     const QString none
-        = localized(QT_TRANSLATE_NOOP3("Localizable", "none", "A film has no cover picture"));
-    printField(QT_TRANSLATE_NOOP3("Localizable", "Cover", "Property of a film"),
-        film.cover ? u"%1 x %2"_s.arg(film.cover->width()).arg(film.cover->height()) : none);
+        = localized(QT_TRANSLATE_NOOP3("Localizable", "none", "A video has no cover picture"));
+    printField(QT_TRANSLATE_NOOP3("Localizable", "Cover", "Property of a video"),
+        video.cover ? u"%1 x %2"_s.arg(video.cover->width()).arg(video.cover->height()) : none);
 }
 
 }
 
-ExitCode probeFilm(const CommandLine &line, Interruption &interruption)
+ExitCode probeVideo(const CommandLine &line, Interruption &interruption)
 {
-    const QString &name = line.films.first();
+    const QString &name = line.inputs.first();
     const auto result = examined(absolutePath(name), Cover::Taken, interruption);
     if (const auto *failure = std::get_if<Failure>(&result))
         return Output::failure(name, *failure);
-    const auto &film = std::get<FilmDescription>(result);
+    const auto &video = std::get<VideoDescription>(result);
     if (line.json)
-        Output::json(QJsonDocument(jsonOf(film)), QJsonDocument::Indented);
+        Output::json(QJsonDocument(jsonOf(video)), QJsonDocument::Indented);
     else
-        printText(film);
+        printText(video);
     return ExitCode::Done;
 }

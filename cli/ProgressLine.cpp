@@ -71,11 +71,11 @@ QString progressText(const ProgressSample &sample)
     return parts.join(u"  "_s);
 }
 
-QString progressBar(const QString &film, const ProgressSample &sample, int columns)
+QString progressBar(const QString &video, const ProgressSample &sample, int columns)
 {
     const QString text = progressText(sample);
     const int nameWidth = std::clamp(columns / 4, 8, 24);
-    const QString name = leftJustified(elided(printable(film), nameWidth), nameWidth);
+    const QString name = leftJustified(elided(printable(video), nameWidth), nameWidth);
     // Room for a long text in the user's language, so that the bar keeps its width; the last column
     // stays free.
     const ProgressSample longest{ .completed = 1, .total = 86'400, .elapsed = 1s };

@@ -22,5 +22,5 @@ struct ProgressSample {
 
 /// Percent, speed and time left, as far as they are known; else the time since the start.
 [[nodiscard]] QString progressText(const ProgressSample &sample);
-/// The same behind the film's name and a bar, which runs to and fro while the length is unknown.
-[[nodiscard]] QString progressBar(const QString &film, const ProgressSample &sample, int columns);
+/// The same behind the video's name and a bar, which runs to and fro while the length is unknown.
+[[nodiscard]] QString progressBar(const QString &video, const ProgressSample &sample, int columns);

@@ -17,5 +17,5 @@ std::unique_ptr<Reporter> Reporter::suitable(bool json)
 void Reporter::printFailure(const ConversionItem &item, const Failure &failure)
 {
     const bool isDestination = failure.code == ExitCode::DestinationRefused;
-    Output::failure(isDestination ? item.destPath : item.film, failure);
+    Output::failure(isDestination ? item.destPath : item.input, failure);
 }

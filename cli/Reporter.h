@@ -24,7 +24,7 @@ public:
     virtual void progressed(const ConversionItem &item, const ProgressSample &sample) = 0;
     virtual void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) = 0;
     virtual void failed(const ConversionItem &item, const Failure &failure) = 0;
-    /// After the last of several films.
+    /// After the last of several videos.
     virtual void summedUp(int converted, int all) = 0;
 
 protected:

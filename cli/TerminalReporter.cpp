@@ -18,7 +18,7 @@ void TerminalReporter::started(const ConversionItem &item) { progressed(item, {}
 
 void TerminalReporter::progressed(const ConversionItem &item, const ProgressSample &sample)
 {
-    Output::raw(u'\r' + progressBar(item.film, sample, Output::terminalColumns()) + u"\u001b[K"_s);
+    Output::raw(u'\r' + progressBar(item.input, sample, Output::terminalColumns()) + u"\u001b[K"_s);
 }
 
 void TerminalReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)

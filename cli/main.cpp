@@ -22,11 +22,11 @@ ExitCode run(const CommandLine &line)
     case Verb::Formats:
         return listFormats(line);
     case Verb::Probe:
-        return probeFilm(line, interruption);
+        return probeVideo(line, interruption);
     case Verb::Plan:
         return planConversions(line, interruption);
     case Verb::Convert:
-        return convertFilms(line, interruption);
+        return convertVideos(line, interruption);
     }
     return ExitCode::Usage;
 }

@@ -48,7 +48,7 @@ void ConversionRun::run()
     if (isSameFile(m_job.path, m_job.destPath)) {
         // The tool would empty the source before it read it, and the clean-up would remove it.
         postError(localized(
-            QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the film it is made from.",
+            QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the video it is made from.",
                 "Error message when source and destination are one file")));
     } else if (const std::optional<QString> obstacle = obstacleAt(m_job.destPath)) {
         postError(obstacle);

@@ -24,10 +24,10 @@ enum class ProbeRefusal {
     SizeDiffers,
 };
 
-/// Whether a probe takes the film's cover, which costs a run of its own.
+/// Whether a probe takes the video's cover, which costs a run of its own.
 enum class Cover { Taken, LeftOut };
 
-/// Examines films and converts them, each time by one run of a tool of the application's bundle.
+/// Examines videos and converts them, each time by one run of a tool of the application's bundle.
 /// Thread: call on the main thread; every call returns at once. All handlers run on the main
 /// thread.
 class FFMPEG {
@@ -40,7 +40,7 @@ public:
 
     FFMPEG() = delete;
 
-    /// Describes a film. Exactly one of the handlers runs.
+    /// Describes a video. Exactly one of the handlers runs.
     static void collectMovieInfo(const QString &path, std::function<void()> errorHandler,
         const InfoHandler &completionHandler);
     /// The same, with the reason of a refusal, and without a cover where that is left out.
@@ -48,7 +48,7 @@ public:
         const std::function<void(ProbeRefusal)> &errorHandler, const InfoHandler &completionHandler,
         Cover cover = Cover::Taken);
 
-    /// Converts a probed film. The progress object is indeterminate until the tool tells the
+    /// Converts a probed video. The progress object is indeterminate until the tool tells the
     /// length. Cancelling it stops the tool and removes the partly written output. Errors:
     /// `errorHandler` runs at most once. A tool that can't be launched cancels the progress object
     /// instead. A destination that is the source itself is refused: nothing is launched, nothing is

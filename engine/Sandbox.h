@@ -9,7 +9,7 @@ struct ToolAccess {
     QStringList writableFolders;
 };
 
-/// Shuts a tool in before it starts, for films are hostile input to its decoders: it reads and
+/// Shuts a tool in before it starts, for videos are hostile input to its decoders: it reads and
 /// writes only what it was granted, opens no socket, gains no privileges and leaves no core dump.
 /// Where the kernel offers no such thing, only the last two. Thread: one; enter() runs in the child
 /// between fork and exec and does nothing that is unsafe there.

@@ -48,8 +48,8 @@ install(FILES completion.bash DESTINATION share/bash-completion/completions RENA
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME video-converter)
 set(CPACK_PACKAGE_CONTACT "The Video Converter authors <video-converter@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "convert a film for another device or format")
-set(CPACK_PACKAGE_DESCRIPTION "Drop a film on the window, pick a device, a format or a quality, name the
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "convert a video for another device or format")
+set(CPACK_PACKAGE_DESCRIPTION "Drop a video on the window, pick a device, a format or a quality, name the
 result and watch it being made. What already suits the target is copied as it
 is; only the rest is encoded anew.
 .

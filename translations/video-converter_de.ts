@@ -19,7 +19,7 @@
         <translation>Nach Updates suchen&#xa0;…</translation>
     </message>
     <message>
-        <source>Film to open.</source>
+        <source>Video to open.</source>
         <comment>help on the command line</comment>
         <translation>Zu öffnendes Video.</translation>
     </message>
@@ -59,12 +59,12 @@
         <translation>Der Befehl „probe“ erfordert genau eine Datei.</translation>
     </message>
     <message>
-        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Der Befehl „plan“ erfordert entweder ein Video und eine Ausgabedatei oder nur --info.</translation>
     </message>
     <message>
-        <source>There is no film to convert.</source>
+        <source>There is no video to convert.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Es wurde kein Video zum Konvertieren angegeben.</translation>
     </message>
@@ -74,7 +74,7 @@
         <translation>Der Befehl „convert“ erfordert entweder --output oder --folder.</translation>
     </message>
     <message>
-        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <source>Several videos can&apos;t go to one output file; use --folder.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Mehrere Videos können nicht in einer Datei gespeichert werden. Verwenden Sie --folder.</translation>
     </message>
@@ -94,7 +94,7 @@
         <translation>%@; der bis dahin fertige Teil bleibt erhalten.</translation>
     </message>
     <message>
-        <source>The tool that converts films can&apos;t be started.</source>
+        <source>The tool that converts videos can&apos;t be started.</source>
         <comment>Why a conversion failed</comment>
         <translation>Das Hilfsprogramm zum Konvertieren von Videos konnte nicht gestartet werden.</translation>
     </message>
@@ -114,7 +114,7 @@
         <translation>Keine Schreibberechtigung für den Zielordner.</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <source>The result can&apos;t replace a video that is to be converted.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Das Ergebnis kann kein Video ersetzen, das konvertiert werden soll.</translation>
     </message>
@@ -145,62 +145,62 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei existiert nicht.</translation>
     </message>
     <message>
-        <source>This is a folder, not a film.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>This is a folder, not a video.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Dies ist ein Ordner, kein Video.</translation>
     </message>
     <message>
         <source>The file may not be read: permission denied.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei kann nicht gelesen werden: Zugriff verweigert.</translation>
     </message>
     <message>
         <source>This is a pipe or a device, not a file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Dies ist eine Pipe oder ein Gerät, keine Datei.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei ist leer.</translation>
     </message>
     <message>
         <source>The file has gone.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei ist nicht mehr vorhanden.</translation>
     </message>
     <message>
-        <source>The tool that examines films can&apos;t be started.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The tool that examines videos can&apos;t be started.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Das Hilfsprogramm zum Analysieren von Videos konnte nicht gestartet werden.</translation>
     </message>
     <message>
-        <source>The file is no film, or it is damaged or incomplete.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The file is no video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei ist kein Video, oder sie ist beschädigt oder unvollständig.</translation>
     </message>
     <message>
         <source>The file does not tell how long it plays.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei gibt ihre Dauer nicht an.</translation>
     </message>
     <message>
         <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Größe der Datei konnte nicht ermittelt werden.</translation>
     </message>
     <message>
-        <source>The film is shorter than one second.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The video is shorter than one second.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Das Video ist kürzer als eine Sekunde.</translation>
     </message>
     <message>
         <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Die Datei wird noch geschrieben oder konnte nur teilweise gelesen werden.</translation>
     </message>
     <message>
@@ -225,12 +225,12 @@
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts films.
+Converts videos.
 
   formats   lists the outputs that --to takes
-  probe     describes a film
+  probe     describes a video
   plan      prints the tool&apos;s command line without running it
-  convert   converts films
+  convert   converts videos
 
 video-converter-cli COMMAND --help tells more about a command. All commands take:
   --json      prints JSON
@@ -238,9 +238,9 @@ video-converter-cli COMMAND --help tells more about a command. All commands take
   -h, --help  prints this help
   --version   prints the version
 
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several films it is that of the first that was not converted.</source>
+With several videos it is that of the first that was not converted.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
         <translation>Aufruf: video-converter-cli BEFEHL [OPTIONEN]
 Konvertiert Videos.
@@ -270,7 +270,7 @@ Listet die Ausgabeformate für --to auf: Geräte, Formate und MP4-Qualitäten.</
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
-Describes a film. With --json: all that the tool says of it (info), its length
+Describes a video. With --json: all that the tool says of it (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
         <translation>Aufruf: video-converter-cli probe DATEI [--json]
@@ -283,7 +283,7 @@ Beschreibt ein Video. Mit --json: alle Angaben des Hilfsprogramms (info), die Da
 Prints the tool&apos;s command line, quoted for a shell, without running it.
 
   --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
                    (- for standard input) and prints only the arguments that depend
                    on it
   --json           prints one object: name of the output, list of arguments</source>
@@ -303,12 +303,12 @@ auszuführen.
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
        video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
 
   --to NAME            the output, one of those that &apos;formats&apos; lists
   -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
-  --overwrite          replaces files that exist; a film itself is never replaced
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
   --json               prints one JSON object a line
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
@@ -339,22 +339,22 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>%@: converted to %@ in %@</source>
-        <comment>Film, file that was made of it, time that it took</comment>
+        <comment>Video, file that was made of it, time that it took</comment>
         <translation>%1$@: in %3$@ konvertiert nach %2$@</translation>
     </message>
     <message>
-        <source>%d of %d films converted</source>
-        <comment>Sum after the conversion of several films</comment>
+        <source>%d of %d videos converted</source>
+        <comment>Sum after the conversion of several videos</comment>
         <translation>%d von %d Videos konvertiert</translation>
     </message>
     <message>
         <source>The file can&apos;t be opened.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The file holds no JSON.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>Die Datei enthält kein JSON.</translation>
     </message>
     <message>
@@ -364,27 +364,27 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Length</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Dauer</translation>
     </message>
     <message>
         <source>Container</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Container</translation>
     </message>
     <message>
         <source>Stream</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Spur</translation>
     </message>
     <message>
         <source>none</source>
-        <comment>A film has no cover picture</comment>
+        <comment>A video has no cover picture</comment>
         <translation>keines</translation>
     </message>
     <message>
         <source>Cover</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Titelbild</translation>
     </message>
     <message>
@@ -418,7 +418,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Der Zieldatenträger ist schreibgeschützt.</translation>
     </message>
     <message>
-        <source>Permission was denied to read the film or to write the result.</source>
+        <source>Permission was denied to read the video or to write the result.</source>
         <comment>Why a conversion failed</comment>
         <translation>Keine Berechtigung, das Video zu lesen oder das Ergebnis zu schreiben.</translation>
     </message>
@@ -433,7 +433,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Das installierte Hilfsprogramm kann das Format %@ nicht schreiben.</translation>
     </message>
     <message>
-        <source>The film or the destination&apos;s folder has gone.</source>
+        <source>The video or the destination&apos;s folder has gone.</source>
         <comment>Why a conversion failed</comment>
         <translation>Das Video oder der Zielordner ist nicht mehr vorhanden.</translation>
     </message>
@@ -453,12 +453,12 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Es war nicht genügend Arbeitsspeicher vorhanden.</translation>
     </message>
     <message>
-        <source>The film holds nothing that this output can take.</source>
+        <source>The video holds nothing that this output can take.</source>
         <comment>Why a conversion failed</comment>
         <translation>Das Video enthält nichts, was dieses Ausgabeformat aufnehmen kann.</translation>
     </message>
     <message>
-        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
         <comment>Why a conversion failed</comment>
         <translation>Der Encoder kann Bild oder Ton des Videos so nicht verarbeiten.</translation>
     </message>
@@ -473,7 +473,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Das Hilfsprogramm wurde von außen beendet.</translation>
     </message>
     <message>
-        <source>The film&apos;s data is damaged.</source>
+        <source>The video&apos;s data is damaged.</source>
         <comment>Why a conversion failed</comment>
         <translation>Die Daten des Videos sind beschädigt.</translation>
     </message>
@@ -513,7 +513,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Nicht senden</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace the film it is made from.</source>
+        <source>The result can&apos;t replace the video it is made from.</source>
         <comment>Error message when source and destination are one file</comment>
         <translation>Das Ergebnis kann das Ausgangsvideo nicht ersetzen.</translation>
     </message>

@@ -19,7 +19,7 @@
         <translation>Rechercher les mises à jour…</translation>
     </message>
     <message>
-        <source>Film to open.</source>
+        <source>Video to open.</source>
         <comment>help on the command line</comment>
         <translation>Vidéo à ouvrir.</translation>
     </message>
@@ -59,12 +59,12 @@
         <translation>La commande «&#xa0;probe&#xa0;» attend exactement un fichier.</translation>
     </message>
     <message>
-        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
         <comment>Command line: wrong usage</comment>
         <translation>La commande «&#xa0;plan&#xa0;» attend soit une vidéo et un fichier de sortie, soit --info seul.</translation>
     </message>
     <message>
-        <source>There is no film to convert.</source>
+        <source>There is no video to convert.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Aucune vidéo à convertir n’est indiquée.</translation>
     </message>
@@ -74,7 +74,7 @@
         <translation>La commande «&#xa0;convert&#xa0;» attend soit --output, soit --folder.</translation>
     </message>
     <message>
-        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <source>Several videos can&apos;t go to one output file; use --folder.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Plusieurs vidéos ne peuvent pas être enregistrées dans un seul fichier&#xa0;; utilisez --folder.</translation>
     </message>
@@ -94,7 +94,7 @@
         <translation>%@&#xa0;; la partie déjà convertie a été conservée.</translation>
     </message>
     <message>
-        <source>The tool that converts films can&apos;t be started.</source>
+        <source>The tool that converts videos can&apos;t be started.</source>
         <comment>Why a conversion failed</comment>
         <translation>Impossible de lancer l’outil de conversion des vidéos.</translation>
     </message>
@@ -114,7 +114,7 @@
         <translation>Vous n’avez pas le droit d’écrire dans le dossier de destination.</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <source>The result can&apos;t replace a video that is to be converted.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Le résultat ne peut pas remplacer une vidéo à convertir.</translation>
     </message>
@@ -145,62 +145,62 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Ce fichier n’existe pas.</translation>
     </message>
     <message>
-        <source>This is a folder, not a film.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>This is a folder, not a video.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>C’est un dossier et non une vidéo.</translation>
     </message>
     <message>
         <source>The file may not be read: permission denied.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Lecture du fichier impossible&#xa0;: permission refusée.</translation>
     </message>
     <message>
         <source>This is a pipe or a device, not a file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>C’est un tube ou un périphérique et non un fichier.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>The file has gone.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Le fichier a disparu.</translation>
     </message>
     <message>
-        <source>The tool that examines films can&apos;t be started.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The tool that examines videos can&apos;t be started.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Impossible de lancer l’outil d’analyse des vidéos.</translation>
     </message>
     <message>
-        <source>The file is no film, or it is damaged or incomplete.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The file is no video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Le fichier n’est pas une vidéo, ou il est endommagé ou incomplet.</translation>
     </message>
     <message>
         <source>The file does not tell how long it plays.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Le fichier n’indique pas sa durée.</translation>
     </message>
     <message>
         <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Impossible de déterminer la taille du fichier.</translation>
     </message>
     <message>
-        <source>The film is shorter than one second.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The video is shorter than one second.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>La vidéo dure moins d’une seconde.</translation>
     </message>
     <message>
         <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Le fichier est encore en cours d’écriture ou n’a pu être lu qu’en partie.</translation>
     </message>
     <message>
@@ -225,12 +225,12 @@
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts films.
+Converts videos.
 
   formats   lists the outputs that --to takes
-  probe     describes a film
+  probe     describes a video
   plan      prints the tool&apos;s command line without running it
-  convert   converts films
+  convert   converts videos
 
 video-converter-cli COMMAND --help tells more about a command. All commands take:
   --json      prints JSON
@@ -238,9 +238,9 @@ video-converter-cli COMMAND --help tells more about a command. All commands take
   -h, --help  prints this help
   --version   prints the version
 
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several films it is that of the first that was not converted.</source>
+With several videos it is that of the first that was not converted.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
         <translation>Utilisation&#xa0;: video-converter-cli COMMANDE [OPTIONS]
 Convertit des vidéos.
@@ -272,7 +272,7 @@ Donne la liste des formats de sortie pour --to&#xa0;: appareils, formats et qual
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
-Describes a film. With --json: all that the tool says of it (info), its length
+Describes a video. With --json: all that the tool says of it (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
         <translation>Utilisation&#xa0;: video-converter-cli probe FICHIER [--json]
@@ -285,7 +285,7 @@ seconds) et la taille de sa vignette ou null (cover).</translation>
 Prints the tool&apos;s command line, quoted for a shell, without running it.
 
   --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
                    (- for standard input) and prints only the arguments that depend
                    on it
   --json           prints one object: name of the output, list of arguments</source>
@@ -303,12 +303,12 @@ Affiche la ligne de commande de l’outil, protégée pour un shell, sans l’ex
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
        video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
 
   --to NAME            the output, one of those that &apos;formats&apos; lists
   -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
-  --overwrite          replaces files that exist; a film itself is never replaced
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
   --json               prints one JSON object a line
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
@@ -338,22 +338,22 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>%@: converted to %@ in %@</source>
-        <comment>Film, file that was made of it, time that it took</comment>
+        <comment>Video, file that was made of it, time that it took</comment>
         <translation>%@&#xa0;: conversion vers %@ terminée en %@</translation>
     </message>
     <message>
-        <source>%d of %d films converted</source>
-        <comment>Sum after the conversion of several films</comment>
+        <source>%d of %d videos converted</source>
+        <comment>Sum after the conversion of several videos</comment>
         <translation>Vidéos converties&#xa0;: %d sur %d</translation>
     </message>
     <message>
         <source>The file can&apos;t be opened.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>Impossible d’ouvrir le fichier.</translation>
     </message>
     <message>
         <source>The file holds no JSON.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>Le fichier ne contient pas de JSON.</translation>
     </message>
     <message>
@@ -363,27 +363,27 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Length</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Durée</translation>
     </message>
     <message>
         <source>Container</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Conteneur</translation>
     </message>
     <message>
         <source>Stream</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Flux</translation>
     </message>
     <message>
         <source>none</source>
-        <comment>A film has no cover picture</comment>
+        <comment>A video has no cover picture</comment>
         <translation>aucune</translation>
     </message>
     <message>
         <source>Cover</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Vignette</translation>
     </message>
     <message>
@@ -417,7 +417,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Le disque de destination est en lecture seule.</translation>
     </message>
     <message>
-        <source>Permission was denied to read the film or to write the result.</source>
+        <source>Permission was denied to read the video or to write the result.</source>
         <comment>Why a conversion failed</comment>
         <translation>Permission refusée pour lire la vidéo ou écrire le résultat.</translation>
     </message>
@@ -432,7 +432,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>L’outil installé ne peut pas écrire le format %@.</translation>
     </message>
     <message>
-        <source>The film or the destination&apos;s folder has gone.</source>
+        <source>The video or the destination&apos;s folder has gone.</source>
         <comment>Why a conversion failed</comment>
         <translation>La vidéo ou le dossier de destination a disparu.</translation>
     </message>
@@ -452,12 +452,12 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>La mémoire est insuffisante.</translation>
     </message>
     <message>
-        <source>The film holds nothing that this output can take.</source>
+        <source>The video holds nothing that this output can take.</source>
         <comment>Why a conversion failed</comment>
         <translation>La vidéo ne contient rien que ce format de sortie puisse recevoir.</translation>
     </message>
     <message>
-        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
         <comment>Why a conversion failed</comment>
         <translation>L’encodeur n’accepte pas tels quels l’image ou le son de la vidéo.</translation>
     </message>
@@ -472,7 +472,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>L’outil a été arrêté de l’extérieur.</translation>
     </message>
     <message>
-        <source>The film&apos;s data is damaged.</source>
+        <source>The video&apos;s data is damaged.</source>
         <comment>Why a conversion failed</comment>
         <translation>Les données de la vidéo sont endommagées.</translation>
     </message>
@@ -512,7 +512,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Ne pas envoyer</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace the film it is made from.</source>
+        <source>The result can&apos;t replace the video it is made from.</source>
         <comment>Error message when source and destination are one file</comment>
         <translation>Le résultat ne peut pas remplacer la vidéo d’origine.</translation>
     </message>

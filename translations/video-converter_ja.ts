@@ -19,7 +19,7 @@
         <translation>アップデートを確認…</translation>
     </message>
     <message>
-        <source>Film to open.</source>
+        <source>Video to open.</source>
         <comment>help on the command line</comment>
         <translation>開く動画。</translation>
     </message>
@@ -59,12 +59,12 @@
         <translation>「probe」にはファイルを 1 つだけ指定してください。</translation>
     </message>
     <message>
-        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
         <comment>Command line: wrong usage</comment>
         <translation>「plan」には動画と出力ファイル、または --info だけを指定してください。</translation>
     </message>
     <message>
-        <source>There is no film to convert.</source>
+        <source>There is no video to convert.</source>
         <comment>Command line: wrong usage</comment>
         <translation>変換する動画がありません。</translation>
     </message>
@@ -74,7 +74,7 @@
         <translation>「convert」には --output か --folder のどちらかが必要です。</translation>
     </message>
     <message>
-        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <source>Several videos can&apos;t go to one output file; use --folder.</source>
         <comment>Command line: wrong usage</comment>
         <translation>複数の動画を 1 つの出力ファイルにはできません。--folder を使ってください。</translation>
     </message>
@@ -94,7 +94,7 @@
         <translation>%@。そこまでの結果は残してあります。</translation>
     </message>
     <message>
-        <source>The tool that converts films can&apos;t be started.</source>
+        <source>The tool that converts videos can&apos;t be started.</source>
         <comment>Why a conversion failed</comment>
         <translation>動画を変換するツールを起動できません。</translation>
     </message>
@@ -114,7 +114,7 @@
         <translation>保存先のフォルダーへの書き込みが許可されていません。</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <source>The result can&apos;t replace a video that is to be converted.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>変換結果で、これから変換する動画を置き換えることはできません。</translation>
     </message>
@@ -145,62 +145,62 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>そのようなファイルはありません。</translation>
     </message>
     <message>
-        <source>This is a folder, not a film.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>This is a folder, not a video.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>これは動画ではなくフォルダーです。</translation>
     </message>
     <message>
         <source>The file may not be read: permission denied.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルを読み取れません: アクセスが拒否されました。</translation>
     </message>
     <message>
         <source>This is a pipe or a device, not a file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>これはファイルではなくパイプまたはデバイスです。</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルが空です。</translation>
     </message>
     <message>
         <source>The file has gone.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルがなくなりました。</translation>
     </message>
     <message>
-        <source>The tool that examines films can&apos;t be started.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The tool that examines videos can&apos;t be started.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>動画を解析するツールを起動できません。</translation>
     </message>
     <message>
-        <source>The file is no film, or it is damaged or incomplete.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The file is no video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルが動画でないか、破損しているか、不完全です。</translation>
     </message>
     <message>
         <source>The file does not tell how long it plays.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルに再生時間の情報がありません。</translation>
     </message>
     <message>
         <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルのサイズを取得できません。</translation>
     </message>
     <message>
-        <source>The film is shorter than one second.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The video is shorter than one second.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>動画の長さが 1 秒未満です。</translation>
     </message>
     <message>
         <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>ファイルがまだ書き込み中か、一部しか読み取れませんでした。</translation>
     </message>
     <message>
@@ -225,12 +225,12 @@
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts films.
+Converts videos.
 
   formats   lists the outputs that --to takes
-  probe     describes a film
+  probe     describes a video
   plan      prints the tool&apos;s command line without running it
-  convert   converts films
+  convert   converts videos
 
 video-converter-cli COMMAND --help tells more about a command. All commands take:
   --json      prints JSON
@@ -238,9 +238,9 @@ video-converter-cli COMMAND --help tells more about a command. All commands take
   -h, --help  prints this help
   --version   prints the version
 
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several films it is that of the first that was not converted.</source>
+With several videos it is that of the first that was not converted.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
         <translation>使い方: video-converter-cli コマンド [オプション]
 動画を変換します。
@@ -270,7 +270,7 @@ Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
-Describes a film. With --json: all that the tool says of it (info), its length
+Describes a video. With --json: all that the tool says of it (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
         <translation>使い方: video-converter-cli probe ファイル [--json]
@@ -283,7 +283,7 @@ Describes a film. With --json: all that the tool says of it (info), its length
 Prints the tool&apos;s command line, quoted for a shell, without running it.
 
   --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
                    (- for standard input) and prints only the arguments that depend
                    on it
   --json           prints one object: name of the output, list of arguments</source>
@@ -300,12 +300,12 @@ Prints the tool&apos;s command line, quoted for a shell, without running it.
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
        video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
 
   --to NAME            the output, one of those that &apos;formats&apos; lists
   -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
-  --overwrite          replaces files that exist; a film itself is never replaced
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
   --json               prints one JSON object a line
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
@@ -335,22 +335,22 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>%@: converted to %@ in %@</source>
-        <comment>Film, file that was made of it, time that it took</comment>
+        <comment>Video, file that was made of it, time that it took</comment>
         <translation>%@: %@ に変換しました (所要時間 %@)</translation>
     </message>
     <message>
-        <source>%d of %d films converted</source>
-        <comment>Sum after the conversion of several films</comment>
+        <source>%d of %d videos converted</source>
+        <comment>Sum after the conversion of several videos</comment>
         <translation>変換した動画: %d / %d</translation>
     </message>
     <message>
         <source>The file can&apos;t be opened.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>ファイルを開けません。</translation>
     </message>
     <message>
         <source>The file holds no JSON.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>ファイルに JSON が含まれていません。</translation>
     </message>
     <message>
@@ -360,27 +360,27 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Length</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>動画の長さ</translation>
     </message>
     <message>
         <source>Container</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>コンテナー</translation>
     </message>
     <message>
         <source>Stream</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>ストリーム</translation>
     </message>
     <message>
         <source>none</source>
-        <comment>A film has no cover picture</comment>
+        <comment>A video has no cover picture</comment>
         <translation>なし</translation>
     </message>
     <message>
         <source>Cover</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>カバー画像</translation>
     </message>
     <message>
@@ -414,7 +414,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>保存先のディスクは読み取り専用です。</translation>
     </message>
     <message>
-        <source>Permission was denied to read the film or to write the result.</source>
+        <source>Permission was denied to read the video or to write the result.</source>
         <comment>Why a conversion failed</comment>
         <translation>動画の読み取りまたは結果の書き込みが許可されませんでした。</translation>
     </message>
@@ -429,7 +429,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>インストールされているツールは形式 %@ で書き出せません。</translation>
     </message>
     <message>
-        <source>The film or the destination&apos;s folder has gone.</source>
+        <source>The video or the destination&apos;s folder has gone.</source>
         <comment>Why a conversion failed</comment>
         <translation>動画または保存先のフォルダーがなくなりました。</translation>
     </message>
@@ -449,12 +449,12 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>メモリーが足りませんでした。</translation>
     </message>
     <message>
-        <source>The film holds nothing that this output can take.</source>
+        <source>The video holds nothing that this output can take.</source>
         <comment>Why a conversion failed</comment>
         <translation>この出力形式に変換できる内容が動画に含まれていません。</translation>
     </message>
     <message>
-        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
         <comment>Why a conversion failed</comment>
         <translation>エンコーダーはこの動画の映像または音声をそのままでは処理できません。</translation>
     </message>
@@ -469,7 +469,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>ツールがプログラムの外部から停止されました。</translation>
     </message>
     <message>
-        <source>The film&apos;s data is damaged.</source>
+        <source>The video&apos;s data is damaged.</source>
         <comment>Why a conversion failed</comment>
         <translation>動画のデータが破損しています。</translation>
     </message>
@@ -509,7 +509,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>送信しない</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace the film it is made from.</source>
+        <source>The result can&apos;t replace the video it is made from.</source>
         <comment>Error message when source and destination are one file</comment>
         <translation>変換結果で元の動画を置き換えることはできません。</translation>
     </message>

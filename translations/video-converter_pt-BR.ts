@@ -19,7 +19,7 @@
         <translation>Verificar atualizações…</translation>
     </message>
     <message>
-        <source>Film to open.</source>
+        <source>Video to open.</source>
         <comment>help on the command line</comment>
         <translation>Vídeo a ser aberto.</translation>
     </message>
@@ -59,12 +59,12 @@
         <translation>“probe” aceita exatamente um arquivo.</translation>
     </message>
     <message>
-        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
         <comment>Command line: wrong usage</comment>
         <translation>“plan” aceita um vídeo e um arquivo de saída, ou somente --info.</translation>
     </message>
     <message>
-        <source>There is no film to convert.</source>
+        <source>There is no video to convert.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Não há nenhum vídeo para converter.</translation>
     </message>
@@ -74,7 +74,7 @@
         <translation>“convert” precisa de --output ou --folder.</translation>
     </message>
     <message>
-        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <source>Several videos can&apos;t go to one output file; use --folder.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Não é possível gravar vários vídeos em um só arquivo de saída; use --folder.</translation>
     </message>
@@ -94,7 +94,7 @@
         <translation>%@; o que foi convertido até esse ponto foi mantido.</translation>
     </message>
     <message>
-        <source>The tool that converts films can&apos;t be started.</source>
+        <source>The tool that converts videos can&apos;t be started.</source>
         <comment>Why a conversion failed</comment>
         <translation>Não é possível iniciar a ferramenta que converte os vídeos.</translation>
     </message>
@@ -114,7 +114,7 @@
         <translation>Não é permitido gravar na pasta de destino.</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <source>The result can&apos;t replace a video that is to be converted.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>O resultado não pode substituir um vídeo que será convertido.</translation>
     </message>
@@ -145,62 +145,62 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo não existe.</translation>
     </message>
     <message>
-        <source>This is a folder, not a film.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>This is a folder, not a video.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Isto é uma pasta, não um vídeo.</translation>
     </message>
     <message>
         <source>The file may not be read: permission denied.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Não é possível ler o arquivo: permissão negada.</translation>
     </message>
     <message>
         <source>This is a pipe or a device, not a file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Isto é um pipe ou um dispositivo, não um arquivo.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo está vazio.</translation>
     </message>
     <message>
         <source>The file has gone.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo desapareceu.</translation>
     </message>
     <message>
-        <source>The tool that examines films can&apos;t be started.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The tool that examines videos can&apos;t be started.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Não é possível iniciar a ferramenta que analisa os vídeos.</translation>
     </message>
     <message>
-        <source>The file is no film, or it is damaged or incomplete.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The file is no video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo não é um vídeo ou está danificado ou incompleto.</translation>
     </message>
     <message>
         <source>The file does not tell how long it plays.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo não informa a sua duração.</translation>
     </message>
     <message>
         <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>Não é possível descobrir o tamanho do arquivo.</translation>
     </message>
     <message>
-        <source>The film is shorter than one second.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The video is shorter than one second.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O vídeo dura menos de um segundo.</translation>
     </message>
     <message>
         <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>O arquivo ainda está sendo gravado ou só pôde ser lido em parte.</translation>
     </message>
     <message>
@@ -225,12 +225,12 @@
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts films.
+Converts videos.
 
   formats   lists the outputs that --to takes
-  probe     describes a film
+  probe     describes a video
   plan      prints the tool&apos;s command line without running it
-  convert   converts films
+  convert   converts videos
 
 video-converter-cli COMMAND --help tells more about a command. All commands take:
   --json      prints JSON
@@ -238,9 +238,9 @@ video-converter-cli COMMAND --help tells more about a command. All commands take
   -h, --help  prints this help
   --version   prints the version
 
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several films it is that of the first that was not converted.</source>
+With several videos it is that of the first that was not converted.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
         <translation>Uso: video-converter-cli COMANDO [OPÇÕES]
 Converte vídeos.
@@ -269,7 +269,7 @@ Lista as saídas que --to aceita: dispositivos, formatos e qualidades MP4.</tran
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
-Describes a film. With --json: all that the tool says of it (info), its length
+Describes a video. With --json: all that the tool says of it (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
         <translation>Uso: video-converter-cli probe ARQUIVO [--json]
@@ -282,7 +282,7 @@ Descreve um vídeo. Com --json: tudo o que a ferramenta diz sobre ele (info), a 
 Prints the tool&apos;s command line, quoted for a shell, without running it.
 
   --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
                    (- for standard input) and prints only the arguments that depend
                    on it
   --json           prints one object: name of the output, list of arguments</source>
@@ -300,12 +300,12 @@ Mostra a linha de comando da ferramenta, com aspas para um shell, sem executá-l
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
        video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
 
   --to NAME            the output, one of those that &apos;formats&apos; lists
   -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
-  --overwrite          replaces files that exist; a film itself is never replaced
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
   --json               prints one JSON object a line
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
@@ -335,22 +335,22 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>%@: converted to %@ in %@</source>
-        <comment>Film, file that was made of it, time that it took</comment>
+        <comment>Video, file that was made of it, time that it took</comment>
         <translation>%@: convertido em %@ (levou %@)</translation>
     </message>
     <message>
-        <source>%d of %d films converted</source>
-        <comment>Sum after the conversion of several films</comment>
+        <source>%d of %d videos converted</source>
+        <comment>Sum after the conversion of several videos</comment>
         <translation>Vídeos convertidos: %d de %d</translation>
     </message>
     <message>
         <source>The file can&apos;t be opened.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>Não é possível abrir o arquivo.</translation>
     </message>
     <message>
         <source>The file holds no JSON.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>O arquivo não contém JSON.</translation>
     </message>
     <message>
@@ -360,27 +360,27 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Length</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Duração</translation>
     </message>
     <message>
         <source>Container</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Contêiner</translation>
     </message>
     <message>
         <source>Stream</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Fluxo</translation>
     </message>
     <message>
         <source>none</source>
-        <comment>A film has no cover picture</comment>
+        <comment>A video has no cover picture</comment>
         <translation>nenhuma</translation>
     </message>
     <message>
         <source>Cover</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>Capa</translation>
     </message>
     <message>
@@ -414,7 +414,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>O disco de destino é somente leitura.</translation>
     </message>
     <message>
-        <source>Permission was denied to read the film or to write the result.</source>
+        <source>Permission was denied to read the video or to write the result.</source>
         <comment>Why a conversion failed</comment>
         <translation>Foi negada a permissão para ler o vídeo ou gravar o resultado.</translation>
     </message>
@@ -429,7 +429,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>A ferramenta instalada não consegue gravar o formato %@.</translation>
     </message>
     <message>
-        <source>The film or the destination&apos;s folder has gone.</source>
+        <source>The video or the destination&apos;s folder has gone.</source>
         <comment>Why a conversion failed</comment>
         <translation>O vídeo ou a pasta de destino desapareceu.</translation>
     </message>
@@ -449,12 +449,12 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Não havia memória suficiente.</translation>
     </message>
     <message>
-        <source>The film holds nothing that this output can take.</source>
+        <source>The video holds nothing that this output can take.</source>
         <comment>Why a conversion failed</comment>
         <translation>O vídeo não contém nada que esta saída aceite.</translation>
     </message>
     <message>
-        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
         <comment>Why a conversion failed</comment>
         <translation>O codificador não aceita a imagem ou o som do vídeo como estão.</translation>
     </message>
@@ -469,7 +469,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>A ferramenta foi interrompida de fora do programa.</translation>
     </message>
     <message>
-        <source>The film&apos;s data is damaged.</source>
+        <source>The video&apos;s data is damaged.</source>
         <comment>Why a conversion failed</comment>
         <translation>Os dados do vídeo estão danificados.</translation>
     </message>
@@ -509,7 +509,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Não enviar</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace the film it is made from.</source>
+        <source>The result can&apos;t replace the video it is made from.</source>
         <comment>Error message when source and destination are one file</comment>
         <translation>O resultado não pode substituir o vídeo do qual é feito.</translation>
     </message>

@@ -19,7 +19,7 @@
         <translation>检查更新…</translation>
     </message>
     <message>
-        <source>Film to open.</source>
+        <source>Video to open.</source>
         <comment>help on the command line</comment>
         <translation>要打开的视频。</translation>
     </message>
@@ -59,12 +59,12 @@
         <translation>“probe”只接受一个文件。</translation>
     </message>
     <message>
-        <source>&apos;plan&apos; takes either a film and an output file, or --info alone.</source>
+        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
         <comment>Command line: wrong usage</comment>
         <translation>“plan”接受一个视频和一个输出文件，或仅接受 --info。</translation>
     </message>
     <message>
-        <source>There is no film to convert.</source>
+        <source>There is no video to convert.</source>
         <comment>Command line: wrong usage</comment>
         <translation>没有要转换的视频。</translation>
     </message>
@@ -74,7 +74,7 @@
         <translation>“convert”需要 --output 或 --folder 之一。</translation>
     </message>
     <message>
-        <source>Several films can&apos;t go to one output file; use --folder.</source>
+        <source>Several videos can&apos;t go to one output file; use --folder.</source>
         <comment>Command line: wrong usage</comment>
         <translation>多个视频不能写入同一个输出文件；请使用 --folder。</translation>
     </message>
@@ -94,7 +94,7 @@
         <translation>%@；已转换的部分予以保留。</translation>
     </message>
     <message>
-        <source>The tool that converts films can&apos;t be started.</source>
+        <source>The tool that converts videos can&apos;t be started.</source>
         <comment>Why a conversion failed</comment>
         <translation>无法启动用于转换视频的工具。</translation>
     </message>
@@ -114,7 +114,7 @@
         <translation>没有写入目标文件夹的权限。</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace a film that is to be converted.</source>
+        <source>The result can&apos;t replace a video that is to be converted.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>转换结果不能替换待转换的视频。</translation>
     </message>
@@ -145,62 +145,62 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>文件不存在。</translation>
     </message>
     <message>
-        <source>This is a folder, not a film.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>This is a folder, not a video.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>这是文件夹，而不是视频。</translation>
     </message>
     <message>
         <source>The file may not be read: permission denied.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>无法读取文件：权限不足。</translation>
     </message>
     <message>
         <source>This is a pipe or a device, not a file.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>这是管道或设备，而不是文件。</translation>
     </message>
     <message>
         <source>The file is empty.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>文件为空。</translation>
     </message>
     <message>
         <source>The file has gone.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>文件已不存在。</translation>
     </message>
     <message>
-        <source>The tool that examines films can&apos;t be started.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The tool that examines videos can&apos;t be started.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>无法启动用于分析视频的工具。</translation>
     </message>
     <message>
-        <source>The file is no film, or it is damaged or incomplete.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The file is no video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>该文件不是视频，或者已损坏或不完整。</translation>
     </message>
     <message>
         <source>The file does not tell how long it plays.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>文件没有提供时长信息。</translation>
     </message>
     <message>
         <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>无法确定文件的大小。</translation>
     </message>
     <message>
-        <source>The film is shorter than one second.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <source>The video is shorter than one second.</source>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>视频时长不足一秒。</translation>
     </message>
     <message>
         <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a film can&apos;t be converted</comment>
+        <comment>Why a video can&apos;t be converted</comment>
         <translation>文件仍在写入中，或者只能读取其中一部分。</translation>
     </message>
     <message>
@@ -225,12 +225,12 @@
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts films.
+Converts videos.
 
   formats   lists the outputs that --to takes
-  probe     describes a film
+  probe     describes a video
   plan      prints the tool&apos;s command line without running it
-  convert   converts films
+  convert   converts videos
 
 video-converter-cli COMMAND --help tells more about a command. All commands take:
   --json      prints JSON
@@ -238,9 +238,9 @@ video-converter-cli COMMAND --help tells more about a command. All commands take
   -h, --help  prints this help
   --version   prints the version
 
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 film refused, 4 destination
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several films it is that of the first that was not converted.</source>
+With several videos it is that of the first that was not converted.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
         <translation>用法：video-converter-cli 命令 [选项]
 转换视频。
@@ -269,7 +269,7 @@ Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
-Describes a film. With --json: all that the tool says of it (info), its length
+Describes a video. With --json: all that the tool says of it (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
         <translation>用法：video-converter-cli probe 文件 [--json]
@@ -282,7 +282,7 @@ Describes a film. With --json: all that the tool says of it (info), its length
 Prints the tool&apos;s command line, quoted for a shell, without running it.
 
   --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the film&apos;s description from a file made by &apos;probe --json&apos;
+  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
                    (- for standard input) and prints only the arguments that depend
                    on it
   --json           prints one object: name of the output, list of arguments</source>
@@ -299,12 +299,12 @@ Prints the tool&apos;s command line, quoted for a shell, without running it.
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
        video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts films, one after the other. Ctrl-C stops and leaves no unfinished file.
+Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
 
   --to NAME            the output, one of those that &apos;formats&apos; lists
   -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the films&apos; names
-  --overwrite          replaces files that exist; a film itself is never replaced
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
   --json               prints one JSON object a line
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
@@ -334,22 +334,22 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>%@: converted to %@ in %@</source>
-        <comment>Film, file that was made of it, time that it took</comment>
+        <comment>Video, file that was made of it, time that it took</comment>
         <translation>%@: 已转换为 %@，用时 %@</translation>
     </message>
     <message>
-        <source>%d of %d films converted</source>
-        <comment>Sum after the conversion of several films</comment>
+        <source>%d of %d videos converted</source>
+        <comment>Sum after the conversion of several videos</comment>
         <translation>已转换的视频：%d / %d</translation>
     </message>
     <message>
         <source>The file can&apos;t be opened.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>无法打开文件。</translation>
     </message>
     <message>
         <source>The file holds no JSON.</source>
-        <comment>Why a saved description of a film can&apos;t be used</comment>
+        <comment>Why a saved description of a video can&apos;t be used</comment>
         <translation>文件中没有 JSON。</translation>
     </message>
     <message>
@@ -359,27 +359,27 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Length</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>时长</translation>
     </message>
     <message>
         <source>Container</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>容器</translation>
     </message>
     <message>
         <source>Stream</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>轨道</translation>
     </message>
     <message>
         <source>none</source>
-        <comment>A film has no cover picture</comment>
+        <comment>A video has no cover picture</comment>
         <translation>无</translation>
     </message>
     <message>
         <source>Cover</source>
-        <comment>Property of a film</comment>
+        <comment>Property of a video</comment>
         <translation>封面</translation>
     </message>
     <message>
@@ -413,7 +413,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>目标磁盘是只读的。</translation>
     </message>
     <message>
-        <source>Permission was denied to read the film or to write the result.</source>
+        <source>Permission was denied to read the video or to write the result.</source>
         <comment>Why a conversion failed</comment>
         <translation>没有读取视频或写入结果的权限。</translation>
     </message>
@@ -428,7 +428,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>所安装的工具无法写入 %@ 格式。</translation>
     </message>
     <message>
-        <source>The film or the destination&apos;s folder has gone.</source>
+        <source>The video or the destination&apos;s folder has gone.</source>
         <comment>Why a conversion failed</comment>
         <translation>视频或目标文件夹已不存在。</translation>
     </message>
@@ -448,12 +448,12 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>内存不足。</translation>
     </message>
     <message>
-        <source>The film holds nothing that this output can take.</source>
+        <source>The video holds nothing that this output can take.</source>
         <comment>Why a conversion failed</comment>
         <translation>视频中没有此输出格式可以容纳的内容。</translation>
     </message>
     <message>
-        <source>The encoder does not take the film&apos;s picture or sound as it is.</source>
+        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
         <comment>Why a conversion failed</comment>
         <translation>编码器无法按原样处理该视频的画面或声音。</translation>
     </message>
@@ -468,7 +468,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>工具被外部终止。</translation>
     </message>
     <message>
-        <source>The film&apos;s data is damaged.</source>
+        <source>The video&apos;s data is damaged.</source>
         <comment>Why a conversion failed</comment>
         <translation>视频数据已损坏。</translation>
     </message>
@@ -508,7 +508,7 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>不发送</translation>
     </message>
     <message>
-        <source>The result can&apos;t replace the film it is made from.</source>
+        <source>The result can&apos;t replace the video it is made from.</source>
         <comment>Error message when source and destination are one file</comment>
         <translation>转换结果不能替换原视频。</translation>
     </message>

@@ -141,7 +141,7 @@ void AppDelegate::showStateInMenus()
     m_outlets->pasteAction->setEnabled(takesFiles);
     const bool offersFormats = m_uiState == WindowUIState::CoverIsSet;
     m_outlets->formatMenu->menuAction()->setEnabled(offersFormats);
-    // It may stand open for the film before.
+    // It may stand open for the video before.
     if (!offersFormats)
         m_outlets->formatMenu->hide();
     m_outlets->cancelAction->setEnabled(m_uiState == WindowUIState::Converting);

@@ -87,7 +87,7 @@ void AppDelegate::startConversion(const QString &destPath, const VideoConstraint
     const QPointer<AppDelegate> self(this);
     m_run = FFMPEG::convertFile(m_processingFilePath, destPath, constraints, *m_processingInfo,
         [self, path = m_processingFilePath, probe = m_probe](const std::optional<QString> &errmsg) {
-            // A tool that fails after its bar was full may find a later film in the window.
+            // A tool that fails after its bar was full may find a later video in the window.
             if (self && self->m_probe == probe)
                 self->failWhileConverting(errmsg);
             else if (self)

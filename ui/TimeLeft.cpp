@@ -7,7 +7,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// The speed is that of the last moments, as films have easy and hard stretches.
+/// The speed is that of the last moments, as videos have easy and hard stretches.
 constexpr TimeLeft::Duration span = 12s;
 constexpr TimeLeft::Duration shortestSpan = 3s;
 /// The speeds of the older and the newer half differ by no more than this part.

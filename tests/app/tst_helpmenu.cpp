@@ -49,8 +49,8 @@ private Q_SLOTS:
 
     void log_showsWhatTheToolPrinted()
     {
-        const QString film = m_folder.filePath(u"film.mov"_s);
-        Media::film(film, 2);
+        const QString video = m_folder.filePath(u"video.mov"_s);
+        Media::video(video, 2);
         AppDelegate delegate;
         Updater updater({ .version = u"1.0"_s });
         User user(*delegate.window());
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(delegate.window()));
         QVERIFY(!click(user, u"Show Conversion Log"_s));
 
-        delegate.takeFiles({ film });
+        delegate.takeFiles({ video });
         QTRY_COMPARE(delegate.uiState(), WindowUIState::CoverIsSet);
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
             "print:Duration: 00:00:02.00, start: 0\\n<b>100%\\n|output|reports:2:1000");

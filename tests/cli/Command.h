@@ -14,7 +14,7 @@ struct Finished {
     int exitCode = -1;
     QString out;
     QString err;
-    /// Exit code and standard error, such as "3: film.mp4: The file is empty.\n".
+    /// Exit code and standard error, such as "3: video.mp4: The file is empty.\n".
     [[nodiscard]] QString end() const
     {
         return QString::number(exitCode) + QStringLiteral(": ") + err;

@@ -8,17 +8,17 @@
 
 using namespace Qt::StringLiterals;
 
-/// Every bad film ends with its own message and code, leaves nothing behind and is left as it was.
+/// Every bad video ends with its own message and code, leaves nothing behind and is left as it was.
 class TestBadInput : public QObject {
     Q_OBJECT
 
-    [[nodiscard]] Finished convert(const QString &film, const QString &entry = u"MP4"_s) const
+    [[nodiscard]] Finished convert(const QString &video, const QString &entry = u"MP4"_s) const
     {
-        return m_command.run(u"convert -o out/result --to"_s, { entry, u"--"_s, film });
+        return m_command.run(u"convert -o out/result --to"_s, { entry, u"--"_s, video });
     }
-    void cutInHalf(const QString &film, const QString &result) const
+    void cutInHalf(const QString &video, const QString &result) const
     {
-        const QByteArray bytes = m_command.contents(film);
+        const QByteArray bytes = m_command.contents(video);
         m_command.write(result, bytes.first(bytes.size() / 2));
     }
 
@@ -27,16 +27,16 @@ class TestBadInput : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        const QString film = m_command.path(u"film.mp4"_s);
+        const QString video = m_command.path(u"video.mp4"_s);
         const QStringList mpeg4{ u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"aac"_s };
-        Media::film(film, 2);
-        Media::film(m_command.path(u"short.mp4"_s), 1, u"160x120"_s,
+        Media::video(video, 2);
+        Media::video(m_command.path(u"short.mp4"_s), 1, u"160x120"_s,
             mpeg4 + QStringList{ u"-t"_s, u"0.6"_s });
-        Media::film(m_command.path(u"film.mkv"_s), 4, u"160x120"_s, mpeg4);
-        Media::ffmpeg({ u"-i"_s, film, u"-vn"_s, m_command.path(u"sound.wav"_s) });
-        Media::ffmpeg({ u"-i"_s, film, u"-an"_s, m_command.path(u"silent.mp4"_s) });
-        cutInHalf(u"film.mp4"_s, u"cut.mp4"_s);
-        cutInHalf(u"film.mkv"_s, u"cut.mkv"_s);
+        Media::video(m_command.path(u"video.mkv"_s), 4, u"160x120"_s, mpeg4);
+        Media::ffmpeg({ u"-i"_s, video, u"-vn"_s, m_command.path(u"sound.wav"_s) });
+        Media::ffmpeg({ u"-i"_s, video, u"-an"_s, m_command.path(u"silent.mp4"_s) });
+        cutInHalf(u"video.mp4"_s, u"cut.mp4"_s);
+        cutInHalf(u"video.mkv"_s, u"cut.mkv"_s);
         m_command.write(u"empty.mp4"_s, {});
         m_command.write(u"text.mp4"_s, QByteArray("Once upon a time.\n").repeated(500));
         QFile::link(m_command.path(u"nowhere"_s), m_command.path(u"link.mp4"_s));
@@ -44,46 +44,46 @@ private Q_SLOTS:
         m_command.makeFolder(u"out"_s);
     }
 
-    void film_isRefused_data()
+    void video_isRefused_data()
     {
-        const Utf8 noFilm = "The file is no film, or it is damaged or incomplete.";
-        addRows<Utf8, Utf8>({ "film", "message" },
+        const Utf8 noVideo = "The file is no video, or it is damaged or incomplete.";
+        addRows<Utf8, Utf8>({ "video", "message" },
             {
                 { "missing", "missing.mp4", "There is no such file." },
-                { "below a file", "film.mp4/x", "There is no such file." },
+                { "below a file", "video.mp4/x", "There is no such file." },
                 { "link to nothing", "link.mp4", "There is no such file." },
-                { "empty name", "", "This is a folder, not a film." },
-                { "folder", "out", "This is a folder, not a film." },
+                { "empty name", "", "This is a folder, not a video." },
+                { "folder", "out", "This is a folder, not a video." },
                 { "FIFO", "fifo.mp4", "This is a pipe or a device, not a file." },
                 { "device", "/dev/zero", "This is a pipe or a device, not a file." },
                 { "empty file", "empty.mp4", "The file is empty." },
-                { "text", "text.mp4", noFilm },
-                { "cut in the middle", "cut.mp4", noFilm },
-                { "too short", "short.mp4", "The film is shorter than one second." },
+                { "text", "text.mp4", noVideo },
+                { "cut in the middle", "cut.mp4", noVideo },
+                { "too short", "short.mp4", "The video is shorter than one second." },
             });
     }
-    void film_isRefused()
+    void video_isRefused()
     {
-        QFETCH(const QString, film);
+        QFETCH(const QString, video);
         QFETCH(const QString, message);
-        const QString end = u"3: "_s + film + u": "_s + message + u'\n';
+        const QString end = u"3: "_s + video + u": "_s + message + u'\n';
         const QStringList before = m_command.listing();
-        QCOMPARE(convert(film).end(), end);
-        const Finished probed = m_command.run(u"probe --json"_s, { film });
+        QCOMPARE(convert(video).end(), end);
+        const Finished probed = m_command.run(u"probe --json"_s, { video });
         QCOMPARE(probed.end(), end);
         QCOMPARE(probed.out, QString());
         QCOMPARE(m_command.listing(), before);
     }
 
-    void unreadableFilm_isRefused()
+    void unreadableVideo_isRefused()
     {
         Command command;
-        command.write(u"film.mp4"_s, "x");
-        QFile::setPermissions(command.path(u"film.mp4"_s), {});
+        command.write(u"video.mp4"_s, "x");
+        QFile::setPermissions(command.path(u"video.mp4"_s), {});
         if (!command.dropPrivileges())
             QSKIP("No other user can run the program here");
-        QCOMPARE(command.run(u"probe film.mp4"_s).end(),
-            u"3: film.mp4: The file may not be read: permission denied.\n"_s);
+        QCOMPARE(command.run(u"probe video.mp4"_s).end(),
+            u"3: video.mp4: The file may not be read: permission denied.\n"_s);
     }
 
     void strangeTool_fails_data()
@@ -97,7 +97,7 @@ private Q_SLOTS:
                 { "no size", "ffprobe", R"({"format":{"duration":"2.0"}})", 3,
                     "The file's size can't be found out." },
                 { "no JSON", "ffprobe", "Segmentation fault", 3,
-                    "The file is no film, or it is damaged or incomplete." },
+                    "The file is no video, or it is damaged or incomplete." },
                 { "not UTF-8", "ffmpeg", R"(print:\xff\xfe bad \xd0\nlast words\n|exit:1)", 1,
                     "The tool failed: last words" },
                 { "flood", "ffmpeg", R"(flood:50000000|print:last words\n|exit:1)", 1,
@@ -115,21 +115,21 @@ private Q_SLOTS:
             ? "out:"
             : R"(output|print:  Duration: 00:01:40.00, start: 0\n|)";
         const ToolSwap swap(tool, ToolSwap::With::FakeTool, begin + script.toUtf8());
-        QCOMPARE(convert(u"film.mp4"_s).end(),
-            QString::number(exitCode) + u": film.mp4: "_s + message + u'\n');
+        QCOMPARE(convert(u"video.mp4"_s).end(),
+            QString::number(exitCode) + u": video.mp4: "_s + message + u'\n');
         QCOMPARE(m_command.listing(), before);
     }
 
     void unsuitableOutput_isReported()
     {
         const QStringList before = m_command.listing();
-        const QString message = u": The film holds nothing that this output can take.\n"_s;
+        const QString message = u": The video holds nothing that this output can take.\n"_s;
         QCOMPARE(convert(u"sound.wav"_s, u"GIF"_s).end(), u"1: sound.wav"_s + message);
         QCOMPARE(convert(u"silent.mp4"_s, u"audio"_s).end(), u"1: silent.mp4"_s + message);
         QCOMPARE(m_command.listing(), before);
     }
 
-    void cutFilm_isReportedAndKept()
+    void cutVideo_isReportedAndKept()
     {
         const QString end = convert(u"cut.mkv"_s, u"MKV"_s).end();
         QVERIFY2(end.startsWith(u"1: cut.mkv: The converting progress was finished at "_s),
@@ -155,7 +155,7 @@ private Q_SLOTS:
         const QStringList before = m_command.listing();
         const ToolSwap swap(tool, replacement);
         const Finished converted
-            = m_command.run(u"convert --to MP4 --overwrite film.mp4 -o precious"_s);
+            = m_command.run(u"convert --to MP4 --overwrite video.mp4 -o precious"_s);
         QCOMPARE(converted.exitCode, 5);
         QVERIFY2(converted.err.contains(u"/Contents/ffmpeg/"_s + tool), qPrintable(converted.err));
         QCOMPARE(m_command.listing(), before);

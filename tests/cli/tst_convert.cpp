@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A film of 100 s, converted in about 2 s.
+// A video of 100 s, converted in about 2 s.
 constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|output|reports:100:20000";
 
 }
@@ -28,13 +28,13 @@ class TestConvert : public QObject {
     Command m_command;
 
 private Q_SLOTS:
-    void initTestCase() { Media::film(m_command.path(u"film.mov"_s), 2, u"320x240"_s); }
+    void initTestCase() { Media::video(m_command.path(u"video.mov"_s), 2, u"320x240"_s); }
 
     void events_tellTheProgress()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, slowTool);
         const Finished finished
-            = m_command.run(u"convert --to AVI --json -d . gone.mov film.mov"_s);
+            = m_command.run(u"convert --to AVI --json -d . gone.mov video.mov"_s);
         QCOMPARE(finished.end(), u"3: gone.mov: There is no such file.\n"_s);
         QStringList names;
         qint64 last = -1;
@@ -52,7 +52,7 @@ private Q_SLOTS:
             QVERIFY(event[u"seconds"_s].toInteger() > last);
             last = event[u"seconds"_s].toInteger();
             QCOMPARE(event[u"percent"_s].toInteger(), last);
-            QCOMPARE(event[u"input"_s].toString(), m_command.path(u"film.mov"_s));
+            QCOMPARE(event[u"input"_s].toString(), m_command.path(u"video.mov"_s));
         }
         QCOMPARE(names.join(u' '), u"failed started progress converted summary"_s);
         QVERIFY(last > 0);
@@ -61,10 +61,10 @@ private Q_SLOTS:
     void lines_tellTheProgress()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, slowTool);
-        const Finished converted = m_command.run(u"convert --to FLV film.mov -o film.flv"_s);
+        const Finished converted = m_command.run(u"convert --to FLV video.mov -o video.flv"_s);
         const QStringList lines = converted.out.split(u'\n', Qt::SkipEmptyParts);
         QVERIFY2(lines.size() > 2 && lines.size() < 12, qPrintable(converted.out));
-        static const QRegularExpression line(uR"(\Afilm\.mov: \d+%(  [\d.]+x  \d+s left)?\z)"_s);
+        static const QRegularExpression line(uR"(\Avideo\.mov: \d+%(  [\d.]+x  \d+s left)?\z)"_s);
         for (const QString &each : lines.first(lines.size() - 1))
             QVERIFY2(line.match(each).hasMatch(), qPrintable(each));
     }
@@ -75,7 +75,7 @@ private Q_SLOTS:
         qputenv("TERM", "xterm");
         const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
         QVERIFY(::grantpt(master) == 0 && ::unlockpt(master) == 0);
-        const auto process = m_command.start(u"convert --to FLV film.mov -o bar.flv"_s, {},
+        const auto process = m_command.start(u"convert --to FLV video.mov -o bar.flv"_s, {},
             [master] { ::dup2(::open(::ptsname(master), O_RDWR | O_NOCTTY), STDOUT_FILENO); });
         QCOMPARE(Command::wait(*process).exitCode, 0);
         QByteArray screen(65536, '\0');
@@ -88,15 +88,15 @@ private Q_SLOTS:
                          return frame.contains("#-") && frame.contains("s left");
                      }),
             screen.constData());
-        QVERIFY2(screen.contains("\x1b[Kfilm.mov: converted to"), screen.constData());
+        QVERIFY2(screen.contains("\x1b[Kvideo.mov: converted to"), screen.constData());
     }
 
     void verbose_showsTheToolsOutput()
     {
-        const QString convert = u"convert --to MP4 film.mov -o no.mp4 "_s;
+        const QString convert = u"convert --to MP4 video.mov -o no.mp4 "_s;
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
             R"(print:early words\n\xff\nlast words\n|exit:1)");
-        QCOMPARE(m_command.run(convert).err, u"film.mov: The tool failed: last words\n"_s);
+        QCOMPARE(m_command.run(convert).err, u"video.mov: The tool failed: last words\n"_s);
         const Finished verbose = m_command.run(convert + u"--verbose"_s);
         QVERIFY2(verbose.err.contains(u"early words\n"_s), qPrintable(verbose.err));
         QVERIFY2(verbose.err.contains(u"last delta: "_s), qPrintable(verbose.err));
@@ -107,11 +107,12 @@ private Q_SLOTS:
 
     void standardInput_isLeftAlone()
     {
-        // A waiting 'q' would end the tool early, and a loop's list of films would be eaten.
+        // A waiting 'q' would end the tool early, and a loop's list of videos would be eaten.
         QProcess shell;
         shell.setWorkingDirectory(m_command.path());
         shell.start(u"sh"_s,
-            { u"-c"_s, u"\"$0\" convert --to MKV film.mov -o q.mkv && cat"_s, Command::program() });
+            { u"-c"_s, u"\"$0\" convert --to MKV video.mov -o q.mkv && cat"_s,
+                Command::program() });
         shell.write("q\nq\n");
         shell.closeWriteChannel();
         const Finished finished = Command::wait(shell);
@@ -125,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(collector.listen(QHostAddress::LocalHost));
         const QByteArray port = QByteArray::number(collector.serverPort());
         qputenv("VIDEO_CONVERTER_COLLECTOR_URL", "http://127.0.0.1:" + port + '/');
-        const Finished probed = m_command.run(u"probe film.mov"_s);
+        const Finished probed = m_command.run(u"probe video.mov"_s);
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
         QCOMPARE(probed.exitCode, 0);
         QVERIFY(!collector.waitForNewConnection(200));

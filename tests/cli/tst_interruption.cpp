@@ -37,7 +37,7 @@ class TestInterruption : public QObject {
         const QStringList &further = {}, const std::function<void()> &inChild = [] {}) const
     {
         auto process
-            = m_command.start(u"convert --to WebM film.mp4 -o out.webm"_s, further, inChild);
+            = m_command.start(u"convert --to WebM video.mp4 -o out.webm"_s, further, inChild);
         if (!QTest::qWaitFor([this] { return !tools().isEmpty() && files().size() == 2; }, 20'000))
             qFatal("The tool has not started");
         return process;
@@ -51,11 +51,11 @@ class TestInterruption : public QObject {
         return QDir(m_command.path()).entryList(QDir::Files);
     }
 
-    const QStringList m_untouched{ u"film.mp4"_s };
+    const QStringList m_untouched{ u"video.mp4"_s };
     Command m_command;
 
 private Q_SLOTS:
-    void initTestCase() { Media::film(m_command.path(u"film.mp4"_s), 60, u"640x480"_s); }
+    void initTestCase() { Media::video(m_command.path(u"video.mp4"_s), 60, u"640x480"_s); }
 
     void cleanup()
     {
@@ -67,11 +67,11 @@ private Q_SLOTS:
     {
         addRows<int, bool, Utf8>({ "signal", "toAll", "end" },
             {
-                { "SIGINT", SIGINT, false, "130: film.mp4: Cancelled.\n" },
-                { "SIGTERM", SIGTERM, false, "143: film.mp4: Cancelled.\n" },
-                { "SIGHUP", SIGHUP, false, "129: film.mp4: Cancelled.\n" },
-                { "SIGQUIT", SIGQUIT, false, "131: film.mp4: Cancelled.\n" },
-                { "SIGINT by the terminal", SIGINT, true, "130: film.mp4: Cancelled.\n" },
+                { "SIGINT", SIGINT, false, "130: video.mp4: Cancelled.\n" },
+                { "SIGTERM", SIGTERM, false, "143: video.mp4: Cancelled.\n" },
+                { "SIGHUP", SIGHUP, false, "129: video.mp4: Cancelled.\n" },
+                { "SIGQUIT", SIGQUIT, false, "131: video.mp4: Cancelled.\n" },
+                { "SIGINT by the terminal", SIGINT, true, "130: video.mp4: Cancelled.\n" },
             });
     }
     void signal_cancelsAConversion()
@@ -91,18 +91,19 @@ private Q_SLOTS:
     void signal_cancelsAProbe()
     {
         const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
-        const auto process = m_command.start(u"probe film.mp4"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!tools(u"film.mp4"_s).isEmpty(), 10'000);
+        const auto process = m_command.start(u"probe video.mp4"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!tools(u"video.mp4"_s).isEmpty(), 10'000);
         send(SIGINT, process->processId());
         QCOMPARE(Command::wait(*process).exitCode, 130);
-        QVERIFY(tools(u"film.mp4"_s).isEmpty());
+        QVERIFY(tools(u"video.mp4"_s).isEmpty());
     }
 
     void signal_endsTheWholeList()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|forever");
-        const auto process = m_command.start(u"convert --to MKV film.mp4 second.mp4 -d . --json"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!tools(u"film.mkv"_s).isEmpty(), 10'000);
+        const auto process
+            = m_command.start(u"convert --to MKV video.mp4 second.mp4 -d . --json"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!tools(u"video.mkv"_s).isEmpty(), 10'000);
         send(SIGTERM, process->processId());
         const Finished stopped = Command::wait(*process);
         QCOMPARE(stopped.exitCode, 143);
@@ -126,7 +127,7 @@ private Q_SLOTS:
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:1000000|exit:1");
         const auto errors = openPipe();
         const auto process = m_command.start(
-            u"probe film.mp4 --verbose"_s, {}, [&errors] { ::dup2(errors[1], STDERR_FILENO); });
+            u"probe video.mp4 --verbose"_s, {}, [&errors] { ::dup2(errors[1], STDERR_FILENO); });
         int waiting = 0;
         QTRY_VERIFY_WITH_TIMEOUT(
             ::ioctl(errors[0], FIONREAD, &waiting) == 0 && waiting > 60'000, 20'000);

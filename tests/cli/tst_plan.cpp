@@ -23,11 +23,11 @@ class TestPlan : public QObject {
     }
     static QStringList wordsOf(const QJsonValue &list) { return list.toVariant().toStringList(); }
 
-    const QString m_film = u"a'b\"c\n.mp4"_s;
+    const QString m_video = u"a'b\"c\n.mp4"_s;
     Command m_command;
 
 private Q_SLOTS:
-    void initTestCase() { Media::film(m_command.path(m_film), 3, u"320x240"_s); }
+    void initTestCase() { Media::video(m_command.path(m_video), 3, u"320x240"_s); }
 
     void formats_listsAllEntries()
     {
@@ -42,45 +42,45 @@ private Q_SLOTS:
             QVERIFY2(text.contains(u"\n  "_s + name + u"  "_s), qPrintable(name));
     }
 
-    void probe_describesAFilm()
+    void probe_describesAVideo()
     {
-        const QJsonObject object = objectOf(m_command.run(u"probe --json"_s, { m_film }));
+        const QJsonObject object = objectOf(m_command.run(u"probe --json"_s, { m_video }));
         QCOMPARE(object.keys().join(u' '), u"cover duration info seconds"_s);
         QCOMPARE(object[u"duration"_s].toString(), u"3s"_s);
         QCOMPARE(object[u"seconds"_s].toInt(), 3);
         QCOMPARE(object[u"cover"_s][u"width"_s].toInt(), 320);
         QCOMPARE(object[u"info"_s][u"streams"_s][0][u"codec_name"_s].toString(), u"h264"_s);
-        const Finished text = m_command.run(u"probe"_s, { m_film });
+        const Finished text = m_command.run(u"probe"_s, { m_video });
         QCOMPARE(text.exitCode, 0);
         QVERIFY2(text.out.contains(u"0, video, h264, 320 x 240\n"_s), qPrintable(text.out));
 
-        Media::ffmpeg({ u"-i"_s, m_command.path(m_film), u"-vn"_s, m_command.path(u"a.wav"_s) });
+        Media::ffmpeg({ u"-i"_s, m_command.path(m_video), u"-vn"_s, m_command.path(u"a.wav"_s) });
         QVERIFY(objectOf(m_command.run(u"probe a.wav --json"_s))[u"cover"_s].isNull());
     }
 
     void plan_isTheToolsCommandLine()
     {
         const QJsonObject object
-            = objectOf(m_command.run(u"plan --to WebM --json"_s, { m_film, u"o.webm"_s }));
+            = objectOf(m_command.run(u"plan --to WebM --json"_s, { m_video, u"o.webm"_s }));
         QCOMPARE(object.keys(), QStringList{ u"WebM"_s });
         const QString expected
-            = u"-hide_banner -loglevel verbose -y -i FILM -map 0:0 -vcodec libvpx -map 0:1 "
+            = u"-hide_banner -loglevel verbose -y -i VIDEO -map 0:0 -vcodec libvpx -map 0:1 "
               "-acodec libvorbis -ar 44100 -ac 1 -f webm "_s
             + m_command.path(u"o.webm"_s);
         QStringList words = wordsOf(object[u"WebM"_s]);
-        QCOMPARE(words.value(5), m_command.path(m_film));
-        words[5] = u"FILM"_s;
+        QCOMPARE(words.value(5), m_command.path(m_video));
+        words[5] = u"VIDEO"_s;
         QCOMPARE(words, expected.split(u' '));
         QVERIFY(!m_command.exists(u"o.webm"_s));
         QCOMPARE(m_command.run(u"plan --to WebM gone o.webm"_s).exitCode, 3);
-        QVERIFY(QFile::link(m_command.path(m_film), m_command.path(u"link.webm"_s)));
-        QCOMPARE(m_command.run(u"plan --to WebM"_s, { m_film, u"link.webm"_s }).end(),
-            u"4: link.webm: The result can't replace a film that is to be converted.\n"_s);
+        QVERIFY(QFile::link(m_command.path(m_video), m_command.path(u"link.webm"_s)));
+        QCOMPARE(m_command.run(u"plan --to WebM"_s, { m_video, u"link.webm"_s }).end(),
+            u"4: link.webm: The result can't replace a video that is to be converted.\n"_s);
     }
 
     void plan_survivesAShell()
     {
-        const QStringList files{ m_film, u"$HOME *.gif"_s };
+        const QStringList files{ m_video, u"$HOME *.gif"_s };
         const QString line = m_command.run(u"plan --to GIF"_s, files).out.chopped(1);
         const QJsonObject object = objectOf(m_command.run(u"plan --to GIF --json"_s, files));
         QProcess shell;
@@ -94,14 +94,14 @@ private Q_SLOTS:
 
     void savedInformation_isPlanned_data()
     {
-        const QByteArray film = R"({"streams":[{"codec_type":"video","codec_name":"h264",)"
-                                R"("width":1920,"height":1080}]})";
+        const QByteArray video = R"({"streams":[{"codec_type":"video","codec_name":"h264",)"
+                                 R"("width":1920,"height":1080}]})";
         const QByteArray deep = QByteArray("[").repeated(500) + QByteArray("]").repeated(500);
         const Utf8 scaled = "-vf scale=1280:-2 -map 0:0 -vcodec libx264 ";
         addRows<QByteArray, Utf8>({ "info", "hd720" },
             {
-                { "as the tool printed it", film, scaled },
-                { "as probe printed it", R"({"cover":null,"info":)" + film + '}', scaled },
+                { "as the tool printed it", video, scaled },
+                { "as probe printed it", R"({"cover":null,"info":)" + video + '}', scaled },
                 { "a list", "[1, 2]", "" },
                 { "info of another type", R"({"info":"x","streams":7})", "" },
                 { "deep", R"({"streams":)" + deep + '}', "" },

@@ -54,7 +54,7 @@ private Q_SLOTS:
                  { "plan --to MP4 --info ~", "--info" },
                  { "plan --to MP4 a b -o c", "--output" },
                  { "convert a -o b", "--to NAME" },
-                 { "convert --to MP4 -o b", "no film" },
+                 { "convert --to MP4 -o b", "no video" },
                  { "convert --to MP4 a", "--output or --folder" },
                  { "convert --to MP4 a -o b -d c", "--output or --folder" },
                  { "convert --to MP4 a b -o c", "--folder" },
@@ -92,7 +92,7 @@ private Q_SLOTS:
             const auto *line = std::get_if<CommandLine>(&result);
             QVERIFY2(line, line ? "" : qPrintable(std::get<Answer>(result).text));
             QCOMPARE(line->verb, Verb::Convert);
-            QCOMPARE(line->films, (QStringList{ u"convert"_s, u"b"_s }));
+            QCOMPARE(line->inputs, (QStringList{ u"convert"_s, u"b"_s }));
             QCOMPARE(line->folder, u"."_s);
             QCOMPARE(line->entries.front().destDevice, u"iPhone 6, 6s"_s);
             for (const bool option : { line->json, line->verbose, line->overwrite })
@@ -129,14 +129,14 @@ private Q_SLOTS:
     {
         const ProgressSample half{ 50, 100, 10s };
         const ProgressSample unknown{ 37, -1, 100'000s };
-        for (const QString &film : { u"a.mov"_s, QString(60, u'片'), u"🎬🎬🎬🎬.mov"_s }) {
+        for (const QString &video : { u"a.mov"_s, QString(60, u'片'), u"🎬🎬🎬🎬.mov"_s }) {
             for (const int columns : { 1, 20, 40, 60, 80, 100, 400 }) {
                 for (const ProgressSample &sample : { half, unknown }) {
-                    const QString bar = progressBar(film, sample, columns);
+                    const QString bar = progressBar(video, sample, columns);
                     QVERIFY2(columnsOf(bar) <= std::max(1, columns - 1), qPrintable(bar));
                 }
             }
-            const QString bar = progressBar(film, half, 80);
+            const QString bar = progressBar(video, half, 80);
             QVERIFY2(bar.endsWith(u" 50%  5.0x  10s left"_s), qPrintable(bar));
             QCOMPARE(bar.count(u'#'), bar.count(u'-'));
         }
@@ -190,22 +190,22 @@ private Q_SLOTS:
                 { "a name that sounds like a reason",
                     "Input #0, mov, from '/x/No space left on device':\n/x/a: Permission denied\n"
                         + end,
-                    "Permission was denied to read the film or to write the result." },
+                    "Permission was denied to read the video or to write the result." },
                 { "encoder", "Unknown encoder 'libxvid'\n" + end,
                     "The installed tool has no encoder libxvid." },
                 { "muxer", "Requested output format 'webm' is not a suitable output format\n",
                     "The installed tool can't write the format webm." },
                 { "gone", "/x/gone.mov: No such file or directory\n",
-                    "The film or the destination's folder has gone." },
+                    "The video or the destination's folder has gone." },
                 { "nothing to take", "Output file #0 does not contain any stream\n" + end,
-                    "The film holds nothing that this output can take." },
+                    "The video holds nothing that this output can take." },
                 { "encoder options",
                     "[libmp3lame @ 0x56] Specified sample rate 12345 is not supported\nError "
                     "initializing output stream 0:0 -- Error while opening encoder for output\n"
                         + end,
-                    "The encoder does not take the film's picture or sound as it is." },
+                    "The encoder does not take the video's picture or sound as it is." },
                 { "damaged", "a.mov: Invalid data found when processing input\n" + end,
-                    "The film's data is damaged." },
+                    "The video's data is damaged." },
                 { "silent", "\nThe tool has been silent for too long and was stopped.\n",
                     "The tool was silent for too long and was stopped." },
                 { "asked to end", "Exiting normally, received signal 15.\n",

@@ -46,7 +46,7 @@ std::mutex mallocMutex;
     zero = INT_MAX / zero; // NOLINT(clang-analyzer-core.DivideZero)
 }
 
-[[gnu::noinline]] void crashException() { throw std::runtime_error("/home/user/Secret Film.mp4"); }
+[[gnu::noinline]] void crashException() { throw std::runtime_error("/home/user/Secret Video.mp4"); }
 
 [[gnu::noinline]] int crashStack(int depth)
 {

@@ -51,7 +51,7 @@ private:
         QProcess crasher;
         crasher.setProcessEnvironment(environment);
         crasher.setWorkingDirectory(data.path()); // For a core file, if any.
-        crasher.start(QStringLiteral(CRASHER), { kind, u"/home/user/Secret Film.mp4"_s });
+        crasher.start(QStringLiteral(CRASHER), { kind, u"/home/user/Secret Video.mp4"_s });
         End end;
         if (!crasher.waitForFinished(20000))
             return end;

@@ -76,13 +76,13 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         QFile file(path(u"in.mov"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("the film") == 8);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("the video") == 8);
         m_lines.clear();
     }
 
     void cleanup()
     {
-        QCOMPARE(source(), QByteArray("the film"));
+        QCOMPARE(source(), QByteArray("the video"));
         QCOMPARE(Processes::children(), QStringList());
     }
 
@@ -211,7 +211,7 @@ private Q_SLOTS:
             const Conversion conversion(path(u"in.mov"_s), destination);
             conversion.wait();
             QCOMPARE(conversion.errors,
-                QStringList{ u"The result can't replace the film it is made from."_s });
+                QStringList{ u"The result can't replace the video it is made from."_s });
             QCOMPARE(conversion.progress->toolOutput(), QByteArray());
             QVERIFY(QFile::exists(destination));
         }

@@ -54,8 +54,8 @@ private Q_SLOTS:
     {
         Console::setSink(
             [this](const QString &line) { MainQueue::post([=, this] { m_lines << line; }); });
-        Media::film(path(u"five.mp4"_s), 5, u"320x180"_s);
-        Media::film(path(u"fifteen.mkv"_s), 15);
+        Media::video(path(u"five.mp4"_s), 5, u"320x180"_s);
+        Media::video(path(u"fifteen.mkv"_s), 15);
         Media::ffmpeg({ u"-i"_s, path(u"five.mp4"_s), path(u"sound.mp3"_s) });
         Media::ffmpeg({ u"-f"_s, u"lavfi"_s, u"-i"_s, u"color=s=8192x4320:r=1:d=3"_s, u"-c:v"_s,
             u"mjpeg"_s, path(u"8k.mov"_s) });
@@ -66,7 +66,7 @@ private Q_SLOTS:
     {
         addRows<Utf8, Utf8, Utf8>({ "name", "missingTool", "answer" },
             {
-                { "film", "five.mp4", "", "5s, 320 x 180" },
+                { "video", "five.mp4", "", "5s, 320 x 180" },
                 { "cover would lie behind the end", "fifteen.mkv", "", "15s, 0 x 0" },
                 { "large picture", "8k.mov", "", "3s, 8192 x 4320" },
                 { "sound alone", "sound.mp3", "", "5s, 0 x 0" },

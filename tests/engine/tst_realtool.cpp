@@ -20,7 +20,7 @@ constexpr bool sanitized = true;
 constexpr bool sanitized = false;
 #endif
 
-/// Films that the real tool makes, examined by the real one; and what many runs leave behind.
+/// Videos that the real tool makes, examined by the real one; and what many runs leave behind.
 class TestRealTool : public QObject {
     Q_OBJECT
 
@@ -91,11 +91,11 @@ private Q_SLOTS:
     void initTestCase()
     {
         Console::setSink([](const QString &) {});
-        Media::film(path(u"tiny.mp4"_s), 2, u"64x64"_s);
-        Media::film(path(u"small.mp4"_s), 4, u"320x180"_s);
-        Media::film(path(u"long.mp4"_s), 30, u"640x360"_s);
-        Media::film(path(u"portrait.mov"_s), 2, u"360x640"_s);
-        Media::film(path(u"mono.mkv"_s), 3, u"320x240"_s,
+        Media::video(path(u"tiny.mp4"_s), 2, u"64x64"_s);
+        Media::video(path(u"small.mp4"_s), 4, u"320x180"_s);
+        Media::video(path(u"long.mp4"_s), 30, u"640x360"_s);
+        Media::video(path(u"portrait.mov"_s), 2, u"360x640"_s);
+        Media::video(path(u"mono.mkv"_s), 3, u"320x240"_s,
             u"-c:v mpeg4 -c:a libmp3lame -ar 44100 -ac 1"_s.split(u' '));
     }
 

@@ -128,9 +128,9 @@ private Q_SLOTS:
         const auto socket = [](int family) { return "socket:" + QByteArray::number(family); };
         addRows<QByteArray, QByteArray>({ "attempt", "answer" },
             {
-                { "reads the source", "read:SOURCE/film.mp4", allowed },
+                { "reads the source", "read:SOURCE/video.mp4", allowed },
                 { "reads the source's neighbour", "read:SOURCE/diary.txt", refused },
-                { "writes the source", "write:SOURCE/film.mp4", refused },
+                { "writes the source", "write:SOURCE/video.mp4", refused },
                 { "writes the result", "write:DEST/result.mp4", allowed },
                 { "reads the destination", "read:DEST/other.txt", refused },
                 { "lists the home folder", "read:" + QDir::homePath().toUtf8(), refused },
@@ -153,9 +153,9 @@ private Q_SLOTS:
         const QTemporaryDir source;
         const QTemporaryDir dest;
         const QTemporaryDir home;
-        const QString film = source.filePath(u"film.mp4"_s);
+        const QString video = source.filePath(u"video.mp4"_s);
         for (const QString &path :
-            { film, source.filePath(u"diary.txt"_s), dest.filePath(u"other.txt"_s),
+            { video, source.filePath(u"diary.txt"_s), dest.filePath(u"other.txt"_s),
                 home.filePath(u"secret"_s), home.filePath(u"program"_s) }) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly));
@@ -165,7 +165,7 @@ private Q_SLOTS:
         attempt.replace("DEST", QFile::encodeName(dest.path()));
         attempt.replace("HOME", QFile::encodeName(home.path()));
         attempt.replace("TEMP", QFile::encodeName(QDir::tempPath()));
-        QTEST(outputOf(attempt, { { film }, { dest.path() } }), "answer");
+        QTEST(outputOf(attempt, { { video }, { dest.path() } }), "answer");
     }
 };
 

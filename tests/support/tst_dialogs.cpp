@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QFile info(Bundle::main().bundlePath() + "/Contents/Info.plist"_L1);
         QVERIFY(info.open(QIODevice::WriteOnly));
-        info.write("<plist><dict><key>CFBundleName</key><string>Film &lt;b&gt;Turner</string>"
+        info.write("<plist><dict><key>CFBundleName</key><string>Video &lt;b&gt;Turner</string>"
                    "<key>CFBundleShortVersionString</key><string>7.8</string></dict></plist>");
         info.close();
         AboutWindow window;
@@ -147,8 +147,8 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&window));
 
         const auto label = [&](const QString &name) { return window.findChild<QLabel *>(name); };
-        QCOMPARE(window.windowTitle(), u"About Film <b>Turner"_s);
-        QCOMPARE(label(u"programName"_s)->text(), u"Film <b>Turner"_s);
+        QCOMPARE(window.windowTitle(), u"About Video <b>Turner"_s);
+        QCOMPARE(label(u"programName"_s)->text(), u"Video <b>Turner"_s);
         QCOMPARE(label(u"programName"_s)->textFormat(), Qt::PlainText);
         QCOMPARE(label(u"version"_s)->text(), u"Version 7.8"_s);
         QVERIFY(label(u"credits"_s)->isVisible());

@@ -117,7 +117,7 @@ private Q_SLOTS:
     void init()
     {
         setUp();
-        write(u"film.mp4"_s);
+        write(u"video.mp4"_s);
         runSave(u"proposed"_s);
         awaitDialog(u"proposed.mp4"_s);
     }
@@ -126,8 +126,8 @@ private Q_SLOTS:
     {
         // The desktop has asked about the existing file itself.
         const Answering answering(&QMessageBox::close);
-        answer(u"film.mp4"_s);
-        QTRY_COMPARE(paths, QStringList{ path(u"film.mp4"_s) });
+        answer(u"video.mp4"_s);
+        QTRY_COMPARE(paths, QStringList{ path(u"video.mp4"_s) });
         QVERIFY(!answering.wasShown);
     }
 
@@ -135,15 +135,15 @@ private Q_SLOTS:
     {
         {
             const Answering refusal(Answering::keys({ Qt::Key_Return }));
-            answer(u"film"_s);
+            answer(u"video"_s);
             QTRY_VERIFY(refusal.wasShown);
         }
-        awaitDialog(u"film.mp4"_s);
+        awaitDialog(u"video.mp4"_s);
         QVERIFY(paths.isEmpty());
 
         const Answering agreement(Answering::yes());
-        answer(u"film"_s);
-        QTRY_COMPARE(paths, QStringList{ path(u"film.mp4"_s) });
+        answer(u"video"_s);
+        QTRY_COMPARE(paths, QStringList{ path(u"video.mp4"_s) });
         QVERIFY(agreement.wasShown);
         QTRY_VERIFY(!QApplication::activeModalWidget());
     }

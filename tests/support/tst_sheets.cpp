@@ -69,11 +69,11 @@ private Q_SLOTS:
 
     void result_bearsTheExtension()
     {
-        const std::pair<QString, QString> names[]{ { u"film"_s, u"film.mp4"_s },
-            { u"film.mp4"_s, u"film.mp4"_s }, { u"FILM.MP4"_s, u"FILM.MP4"_s },
-            { u"film.mov"_s, u"film.mov.mp4"_s }, { u"Holiday 2.5"_s, u"Holiday 2.5.mp4"_s },
-            { u"film."_s, u"film.mp4"_s }, { u".mp4"_s, u".mp4.mp4"_s },
-            { u"a \"b\" c"_s, u"a \"b\" c.mp4"_s }, { u"~film"_s, u"~film.mp4"_s },
+        const std::pair<QString, QString> names[]{ { u"video"_s, u"video.mp4"_s },
+            { u"video.mp4"_s, u"video.mp4"_s }, { u"VIDEO.MP4"_s, u"VIDEO.MP4"_s },
+            { u"video.mov"_s, u"video.mov.mp4"_s }, { u"Holiday 2.5"_s, u"Holiday 2.5.mp4"_s },
+            { u"video."_s, u"video.mp4"_s }, { u".mp4"_s, u".mp4.mp4"_s },
+            { u"a \"b\" c"_s, u"a \"b\" c.mp4"_s }, { u"~video"_s, u"~video.mp4"_s },
             { u"-i.mp4"_s, u"-i.mp4"_s }, { u"🎬"_s, u"🎬.mp4"_s }, { u"sub/../x"_s, u"x.mp4"_s } };
         for (const auto &[typed, result] : names) {
             paths.clear();
@@ -87,8 +87,8 @@ private Q_SLOTS:
     void existingFile_isReplacedOnlyIfAgreed_data()
     {
         QTest::addColumn<QString>("existing");
-        QTest::newRow("film.mp4") << u"film.mp4"_s;
-        QTest::newRow("film.mov") << u"film.mov.mp4"_s;
+        QTest::newRow("video.mp4") << u"video.mp4"_s;
+        QTest::newRow("video.mov") << u"video.mov.mp4"_s;
         QTest::newRow("<b>x<b>%d") << u"<b>x<b>%d.mp4"_s;
     }
 
@@ -120,13 +120,13 @@ private Q_SLOTS:
 
     void folder_isEnteredNotReplaced()
     {
-        QVERIFY(QDir(folder->path()).mkdir(u"film.mp4"_s));
-        save(u"film"_s);
+        QVERIFY(QDir(folder->path()).mkdir(u"video.mp4"_s));
+        save(u"video"_s);
         const Answering answering([](QMessageBox &box) {
-            QVERIFY2(box.text().contains(u"film.mp4"), qPrintable(box.text()));
+            QVERIFY2(box.text().contains(u"video.mp4"), qPrintable(box.text()));
             QTest::keyClick(box.focusWidget(), Qt::Key_Return);
         });
-        type(u"film"_s);
+        type(u"video"_s);
         QVERIFY(answering.wasShown);
         QVERIFY(sheet()->isVisible());
         QVERIFY(paths.isEmpty());
@@ -134,22 +134,22 @@ private Q_SLOTS:
         type(u"sub"_s);
         QVERIFY(sheet()->isVisible());
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));
-        QCOMPARE(nameField()->text(), u"film.mp4"_s);
+        QCOMPARE(nameField()->text(), u"video.mp4"_s);
         QTest::keyClick(nameField(), Qt::Key_Return);
         QTRY_VERIFY(!sheet());
-        QCOMPARE(paths, QStringList{ path(u"sub/film.mp4"_s) });
+        QCOMPARE(paths, QStringList{ path(u"sub/video.mp4"_s) });
     }
 
     void saveFolder_isTheLastOneUsed()
     {
         QCOMPARE(saveFolder(folder->path()), folder->path());
-        save(u"film"_s);
-        type(u"sub/film"_s);
+        save(u"video"_s);
+        type(u"sub/video"_s);
         QTRY_VERIFY(!sheet());
         QCOMPARE(saveFolder(folder->path()), path(u"sub"_s));
 
         paths.clear();
-        save(u"film"_s);
+        save(u"video"_s);
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));
         QTest::keyClick(sheet(), Qt::Key_Escape);
         QTRY_VERIFY(!sheet());
@@ -160,10 +160,10 @@ private Q_SLOTS:
 
     void chooseSheet_givesWhatItIsFor()
     {
-        write(u"film.mp4"_s);
+        write(u"video.mp4"_s);
         for (const bool files : { true, false }) {
-            const QString chosen = path(files ? u"film.mp4"_s : u"sub"_s);
-            const QString refused = path(files ? u"sub"_s : u"film.mp4"_s);
+            const QString chosen = path(files ? u"video.mp4"_s : u"sub"_s);
+            const QString refused = path(files ? u"sub"_s : u"video.mp4"_s);
             paths.clear();
             Defaults::setValue(u"LastOpenFolder"_s, folder->path());
             runChooseSheet(window.get(), files, [this](const QString &given) { paths += given; });

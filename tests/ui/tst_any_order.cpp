@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int actionCount = 1000;
-constexpr char film[] = "bytes that only the fake tool takes for a film";
+constexpr char video[] = "bytes that only the fake tool takes for a video";
 constexpr char hundredSeconds[] = "print:Duration: 00:01:40.00, start: 0.000000 |";
 
 // All tools run the same script, so the chatter of the conversion is a text inside the answer of
@@ -43,7 +43,7 @@ class tst_any_order : public QObject {
 
 private:
     QTemporaryDir m_folder;
-    QString m_film = m_folder.filePath(u"film.mov"_s);
+    QString m_video = m_folder.filePath(u"video.mov"_s);
     QRandomGenerator m_random;
     std::unique_ptr<AppDelegate> m_delegate;
     std::unique_ptr<User> m_user;
@@ -53,7 +53,7 @@ private:
     /// A tool that does for the probe, the cover and the conversion, well or badly.
     void chooseToolBehaviour()
     {
-        const QByteArray probe = below(8) ? beginning(sizeof film - 1) : "out:no film|";
+        const QByteArray probe = below(8) ? beginning(sizeof video - 1) : "out:no video|";
         const QByteArray length = below(6) ? hundredSeconds : "print:Duration: N/A, start: 0 |";
         const QByteArray courses[] = { "reports:20:500|", "reports:200:2000|", "reports:3:0|",
             "reports:10:100|", "print:time=00:00:03.00 bitrate|", "sleep:30|",
@@ -71,14 +71,14 @@ private:
         switch (below(13)) {
         case 0:
         case 1:
-            m_user->drop({ QUrl::fromLocalFile(m_film).toString() });
+            m_user->drop({ QUrl::fromLocalFile(m_video).toString() });
             break;
         case 2:
-            m_user->names << (below(3) ? m_film : m_folder.filePath(u"gone.mov"_s));
+            m_user->names << (below(3) ? m_video : m_folder.filePath(u"gone.mov"_s));
             m_user->find<QAction>("openAction")->trigger();
             break;
         case 3:
-            m_delegate->takeFiles({ below(2) ? m_film : m_folder.path() });
+            m_delegate->takeFiles({ below(2) ? m_video : m_folder.path() });
             break;
         case 4:
         case 5:
@@ -137,8 +137,8 @@ private Q_SLOTS:
         Console::setSink([](const QString &) {});
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::setApplicationName(u"tst_any_order"_s);
-        QFile file(m_film);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(film) == sizeof film - 1);
+        QFile file(m_video);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(video) == sizeof video - 1);
         const QByteArray seed = qgetenv("SEED");
         const quint32 number
             = seed.isEmpty() ? QRandomGenerator::global()->generate() : seed.toUInt();
@@ -169,9 +169,9 @@ private Q_SLOTS:
                 continue;
             QVERIFY2(waitUntilSettled(), qPrintable(u"stuck after step %1"_s.arg(step)));
             QTRY_COMPARE_WITH_TIMEOUT(Processes::children(), QStringList(), 10000);
-            QFile file(m_film);
+            QFile file(m_video);
             QVERIFY(file.open(QIODevice::ReadOnly));
-            QCOMPARE(file.readAll(), QByteArray(film));
+            QCOMPARE(file.readAll(), QByteArray(video));
         }
         QCOMPARE(seen.size(), 5);
         m_delegate.reset();

@@ -15,7 +15,7 @@ class tst_program : public QObject {
 
 private:
     QTemporaryDir m_folder;
-    QString m_film = m_folder.filePath(u"film.mov"_s);
+    QString m_video = m_folder.filePath(u"video.mov"_s);
 
     void start(QProcess &program, const QStringList &arguments) const
     {
@@ -26,19 +26,19 @@ private:
         program.start(QStringLiteral(VC_PROGRAM), arguments);
     }
 
-    /// The console tells of the cover that is taken from each film.
-    static bool hasExamined(QProcess &program, const QByteArray &film, QByteArray &console)
+    /// The console tells of the cover that is taken from each video.
+    static bool hasExamined(QProcess &program, const QByteArray &video, QByteArray &console)
     {
         return QTest::qWaitFor(
             [&] {
                 console += program.readAllStandardOutput();
-                return console.contains("from '" + film + "'");
+                return console.contains("from '" + video + "'");
             },
             20000);
     }
 
 private Q_SLOTS:
-    void initTestCase() { Media::film(m_film, 2); }
+    void initTestCase() { Media::video(m_video, 2); }
 
     void secondStart_handsItsFileOver()
     {
@@ -47,10 +47,10 @@ private Q_SLOTS:
         start(first, {});
         QVERIFY(first.waitForReadyRead());
         QProcess second;
-        start(second, { u"./film.mov"_s });
+        start(second, { u"./video.mov"_s });
         QVERIFY(second.waitForFinished());
         QCOMPARE(second.exitCode(), 0);
-        QVERIFY(hasExamined(first, m_film.toUtf8(), console));
+        QVERIFY(hasExamined(first, m_video.toUtf8(), console));
         first.terminate();
         QVERIFY(first.waitForFinished());
         // Ended by itself, not by the signal: what it has begun is cleaned up.
@@ -58,12 +58,12 @@ private Q_SLOTS:
         QCOMPARE(first.exitCode(), 128 + SIGTERM);
     }
 
-    void film_isGivenOnTheCommandLine()
+    void video_isGivenOnTheCommandLine()
     {
         QProcess program;
         QByteArray console;
-        start(program, { u"film.mov"_s });
-        QVERIFY(hasExamined(program, m_film.toUtf8(), console));
+        start(program, { u"video.mov"_s });
+        QVERIFY(hasExamined(program, m_video.toUtf8(), console));
         program.terminate();
         QVERIFY(program.waitForFinished());
     }

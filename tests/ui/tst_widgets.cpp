@@ -189,8 +189,8 @@ private Q_SLOTS:
     {
         addRows<Utf8, Utf8, Utf8>({ "source", "ext", "name" },
             { { "other format", "clip.mov", "mp4", "clip" },
-                { "the source", "film.mp4", "mp4", "film 3" },
-                { "another film's name", "clip.mov", "avi", "clip" },
+                { "the source", "video.mp4", "mp4", "video 3" },
+                { "another video's name", "clip.mov", "avi", "clip" },
                 { "long", "123456789012345678901234567890.mp4", "mp4",
                     "123456789012345678901234…" },
                 { "dots", "a.b.c.mov", "mkv", "a.b.c" } });
@@ -198,7 +198,7 @@ private Q_SLOTS:
     void proposedName_isNeverTheSource()
     {
         QTemporaryDir folder;
-        for (const auto &name : { u"film.mp4"_s, u"film 2.mp4"_s, u"clip.mov"_s, u"clip.avi"_s })
+        for (const auto &name : { u"video.mp4"_s, u"video 2.mp4"_s, u"clip.mov"_s, u"clip.avi"_s })
             QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
         QFETCH(const QString, source);
         QFETCH(const QString, ext);

@@ -51,7 +51,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<AppDelegate> m_delegate;
     std::unique_ptr<User> m_user;
-    QString m_film;
+    QString m_video;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString url(const QString &name) const { return QUrl::fromLocalFile(path(name)).toString(); }
@@ -66,10 +66,10 @@ private:
         return m_user->drop({ url(name) }) && waitFor(WindowUIState::CoverIsSet);
     }
 
-    /// Starts converting the film with a tool that follows the script.
+    /// Starts converting the video with a tool that follows the script.
     std::unique_ptr<ToolSwap> convertWith(const QByteArray &script)
     {
-        if (!open(u"film.mov"_s))
+        if (!open(u"video.mov"_s))
             return nullptr;
         auto swap = std::make_unique<ToolSwap>(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
         m_user->names << u"result"_s;
@@ -90,14 +90,14 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         Defaults::remove(u"LastSaveFolder"_s);
         Defaults::remove(u"LastOpenFolder"_s);
-        m_film = path(u"film.mov"_s);
-        static const QByteArray film = [this] {
-            Media::film(m_film, 3);
-            QFile file(m_film);
+        m_video = path(u"video.mov"_s);
+        static const QByteArray video = [this] {
+            Media::video(m_video, 3);
+            QFile file(m_video);
             return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         }();
-        QFile file(m_film);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(film) > 0);
+        QFile file(m_video);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(video) > 0);
         m_delegate = std::make_unique<AppDelegate>();
         m_user = std::make_unique<User>(*m_delegate->window());
         m_delegate->applicationDidFinishLaunching();
@@ -115,10 +115,10 @@ private Q_SLOTS:
 
     void cleanupTestCase() { FFMPEG::shutDown(); }
 
-    void film_becomesAnother()
+    void video_becomesAnother()
     {
-        QVERIFY(open(u"film.mov"_s));
-        QCOMPARE(m_user->find<QLabel>("movieNameLabel")->text(), u"film.mov"_s);
+        QVERIFY(open(u"video.mov"_s));
+        QCOMPARE(m_user->find<QLabel>("movieNameLabel")->text(), u"video.mov"_s);
         QCOMPARE(m_user->find<QLabel>("movieDurationLabel")->text(), u"3s"_s);
         QVERIFY(!m_user->find<ImageView>("movieCoverImageView")->image().isNull());
         QCOMPARE(m_delegate->selectedFileExt(), u"mov"_s);
@@ -126,15 +126,15 @@ private Q_SLOTS:
         m_user->acceptsProposal = true;
         m_user->choose(u"WebM"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user->proposal, u"film.webm"_s);
-        QCOMPARE(m_delegate->resultFilePath(), path(u"film.webm"_s));
+        QCOMPARE(m_user->proposal, u"video.webm"_s);
+        QCOMPARE(m_delegate->resultFilePath(), path(u"video.webm"_s));
         QTRY_COMPARE(Processes::children(), QStringList());
-        QCOMPARE(Media::streamEntry(path(u"film.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
+        QCOMPARE(Media::streamEntry(path(u"video.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
         QCOMPARE(m_user->read, QStringList());
 
         m_user->click("startOverButton");
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        QVERIFY(open(u"film.webm"_s));
+        QVERIFY(open(u"video.webm"_s));
     }
 
     void usage_isTold()
@@ -144,7 +144,7 @@ private Q_SLOTS:
         Analytics::start();
         Preferences::setFirstRun(true);
         m_delegate->applicationDidFinishLaunching();
-        m_user->names << m_film;
+        m_user->names << m_video;
         m_user->click("openFromFolderLabel");
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         {
@@ -180,7 +180,7 @@ private Q_SLOTS:
     void keyboard_isEnough()
     {
         auto *window = m_delegate->window();
-        m_user->names << m_film << u"by keyboard"_s;
+        m_user->names << m_video << u"by keyboard"_s;
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(QApplication::focusWidget(), m_user->view("convertToButton"));
@@ -197,7 +197,7 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(m_user->view("openFromFolderLabel")->hasFocus());
-        m_user->names << m_film;
+        m_user->names << m_video;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
     }
@@ -215,19 +215,19 @@ private Q_SLOTS:
         QMimeData files;
         const auto bring = [&] {
             if (way == "label"_L1 || way == "menu"_L1) {
-                m_user->names = { m_film };
+                m_user->names = { m_video };
                 way == "label"_L1 ? m_user->click("openFromFolderLabel")
                                   : m_user->find<QAction>("openAction")->trigger();
             } else if (way == "paste"_L1) {
                 auto *copied = new QMimeData;
-                copied->setUrls({ QUrl::fromLocalFile(m_film) });
+                copied->setUrls({ QUrl::fromLocalFile(m_video) });
                 QApplication::clipboard()->setMimeData(copied);
                 QTest::keyClick(m_delegate->window(), Qt::Key_V, Qt::ControlModifier);
             } else if (way == "open event"_L1) {
-                QFileOpenEvent event(m_film);
+                QFileOpenEvent event(m_video);
                 QApplication::sendEvent(qApp, &event);
             } else {
-                m_delegate->takeFiles({ m_film, u"/ignored"_s });
+                m_delegate->takeFiles({ m_video, u"/ignored"_s });
             }
         };
         // Only while drops are.
@@ -239,17 +239,17 @@ private Q_SLOTS:
         m_delegate->setUiState(WindowUIState::InitialState);
         bring();
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
-        QCOMPARE(m_delegate->processingFilePath(), m_film);
+        QCOMPARE(m_delegate->processingFilePath(), m_video);
     }
 
-    void film_isDraggedByThePointer()
+    void video_isDraggedByThePointer()
     {
         QWidget source;
         source.setGeometry(900, 700, 60, 60);
         source.show();
         QVERIFY(QTest::qWaitForWindowExposed(&source));
         auto *data = new QMimeData;
-        data->setUrls({ QUrl::fromLocalFile(m_film) });
+        data->setUrls({ QUrl::fromLocalFile(m_video) });
         QWindow *target = m_delegate->window()->windowHandle();
         const QPoint middle = QRect({}, target->size()).center();
         for (const int step : { 1, 2, 3, 4 })
@@ -267,13 +267,13 @@ private Q_SLOTS:
     void drop_ofSomethingElseIsIgnored()
     {
         QVERIFY(!m_user->drop({}));
-        m_user->drop({ u"http://localhost/film.mov"_s });
+        m_user->drop({ u"http://localhost/video.mov"_s });
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         // While a message stands, too.
         m_user->whileReading = [this] {
             m_user->whileReading = {};
-            m_user->drop({ url(u"film.mov"_s) });
-            m_delegate->takeFiles({ m_film });
+            m_user->drop({ url(u"video.mov"_s) });
+            m_delegate->takeFiles({ m_video });
         };
         m_delegate->takeFiles({ path(u"gone.mov"_s) });
         QTRY_COMPARE(m_user->read.size(), 1);
@@ -293,13 +293,13 @@ private Q_SLOTS:
         QDir(m_folder->path()).mkdir(u"folder.mov"_s);
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QFile text(path(u"text.mov"_s));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no film at all\n") > 0);
-        QVERIFY(open(u"film.mov"_s));
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no video at all\n") > 0);
+        QVERIFY(open(u"video.mov"_s));
         QVERIFY(m_user->drop({ url(name) }));
         QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        QCOMPARE(m_delegate->processingFilePath(), m_film);
-        QVERIFY(open(u"film.mov"_s));
+        QCOMPARE(m_delegate->processingFilePath(), m_video);
+        QVERIFY(open(u"video.mov"_s));
     }
 
     void sheets_canBeLeft()
@@ -307,7 +307,7 @@ private Q_SLOTS:
         m_user->click("openFromFolderLabel");
         QTRY_COMPARE(m_user->sheets, 1);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        QVERIFY(open(u"film.mov"_s));
+        QVERIFY(open(u"video.mov"_s));
         for (const int count : { 2, 3 }) {
             m_user->choose(u"GIF"_s);
             QTRY_COMPARE(m_user->sheets, count);
@@ -321,19 +321,19 @@ private Q_SLOTS:
 
     void source_isNeverTheDestination()
     {
-        QVERIFY(QFile::rename(m_film, path(u"film.mp4"_s)));
-        QVERIFY(QFile::link(path(u"film.mp4"_s), path(u"link.mp4"_s)));
-        const qint64 size = QFileInfo(path(u"film.mp4"_s)).size();
-        QVERIFY(open(u"film.mp4"_s));
+        QVERIFY(QFile::rename(m_video, path(u"video.mp4"_s)));
+        QVERIFY(QFile::link(path(u"video.mp4"_s), path(u"link.mp4"_s)));
+        const qint64 size = QFileInfo(path(u"video.mp4"_s)).size();
+        QVERIFY(open(u"video.mp4"_s));
         m_user->saysYes = true;
-        m_user->names << u"film.mp4"_s << u"./link.mp4"_s << u"other"_s;
+        m_user->names << u"video.mp4"_s << u"./link.mp4"_s << u"other"_s;
         m_user->choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user->proposal, u"film 2.mp4"_s);
+        QCOMPARE(m_user->proposal, u"video 2.mp4"_s);
         QCOMPARE(m_user->sheets, 3);
         QCOMPARE(m_user->read.count(u"The video can't be converted into itself"_s), 2);
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
-        QCOMPARE(QFileInfo(path(u"film.mp4"_s)).size(), size);
+        QCOMPARE(QFileInfo(path(u"video.mp4"_s)).size(), size);
     }
 
     void cancel_asksFirst()
@@ -364,7 +364,7 @@ private Q_SLOTS:
         m_delegate.reset();
         QTRY_COMPARE(Processes::children(), QStringList());
         QTRY_VERIFY(!QFile::exists(path(u"result.mkv"_s)));
-        QVERIFY(QFile::exists(m_film));
+        QVERIFY(QFile::exists(m_video));
     }
 
     void cancel_comesTooLate()
@@ -398,7 +398,7 @@ private Q_SLOTS:
     void failure_isTold()
     {
         QFETCH(const QByteArray, script);
-        QVERIFY(QFile::rename(m_film, path(u"100%d %@.mov"_s)));
+        QVERIFY(QFile::rename(m_video, path(u"100%d %@.mov"_s)));
         QVERIFY(open(u"100%d %@.mov"_s));
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
         m_user->names << u"result"_s;
@@ -411,31 +411,31 @@ private Q_SLOTS:
         QVERIFY(open(u"100%d %@.mov"_s) || state == WindowUIState::InitialState);
     }
 
-    void lateFailure_namesItsOwnFilm()
+    void lateFailure_namesItsOwnVideo()
     {
-        QVERIFY(QFile::copy(m_film, path(u"next.mov"_s)));
+        QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
         const auto swap
             = convertWith(QByteArray(hundredSeconds) + "reports:100:100|sleep:1500|exit:1");
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         ToolSwap::setScript("exit:0");
         QVERIFY(open(u"next.mov"_s));
-        QTRY_COMPARE(m_user->read, QStringList(u"Error processing film.mov"_s));
+        QTRY_COMPARE(m_user->read, QStringList(u"Error processing video.mov"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
     }
 
     void missingTool_leavesTheWindowUsable()
     {
-        QVERIFY(open(u"film.mov"_s));
+        QVERIFY(open(u"video.mov"_s));
         {
             const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::Nothing);
             m_user->names << u"result"_s;
             m_user->choose(u"MKV"_s);
             QVERIFY(waitFor(WindowUIState::InitialState));
             const ToolSwap probeSwap(u"ffprobe"_s, ToolSwap::With::UnexecutableFile);
-            m_delegate->takeFiles({ m_film });
+            m_delegate->takeFiles({ m_video });
             QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
         }
-        QVERIFY(open(u"film.mov"_s));
+        QVERIFY(open(u"video.mov"_s));
     }
 
     void unknownLength_looksBusy()
@@ -470,7 +470,7 @@ private Q_SLOTS:
         QVERIFY(!window->close());
         ToolSwap::setScript("exit:0");
         QVERIFY(waitFor(WindowUIState::InitialState));
-        m_delegate->takeFiles({ m_film });
+        m_delegate->takeFiles({ m_video });
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QTRY_COMPARE_WITH_TIMEOUT(Processes::children(), QStringList(), 10000);
         QTest::qWait(50);

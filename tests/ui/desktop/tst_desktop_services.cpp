@@ -103,7 +103,7 @@ int runWithoutBus(const QCoreApplication &app)
     launcher.show(0.5);
     DesktopNotification notification;
     notification.show(u"Done"_s, u"clip.mp4"_s);
-    FileBrowser::reveal(u"/films/clip.mp4"_s);
+    FileBrowser::reveal(u"/videos/clip.mp4"_s);
     return QCoreApplication::exec();
 }
 
@@ -116,12 +116,12 @@ private Q_SLOTS:
     void reveal_asksFileManagerForTheFile_data()
     {
         addRows<Utf8, Utf8>({ "path", "uri" },
-            { { "plain", "/films/clip.mp4", "file:///films/clip.mp4" },
-                { "percent", "/films/100%d %41.mp4", "file:///films/100%25d%20%2541.mp4" },
-                { "url letters", "/films/a?b#c.mp4", "file:///films/a%3Fb%23c.mp4" },
-                { "line end", "/films/new\nline.mp4", "file:///films/new%0Aline.mp4" },
-                { "two slashes", "//films/clip.mp4", "file:///films/clip.mp4" },
-                { "umlaut", "/films/\u00fc.mp4", "file:///films/%C3%BC.mp4" } });
+            { { "plain", "/videos/clip.mp4", "file:///videos/clip.mp4" },
+                { "percent", "/videos/100%d %41.mp4", "file:///videos/100%25d%20%2541.mp4" },
+                { "url letters", "/videos/a?b#c.mp4", "file:///videos/a%3Fb%23c.mp4" },
+                { "line end", "/videos/new\nline.mp4", "file:///videos/new%0Aline.mp4" },
+                { "two slashes", "//videos/clip.mp4", "file:///videos/clip.mp4" },
+                { "umlaut", "/videos/\u00fc.mp4", "file:///videos/%C3%BC.mp4" } });
     }
     void reveal_asksFileManagerForTheFile()
     {
@@ -150,8 +150,8 @@ private Q_SLOTS:
         if (!offered && bus->activatableServiceNames().value().contains(fileManager))
             QSKIP("this machine would start its own file manager");
         QVERIFY(!offered || desktop.offer(fileManager));
-        FileBrowser::reveal(u"/films/100%d/clip.mp4"_s);
-        QTRY_COMPARE(opener.folders, QStringList(u"/films/100%d"_s));
+        FileBrowser::reveal(u"/videos/100%d/clip.mp4"_s);
+        QTRY_COMPARE(opener.folders, QStringList(u"/videos/100%d"_s));
     }
 
     void keepAwake_releasesPortalRequest_data()

@@ -106,8 +106,8 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<QString>("received");
         QTest::newRow("none") << QStringList() << QString();
-        QTest::newRow("absolute") << QStringList{ u"/films/a.mp4"_s, u"/films/b.mp4"_s }
-                                  << u"/films/a.mp4|/films/b.mp4"_s;
+        QTest::newRow("absolute") << QStringList{ u"/videos/a.mp4"_s, u"/videos/b.mp4"_s }
+                                  << u"/videos/a.mp4|/videos/b.mp4"_s;
         QTest::newRow("relative") << QStringList{ u"a.mp4"_s } << u"%1/a.mp4"_s;
         QTest::newRow("odd") << QStringList{ u"/f/new\nline \u00fc\"%d.mp4"_s }
                              << u"/f/new$line \u00fc\"%d.mp4"_s;
@@ -131,7 +131,7 @@ private Q_SLOTS:
         Instance first(m_place);
         QTRY_COMPARE(first.lines(), running());
         m_place.display = u":2"_s;
-        Instance second(m_place, { u"/films/a.mp4"_s });
+        Instance second(m_place, { u"/videos/a.mp4"_s });
         QTRY_COMPARE(second.lines(), running());
         QCOMPARE(first.lines(), running());
     }
@@ -144,9 +144,9 @@ private Q_SLOTS:
         QVERIFY(first.process.waitForFinished());
         Instance second(m_place);
         QTRY_COMPARE(second.lines(), running());
-        Instance third(m_place, { u"/films/a.mp4"_s });
+        Instance third(m_place, { u"/videos/a.mp4"_s });
         QTRY_COMPARE(third.lines(), handedOver());
-        QTRY_COMPARE(second.lines().value(1), u"received /films/a.mp4"_s);
+        QTRY_COMPARE(second.lines().value(1), u"received /videos/a.mp4"_s);
     }
 
     void secondStart_doesNotWaitForHangingInstance()
@@ -156,11 +156,11 @@ private Q_SLOTS:
         first.signal(SIGSTOP);
         QElapsedTimer timer;
         timer.start();
-        Instance second(m_place, { u"/films/a.mp4"_s });
+        Instance second(m_place, { u"/videos/a.mp4"_s });
         QTRY_COMPARE(second.lines(), running());
         QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
         first.signal(SIGCONT);
-        Instance third(m_place, { u"/films/b.mp4"_s });
+        Instance third(m_place, { u"/videos/b.mp4"_s });
         QTRY_COMPARE(third.lines(), handedOver());
     }
 
@@ -198,7 +198,7 @@ private Q_SLOTS:
         addRows<QByteArray>({ "request" },
             { { "nonsense", QByteArray("\x00\xff\xfe nonsense\n", 13) }, { "empty line", "\n" },
                 { "object", "{\"a\":1}\n" }, { "numbers", "[1,2]\n" },
-                { "relative path", "[\"/films/a.mp4\",\"b.mp4\"]\n" },
+                { "relative path", "[\"/videos/a.mp4\",\"b.mp4\"]\n" },
                 { "deep", QByteArray(100000, '[') + '\n' },
                 { "too long", QByteArray((1 << 20) + 2, 'x') } });
     }
@@ -216,9 +216,9 @@ private Q_SLOTS:
         peer.write(request);
         QTRY_COMPARE(peer.state(), QLocalSocket::UnconnectedState);
         QCOMPARE(peer.readAll(), QByteArray());
-        Instance second(m_place, { u"/films/a.mp4"_s });
+        Instance second(m_place, { u"/videos/a.mp4"_s });
         QTRY_COMPARE(second.lines(), handedOver());
-        QTRY_COMPARE(first.lines().value(1), u"received /films/a.mp4"_s);
+        QTRY_COMPARE(first.lines().value(1), u"received /videos/a.mp4"_s);
     }
 };
 
