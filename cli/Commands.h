@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CommandLine.h"
+#include "cli/arguments/CommandLine.h"
 
 class Interruption;
 

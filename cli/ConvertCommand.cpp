@@ -1,46 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Diagnostics.h"
+#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
-#include "cli/Output.h"
-#include "cli/Reporter.h"
-#include "cli/ToolFailure.h"
+#include "cli/report/Diagnostics.h"
+#include "cli/report/Output.h"
+#include "cli/report/Reporter.h"
+#include "engine/Destination.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
-#include "support/Format.h"
+#include "engine/Tool.h"
 #include "support/Interruption.h"
-#include "support/Localized.h"
 #include "support/MainQueue.h"
 #include "support/Text.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFileInfo>
 #include <QTimer>
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-/// What the engine says of a run that went wrong; its message is absent when the tool failed.
-struct RunFailure {
-    std::optional<QString> errmsg;
-};
-
-Failure failureOf(const RunFailure &run, const Progress &progress)
-{
-    const QByteArray output = progress.toolOutput();
-    // The engine's diagnostics hold the output of a tool that failed, unless it can't be decoded as
-    // a whole.
-    if (run.errmsg || Text::stringValue(output).isEmpty())
-        Diagnostics::tell(output);
-    if (!run.errmsg)
-        return { ExitCode::ConversionFailed, toolFailureSentence(output) };
-    return { ExitCode::ConversionFailed,
-        formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",
-                      "After: The converting progress was finished at 12s")),
-            { *run.errmsg }) };
-}
 
 /// One conversion from its start to its end for good.
 class Conversion {
@@ -51,38 +28,34 @@ public:
     {
     }
 
-    std::optional<Failure> run(
-        const VideoConstraints &entry, const JSON &info, Interruption &interruption);
+    Outcome run(const VideoConstraints &entry, const JSON &info, Interruption &interruption);
 
 private:
     void wait(Interruption &interruption);
-    [[nodiscard]] std::optional<Failure> outcome() const;
+    [[nodiscard]] Outcome outcome() const;
 
     const ConversionItem &m_item;
     Reporter &m_reporter;
     QElapsedTimer m_clock;
     std::shared_ptr<Progress> m_progress;
-    std::optional<RunFailure> m_failure;
 };
 
-std::optional<Failure> Conversion::run(
-    const VideoConstraints &entry, const JSON &info, Interruption &interruption)
+Outcome Conversion::run(const VideoConstraints &entry, const JSON &info, Interruption &interruption)
 {
     m_clock.start();
     m_reporter.started(m_item);
-    m_progress = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info,
-        [this](const std::optional<QString> &errmsg) { m_failure = RunFailure{ errmsg }; });
+    m_progress
+        = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info, [](const auto &) {});
     wait(interruption);
-    std::optional<Failure> failure = outcome();
-    if (!failure)
+    const Outcome result = outcome();
+    if (result.isDone())
         m_reporter.converted(m_item, std::chrono::milliseconds(m_clock.elapsed()));
-    return failure;
+    return result;
 }
 
 void Conversion::wait(Interruption &interruption)
 {
     QEventLoop loop;
-    // Posted, so that it comes after what the run has posted before.
     m_progress->setEndHandler([&loop] { MainQueue::post([&loop] { loop.quit(); }); });
     QObject::connect(
         &interruption, &Interruption::arrived, &loop, [this] { m_progress->cancel(); });
@@ -99,41 +72,47 @@ void Conversion::wait(Interruption &interruption)
     loop.exec();
 }
 
-std::optional<Failure> Conversion::outcome() const
+Outcome Conversion::outcome() const
 {
-    const bool interrupted = Interruption::signal() != 0;
-    // The terminal's Ctrl-C reaches the tool as well, which may fail of it before it is cancelled.
-    if (interrupted && (m_progress->isCancelled() || m_failure))
-        return cancelledFailure();
-    if (m_failure)
-        return failureOf(*m_failure, *m_progress);
-    if (m_progress->isCancelled())
-        return Failure{ ExitCode::ToolsMissing,
-            localized(QT_TRANSLATE_NOOP3("Localizable",
-                "The tool that converts videos can't be started.", "Why a conversion failed")) };
-    return std::nullopt;
+    const Outcome outcome = m_progress->outcome();
+    const OutcomeKind kind = kindOf(outcome);
+    // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
+    if (kind == OutcomeKind::Failed && Interruption::signal() != 0)
+        return { Reason::Cancelled };
+    // The engine's diagnostics hold the output of a tool that failed, unless it can't be decoded as
+    // a whole.
+    const QByteArray output = m_progress->toolOutput();
+    if (kind == OutcomeKind::Incomplete
+        || (kind == OutcomeKind::Failed && Text::stringValue(output).isEmpty()))
+        Diagnostics::write(output);
+    return outcome;
 }
 
-std::optional<Failure> converted(const ConversionItem &item, const CommandLine &line,
-    const std::vector<ConversionItem> &all, Reporter &reporter, Interruption &interruption)
+Outcome converted(const ConversionItem &item, const CommandLine &line, const Destination &others,
+    Reporter &reporter, Interruption &interruption)
 {
-    if (auto refusal = destinationRefusal(item.destPath, all, line.overwrite))
-        return refusal;
+    Destination destination = others;
+    destination.path = item.destPath;
+    if (const auto refusal = refusalOf(destination))
+        return *refusal;
+    // Without the check an older file would be gone before the tool is missed.
+    if (const auto refusal = toolRefusal(Tool::Ffmpeg))
+        return *refusal;
     const auto video = examined(item.path, Cover::LeftOut, interruption);
-    if (const auto *failure = std::get_if<Failure>(&video))
-        return *failure;
+    if (const auto *refusal = std::get_if<Outcome>(&video))
+        return *refusal;
     if (!line.overwrite) {
-        if (auto refusal = takenMeanwhile(item.destPath))
-            return refusal;
+        if (const auto refusal = createResultFile(item.destPath))
+            return *refusal;
     }
     return Conversion(item, reporter)
         .run(line.entries.front(), std::get<VideoDescription>(video).info, interruption);
 }
 
 /// The other videos have no better chance.
-bool endsAll(const std::optional<Failure> &failure)
+bool endsAll(const Outcome &outcome)
 {
-    return Interruption::signal() != 0 || (failure && failure->code == ExitCode::ToolsMissing);
+    return Interruption::signal() != 0 || kindOf(outcome) == OutcomeKind::ToolMissing;
 }
 
 }
@@ -146,17 +125,22 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
     }
     const auto reporter = Reporter::suitable(line.json);
     const std::vector<ConversionItem> items = conversionItems(line);
+    Destination others{ .overwrite = line.overwrite };
+    for (const ConversionItem &item : items) {
+        others.sources << item.path;
+        others.otherResults << item.destPath;
+    }
     ExitCode result = ExitCode::Done;
     int done = 0;
     for (const ConversionItem &item : items) {
-        const auto failure = converted(item, line, items, *reporter, interruption);
-        if (failure)
-            reporter->failed(item, *failure);
-        else
+        const Outcome outcome = converted(item, line, others, *reporter, interruption);
+        if (outcome.isDone())
             ++done;
-        if (failure && result == ExitCode::Done)
-            result = failure->code;
-        if (endsAll(failure))
+        else
+            reporter->failed(item, outcome);
+        if (result == ExitCode::Done)
+            result = exitCodeOf(kindOf(outcome));
+        if (endsAll(outcome))
             break;
     }
     if (items.size() > 1)

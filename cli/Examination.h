@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ExitCode.h"
 #include "engine/FFMPEG.h"
+#include "engine/Outcome.h"
 #include "support/JSON.h"
 
 #include <QSize>
@@ -21,15 +21,7 @@ struct VideoDescription {
     std::optional<QSize> cover;
 };
 
-/// The path, made absolute: the tools take a relative one that begins with a dash for an option,
-/// and one with a colon for a protocol. "//" and "/./" become "/"; a ".." may lead through a link
-/// and stays.
-[[nodiscard]] QString absolutePath(const QString &path);
-
-/// Examines the video at an absolute path and waits for the result; Cancelled when the program is
+/// Examines the video at an absolute path and waits for the result; cancelled when the program is
 /// interrupted. Thread: the main thread; an event loop runs inside.
-[[nodiscard]] std::variant<VideoDescription, Failure> examined(
+[[nodiscard]] std::variant<VideoDescription, Outcome> examined(
     const QString &path, Cover cover, Interruption &interruption);
-
-/// What an interrupted command ends with.
-[[nodiscard]] Failure cancelledFailure();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "engine/Outcome.h"
 
 /// How the program ends. A cancelled program ends with 128 and the number of the signal instead.
 enum class ExitCode : int {
@@ -14,8 +14,22 @@ enum class ExitCode : int {
     Cancelled = 128,
 };
 
-/// Why something was not done, in one sentence for the user.
-struct Failure {
-    ExitCode code;
-    QString message;
-};
+[[nodiscard]] constexpr ExitCode exitCodeOf(OutcomeKind kind)
+{
+    switch (kind) {
+    case OutcomeKind::Done:
+        return ExitCode::Done;
+    case OutcomeKind::InputRefused:
+        return ExitCode::InputRefused;
+    case OutcomeKind::DestinationRefused:
+        return ExitCode::DestinationRefused;
+    case OutcomeKind::ToolMissing:
+        return ExitCode::ToolsMissing;
+    case OutcomeKind::Failed:
+    case OutcomeKind::Incomplete:
+        return ExitCode::ConversionFailed;
+    case OutcomeKind::Cancelled:
+        return ExitCode::Cancelled;
+    }
+    return ExitCode::ConversionFailed;
+}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Output.h"
-#include "cli/ShownText.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Localized.h"
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Destination.h"
+#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
-#include "cli/Output.h"
-#include "cli/ShownText.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
+#include "engine/Destination.h"
+#include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
-#include "support/Bundle.h"
-#include "support/Localized.h"
 #include "support/StandardInput.h"
 
 #include <QFile>
@@ -21,7 +21,7 @@ namespace {
 constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 
 /// A media information as the tool prints it, or inside what 'probe --json' prints.
-std::variant<JSON, Failure> savedInfo(const QString &name)
+std::variant<JSON, Outcome> savedInfo(const QString &name)
 {
     QFile file(name);
     QByteArray bytes;
@@ -30,14 +30,10 @@ std::variant<JSON, Failure> savedInfo(const QString &name)
     else if (file.open(QIODevice::ReadOnly))
         bytes = file.read(infoLimit);
     else
-        return Failure{ ExitCode::InputRefused,
-            localized(QT_TRANSLATE_NOOP3("Localizable", "The file can't be opened.",
-                "Why a saved description of a video can't be used")) };
+        return Outcome{ Reason::InfoNotReadable };
     const JSON json = JSON::parse(bytes);
     if (json.value().isNull())
-        return Failure{ ExitCode::InputRefused,
-            localized(QT_TRANSLATE_NOOP3("Localizable", "The file holds no JSON.",
-                "Why a saved description of a video can't be used")) };
+        return Outcome{ Reason::InfoNoJson };
     const JSON inner = json[u"info"_s];
     return inner.value().isObject() ? inner : json;
 }
@@ -61,8 +57,7 @@ QStringList plannedArguments(
 
 QString shellLine(const CommandLine &line, const QStringList &arguments)
 {
-    const QString tool = Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s;
-    return line.info.isEmpty() ? shellQuoted(QStringList{ tool } + arguments)
+    return line.info.isEmpty() ? shellQuoted(QStringList{ toolPath(Tool::Ffmpeg) } + arguments)
                                : shellQuoted(arguments);
 }
 
@@ -88,18 +83,18 @@ ExitCode planConversions(const CommandLine &line, Interruption &interruption)
 {
     if (!line.info.isEmpty()) {
         const auto saved = savedInfo(line.info);
-        if (const auto *failure = std::get_if<Failure>(&saved))
-            return Output::failure(line.info, *failure);
+        if (const auto *refusal = std::get_if<Outcome>(&saved))
+            return Output::failure(line.info, *refusal);
         print(line, std::get<JSON>(saved));
         return ExitCode::Done;
     }
     const QString path = absolutePath(line.inputs.at(0));
-    if (const auto refusal = sourceRefusal(
-            absolutePath(line.inputs.at(1)), { { .input = {}, .path = path, .destPath = {} } }))
+    const QString destPath = absolutePath(line.inputs.at(1));
+    if (const auto refusal = sourceRefusal({ .path = destPath, .sources = { path } }))
         return Output::failure(line.inputs.at(1), *refusal);
     const auto result = examined(path, Cover::LeftOut, interruption);
-    if (const auto *failure = std::get_if<Failure>(&result))
-        return Output::failure(line.inputs.first(), *failure);
+    if (const auto *refusal = std::get_if<Outcome>(&result))
+        return Output::failure(line.inputs.first(), *refusal);
     print(line, std::get<VideoDescription>(result).info);
     return ExitCode::Done;
 }

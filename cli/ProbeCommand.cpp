@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
-#include "cli/Output.h"
-#include "cli/ShownText.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "support/Format.h"
 #include "support/Localized.h"
 
@@ -71,8 +72,8 @@ ExitCode probeVideo(const CommandLine &line, Interruption &interruption)
 {
     const QString &name = line.inputs.first();
     const auto result = examined(absolutePath(name), Cover::Taken, interruption);
-    if (const auto *failure = std::get_if<Failure>(&result))
-        return Output::failure(name, *failure);
+    if (const auto *refusal = std::get_if<Outcome>(&result))
+        return Output::failure(name, *refusal);
     const auto &video = std::get<VideoDescription>(result);
     if (line.json)
         Output::json(QJsonDocument(jsonOf(video)), QJsonDocument::Indented);

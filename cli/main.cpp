@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Diagnostics.h"
-#include "cli/Output.h"
+#include "cli/report/Diagnostics.h"
+#include "cli/report/Output.h"
 #include "engine/FFMPEG.h"
 #include "support/Configuration.h"
 #include "support/Interruption.h"
@@ -31,13 +31,13 @@ ExitCode run(const CommandLine &line)
     return ExitCode::Usage;
 }
 
-ExitCode answer(const Answer &answer)
+ExitCode shown(const UsageText &usage)
 {
-    if (answer.code == ExitCode::Done)
-        Output::line(answer.text);
+    if (usage.code == ExitCode::Done)
+        Output::line(usage.text);
     else
-        Output::errorLine(answer.text);
-    return answer.code;
+        Output::errorLine(usage.text);
+    return usage.code;
 }
 
 int exitStatus(ExitCode code)
@@ -63,8 +63,8 @@ int main(int argc, char *argv[])
     Translation::install(Bundle::main());
 
     const auto parsed = parsedCommandLine(QCoreApplication::arguments());
-    if (const auto *text = std::get_if<Answer>(&parsed))
-        return exitStatus(answer(*text));
+    if (const auto *text = std::get_if<UsageText>(&parsed))
+        return exitStatus(shown(*text));
     const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
         Diagnostics::show();

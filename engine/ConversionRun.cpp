@@ -2,17 +2,14 @@
 #include "engine/ConversionRun.h"
 
 #include "engine/Async.h"
-#include "engine/DestinationClaim.h"
-#include "engine/Obstacle.h"
+#include "engine/Destination.h"
 #include "engine/Task.h"
+#include "engine/Tool.h"
+#include "engine/ToolFailure.h"
 #include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
-#include "support/Bundle.h"
 #include "support/Console.h"
-#include "support/DurationInfo.h"
 #include "support/FileSystem.h"
-#include "support/Format.h"
-#include "support/Localized.h"
 #include "support/Text.h"
 
 #include <QFile>
@@ -45,42 +42,44 @@ void ConversionRun::run()
 {
     // Where the user keeps a link, what it leads to is written, and removed after a failure.
     m_job.destPath = linkTarget(m_job.destPath);
-    if (isSameFile(m_job.path, m_job.destPath)) {
-        // The tool would empty the source before it read it, and the clean-up would remove it.
-        postError(localized(
-            QT_TRANSLATE_NOOP3("Localizable", "The result can't replace the video it is made from.",
-                "Error message when source and destination are one file")));
-    } else if (const std::optional<QString> obstacle = obstacleAt(m_job.destPath)) {
-        postError(obstacle);
+    // Of a source as destination, the tool would empty it and the clean-up would remove it.
+    if (const auto refusal
+        = refusalOf({ .path = m_job.destPath, .sources = { m_job.path }, .overwrite = true })) {
+        end(*refusal);
+        postError(sentenceOf(*refusal));
     } else {
         convert();
     }
-    m_progress->end(m_output);
+    m_progress->end();
 }
 
 void ConversionRun::convert()
 {
     const DestinationClaim claim(m_job.destPath, [this] { return m_progress->isCancelled(); });
-    if (!claim.isHeld())
+    if (!claim.isHeld()) {
+        end({ Reason::Cancelled });
         return;
-    Task task;
-    const bool launched = launch(task);
-    if (launched) {
-        follow(task);
-        judge(task);
     }
-    finish(task, launched);
+    Task task;
+    if (!launch(task)) {
+        removeDestination();
+        return;
+    }
+    follow(task);
+    judge(task);
+    finish(task);
 }
 
 bool ConversionRun::launch(Task &task)
 {
-    task.setLaunchPath(Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s);
+    task.setLaunchPath(toolPath(Tool::Ffmpeg));
     task.setArguments(conversionArguments(m_job));
     task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;
     Console::print(u"something bad happened: "_s + error.localizedDescription);
+    end(missingTool(Tool::Ffmpeg));
     m_progress->cancel();
     return false;
 }
@@ -121,38 +120,36 @@ void ConversionRun::readChunk(const QByteArray &chunk)
 // stopped short.
 void ConversionRun::judge(const Task &task)
 {
-    if (m_progress->isCancelled() || !hasSucceeded(task))
-        return;
+    if (m_progress->isCancelled())
+        return end({ Reason::Cancelled });
+    if (task.terminationStatus() != 0
+        || ToolOutput::reportsLostOutput(m_output, { m_job.path, m_job.destPath }))
+        return end(toolFailure(m_output));
     const qint64 completed = m_progress->completedUnitCount();
     const qint64 remaining = m_progress->totalUnitCount() - completed;
     const qint64 step = std::abs(m_lastDelta);
     if (static_cast<double>(step) * 2.2 >= static_cast<double>(remaining))
-        return;
+        return end({});
     Console::print(u"conversion of bad file, not all length has been processed"_s);
-    const QString format
-        = localized(QT_TRANSLATE_NOOP3("Localizable", "The converting progress was finished at %@",
-            "Error message format string when file has not been converted at full length"));
-    postError(formatted(format, { DurationInfo(completed).toString() }));
+    end({ .reason = Reason::Incomplete, .seconds = completed });
 }
 
-bool ConversionRun::hasSucceeded(const Task &task) const
+void ConversionRun::finish(Task &task)
 {
-    return task.terminationStatus() == 0
-        && !ToolOutput::reportsLostOutput(m_output, { m_job.path, m_job.destPath });
-}
-
-void ConversionRun::finish(Task &task, bool launched)
-{
-    // Read once: a cancel that comes while this goes on must not meet half of each branch.
-    const bool cancelled = m_progress->isCancelled();
-    if (cancelled) {
-        // A tool that is told to stop in its first moments still creates its output, so it is gone
+    switch (kindOf(m_progress->outcome())) {
+    case OutcomeKind::Incomplete:
+        postError(sentenceOf(m_progress->outcome()));
+        [[fallthrough]];
+    case OutcomeKind::Done:
+        m_progress->setCompletedUnitCount(m_progress->totalUnitCount());
+        break;
+    case OutcomeKind::Cancelled:
+        // A tool that is stopped in its first moments still creates its output, so it is gone
         // before that is removed.
         task.terminate();
         removeDestination();
-    } else if (launched && hasSucceeded(task)) {
-        m_progress->setCompletedUnitCount(m_progress->totalUnitCount());
-    } else {
+        break;
+    default:
         Console::print(u"error occured: "_s + Text::stringValue(m_output));
         postError(std::nullopt);
         removeDestination();
@@ -160,9 +157,10 @@ void ConversionRun::finish(Task &task, bool launched)
     task.closeFile();
 }
 
-void ConversionRun::postError(const std::optional<QString> &errmsg)
+void ConversionRun::end(const Outcome &outcome) { m_progress->setOutcome(outcome, m_output); }
+
+void ConversionRun::postError(const std::optional<QString> &errmsg) const
 {
-    m_progress->setToolOutput(m_output);
     Async::async([handler = m_errorHandler, errmsg] { handler(errmsg); });
 }
 

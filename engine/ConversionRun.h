@@ -36,9 +36,9 @@ private:
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);
     void judge(const Task &task);
-    [[nodiscard]] bool hasSucceeded(const Task &task) const;
-    void finish(Task &task, bool launched);
-    void postError(const std::optional<QString> &errmsg);
+    void finish(Task &task);
+    void end(const Outcome &outcome);
+    void postError(const std::optional<QString> &errmsg) const;
     void removeDestination() const;
 
     ConversionJob m_job;

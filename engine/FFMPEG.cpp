@@ -9,7 +9,7 @@
 #include "engine/Progress.h"
 #include "engine/SerialQueue.h"
 #include "engine/Task.h"
-#include "support/Bundle.h"
+#include "engine/Tool.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"
 
@@ -28,10 +28,10 @@ Q_COREAPP_STARTUP_FUNCTION(allowLargeCovers)
 
 // Runs a tool to its end and gives its whole output; absent when it can't be launched.
 std::optional<QByteArray> toolOutput(
-    const QString &suffix, const QStringList &arguments, const ToolAccess &access)
+    Tool tool, const QStringList &arguments, const ToolAccess &access)
 {
     Task task;
-    task.setLaunchPath(Bundle::main().bundlePath() + suffix);
+    task.setLaunchPath(toolPath(tool));
     task.setArguments(arguments);
     task.setAccess(access);
     LaunchError error;
@@ -50,25 +50,25 @@ void FFMPEG::collectMovieInfo(
     const QString &path, std::function<void()> errorHandler, const InfoHandler &completionHandler)
 {
     collectMovieInfo(
-        path, [handler = std::move(errorHandler)](ProbeRefusal) { handler(); }, completionHandler);
+        path, [handler = std::move(errorHandler)](const Outcome &) { handler(); },
+        completionHandler);
 }
 
 void FFMPEG::collectMovieInfo(const QString &path,
-    const std::function<void(ProbeRefusal)> &errorHandler, const InfoHandler &completionHandler,
+    const std::function<void(const Outcome &)> &errorHandler, const InfoHandler &completionHandler,
     Cover coverWish)
 {
-    // A FIFO would make the tool wait for ever.
-    if (!isRegularFile(path)) {
-        Async::async([errorHandler] { errorHandler(ProbeRefusal::NotARegularFile); });
+    if (const auto refusal = MovieProbe::fileRefusal(path)) {
+        Async::async([errorHandler, refusal] { errorHandler(*refusal); });
         return;
     }
     getFFProbeOutput(path, [=](const std::optional<JSON> &json) {
         if (!json) {
-            errorHandler(ProbeRefusal::ToolNotLaunched);
+            errorHandler(missingTool(Tool::Ffprobe));
             return;
         }
         const auto result = MovieProbe::checked(*json, fileSize(path));
-        if (const auto *refusal = std::get_if<ProbeRefusal>(&result)) {
+        if (const auto *refusal = std::get_if<Outcome>(&result)) {
             errorHandler(*refusal);
             return;
         }
@@ -113,7 +113,7 @@ void FFMPEG::getFFProbeOutput(
         const QStringList arguments{ u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s,
             u"-show_format"_s, u"-show_streams"_s, path };
         const std::optional<QByteArray> output
-            = toolOutput(u"/Contents/ffmpeg/ffprobe"_s, arguments, { { path }, {} });
+            = toolOutput(Tool::Ffprobe, arguments, { { path }, {} });
         const std::optional<JSON> json
             = output ? std::optional(JSON::parse(*output)) : std::nullopt;
         Async::async([json, completionHandler] { completionHandler(json); });
@@ -132,8 +132,7 @@ void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
         const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath,
             u"-y"_s };
         const ToolAccess access{ { path }, { QFileInfo(imagePath).path() } };
-        const std::optional<QByteArray> output
-            = toolOutput(u"/Contents/ffmpeg/ffmpeg"_s, arguments, access);
+        const std::optional<QByteArray> output = toolOutput(Tool::Ffmpeg, arguments, access);
         QImage cover;
         if (output) {
             Console::print(QString::fromUtf8(*output));

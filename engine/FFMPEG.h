@@ -12,17 +12,7 @@
 #include <optional>
 
 class Progress;
-
-/// Why a file can't be converted.
-enum class ProbeRefusal {
-    NotARegularFile,
-    ToolNotLaunched,
-    NotMedia,
-    NoDuration,
-    NoSize,
-    TooShort,
-    SizeDiffers,
-};
+struct Outcome;
 
 /// Whether a probe takes the video's cover, which costs a run of its own.
 enum class Cover { Taken, LeftOut };
@@ -43,10 +33,11 @@ public:
     /// Describes a video. Exactly one of the handlers runs.
     static void collectMovieInfo(const QString &path, std::function<void()> errorHandler,
         const InfoHandler &completionHandler);
-    /// The same, with the reason of a refusal, and without a cover where that is left out.
+    /// The same, with the reason of a refusal, and without a cover where that is left out. The
+    /// cover alone needs `ffmpeg`.
     static void collectMovieInfo(const QString &path,
-        const std::function<void(ProbeRefusal)> &errorHandler, const InfoHandler &completionHandler,
-        Cover cover = Cover::Taken);
+        const std::function<void(const Outcome &)> &errorHandler,
+        const InfoHandler &completionHandler, Cover cover = Cover::Taken);
 
     /// Converts a probed video. The progress object is indeterminate until the tool tells the
     /// length. Cancelling it stops the tool and removes the partly written output. Errors:

@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "engine/MovieProbe.h"
 
+#include "support/FileSystem.h"
+
+#include <QFileInfo>
+
 #include <array>
+#include <cerrno>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -38,27 +44,44 @@ constexpr std::array bucketRows{
 
 namespace MovieProbe {
 
-std::variant<qint64, ProbeRefusal> checked(const JSON &info, quint64 sizeOnDisk)
+std::optional<Outcome> fileRefusal(const QString &path)
+{
+    const QFileInfo file(path);
+    const bool readable = ::access(QFile::encodeName(path).constData(), R_OK) == 0;
+    if (!readable && errno != EACCES)
+        return Outcome{ Reason::NoSuchFile };
+    if (file.isDir())
+        return Outcome{ Reason::IsFolder };
+    if (!readable)
+        return Outcome{ Reason::PermissionDenied };
+    if (!isRegularFile(path))
+        return Outcome{ Reason::NotRegularFile };
+    if (file.size() == 0)
+        return Outcome{ Reason::EmptyFile };
+    return std::nullopt;
+}
+
+std::variant<qint64, Outcome> checked(const JSON &info, quint64 sizeOnDisk)
 {
     const JSON format = info[u"format"_s];
     if (format.value().isNull())
-        return ProbeRefusal::NotMedia;
+        return Outcome{ Reason::NotMedia };
     const std::optional<QString> durationText = format[u"duration"_s].string();
     if (!durationText)
-        return ProbeRefusal::NoDuration;
+        return Outcome{ Reason::NoDuration };
     bool isNumber = false;
     const double duration = durationText->toDouble(&isNumber);
     if (!isNumber)
-        return ProbeRefusal::NoDuration;
+        return Outcome{ Reason::NoDuration };
     const std::optional<QString> sizeText = format[u"size"_s].string();
     if (!sizeText)
-        return ProbeRefusal::NoSize;
+        return Outcome{ Reason::NoSize };
     const auto seconds = static_cast<qint64>(duration);
     if (seconds == 0)
-        return ProbeRefusal::TooShort;
+        return Outcome{ Reason::TooShort };
     const quint64 size = sizeText->toULongLong(&isNumber);
     if (!isNumber || size != sizeOnDisk)
-        return ProbeRefusal::SizeDiffers;
+        return Outcome{ Reason::SizeDiffers };
     return seconds;
 }
 

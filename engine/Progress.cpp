@@ -117,12 +117,11 @@ bool Progress::isEnded() const
     return m_ended;
 }
 
-void Progress::end(QByteArray toolOutput)
+void Progress::end()
 {
     std::function<void()> handler;
     {
         const std::lock_guard lock(m_mutex);
-        m_toolOutput = std::move(toolOutput);
         m_ended = true;
         handler = std::move(m_endHandler);
         m_endHandler = nullptr;
@@ -144,15 +143,22 @@ void Progress::setEndHandler(std::function<void()> handler)
         handler();
 }
 
+Outcome Progress::outcome() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_outcome;
+}
+
 QByteArray Progress::toolOutput() const
 {
     const std::lock_guard lock(m_mutex);
     return m_toolOutput;
 }
 
-void Progress::setToolOutput(QByteArray toolOutput)
+void Progress::setOutcome(Outcome outcome, QByteArray toolOutput)
 {
     const std::lock_guard lock(m_mutex);
+    m_outcome = std::move(outcome);
     m_toolOutput = std::move(toolOutput);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/Outcome.h"
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -48,13 +50,15 @@ public:
 
     /// The run is over for good: its tool is gone and its destination kept or removed.
     [[nodiscard]] bool isEnded() const;
-    /// Marks the end, with everything that the tool printed. Called once, by the run.
-    void end(QByteArray toolOutput);
+    /// Marks the end. Called once, by the run.
+    void end();
     /// Runs at the end on the run's thread, or at once when the run has ended already.
     void setEndHandler(std::function<void()> handler);
-    /// Everything that the tool printed; empty until the run reports a failure or has ended.
+    /// How the run ended; set before its end is marked or an error is reported.
+    [[nodiscard]] Outcome outcome() const;
+    /// Everything that the tool printed; set together with the outcome.
     [[nodiscard]] QByteArray toolOutput() const;
-    void setToolOutput(QByteArray toolOutput);
+    void setOutcome(Outcome outcome, QByteArray toolOutput);
 
 private:
     void notify(std::initializer_list<Key> keys);
@@ -65,6 +69,7 @@ private:
     qint64 m_completedUnitCount = 0;
     bool m_cancelled = false;
     bool m_ended = false;
+    Outcome m_outcome;
     QByteArray m_toolOutput;
     std::function<void()> m_cancellationHandler;
     std::function<void()> m_endHandler;

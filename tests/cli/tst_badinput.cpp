@@ -46,7 +46,7 @@ private Q_SLOTS:
 
     void video_isRefused_data()
     {
-        const Utf8 noVideo = "The file is no video, or it is damaged or incomplete.";
+        const Utf8 noVideo = "The file is not a video, or it is damaged or incomplete.";
         addRows<Utf8, Utf8>({ "video", "message" },
             {
                 { "missing", "missing.mp4", "There is no such file." },
@@ -91,13 +91,13 @@ private Q_SLOTS:
         addRows<Utf8, Utf8, int, Utf8>({ "tool", "script", "exitCode", "message" },
             {
                 { "still growing", "ffprobe", R"({"format":{"duration":"2.0","size":"17"}})", 3,
-                    "The file is still being written, or could be read only in part." },
+                    "The file is still being written, or only part of it could be read." },
                 { "no length", "ffprobe", R"({"format":{"duration":2,"size":"17"}})", 3,
-                    "The file does not tell how long it plays." },
+                    "The file does not say how long it plays." },
                 { "no size", "ffprobe", R"({"format":{"duration":"2.0"}})", 3,
-                    "The file's size can't be found out." },
+                    "The size of the file is unknown." },
                 { "no JSON", "ffprobe", "Segmentation fault", 3,
-                    "The file is no video, or it is damaged or incomplete." },
+                    "The file is not a video, or it is damaged or incomplete." },
                 { "not UTF-8", "ffmpeg", R"(print:\xff\xfe bad \xd0\nlast words\n|exit:1)", 1,
                     "The tool failed: last words" },
                 { "flood", "ffmpeg", R"(flood:50000000|print:last words\n|exit:1)", 1,
@@ -123,7 +123,7 @@ private Q_SLOTS:
     void unsuitableOutput_isReported()
     {
         const QStringList before = m_command.listing();
-        const QString message = u": The video holds nothing that this output can take.\n"_s;
+        const QString message = u": The video contains nothing that this output can hold.\n"_s;
         QCOMPARE(convert(u"sound.wav"_s, u"GIF"_s).end(), u"1: sound.wav"_s + message);
         QCOMPARE(convert(u"silent.mp4"_s, u"audio"_s).end(), u"1: silent.mp4"_s + message);
         QCOMPARE(m_command.listing(), before);

@@ -107,7 +107,8 @@ private Q_SLOTS:
             });
         const Finished converted = Command::wait(*process);
         QVERIFY(!QFile::remove(u"/result.mp4"_s));
-        QVERIFY2(converted.err.endsWith(u"The video or the destination's folder has gone.\n"_s),
+        QVERIFY2(
+            converted.err.endsWith(u"The video or the destination's folder no longer exists.\n"_s),
             qPrintable(converted.err));
     }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "cli/CommandLine.h"
-#include "cli/ProgressLine.h"
-#include "cli/ShownText.h"
-#include "cli/ToolFailure.h"
+#include "cli/arguments/CommandLine.h"
+#include "cli/report/ProgressLine.h"
+#include "cli/report/ShownText.h"
 #include "tests/fixtures/Rows.h"
 
 #include <clocale>
@@ -13,7 +12,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // Words with spaces between, '_' for a space inside a word and '~' for an empty word.
-std::variant<CommandLine, Answer> parsed(const QString &text)
+std::variant<CommandLine, UsageText> parsed(const QString &text)
 {
     QStringList words = text.split(u' ', Qt::SkipEmptyParts);
     words.replaceInStrings(u"_"_s, u" "_s).replaceInStrings(u"~"_s, QString());
@@ -78,7 +77,7 @@ private Q_SLOTS:
         QFETCH(const QString, words);
         QFETCH(const QString, about);
         const auto result = parsed(words);
-        const auto *answer = std::get_if<Answer>(&result);
+        const auto *answer = std::get_if<UsageText>(&result);
         QVERIFY(answer);
         QTEST(answer->code, "code");
         QVERIFY2(answer->text.contains(about), qPrintable(answer->text));
@@ -90,7 +89,7 @@ private Q_SLOTS:
                  u"--json --verbose --overwrite --to=iPhone_6,_6s -d. convert convert -- b"_s }) {
             const auto result = parsed(words);
             const auto *line = std::get_if<CommandLine>(&result);
-            QVERIFY2(line, line ? "" : qPrintable(std::get<Answer>(result).text));
+            QVERIFY2(line, line ? "" : qPrintable(std::get<UsageText>(result).text));
             QCOMPARE(line->verb, Verb::Convert);
             QCOMPARE(line->inputs, (QStringList{ u"convert"_s, u"b"_s }));
             QCOMPARE(line->folder, u"."_s);
@@ -168,64 +167,6 @@ private Q_SLOTS:
             u"100%d ä 👩‍👩‍👧 \u200f"_s);
         QCOMPARE(elided(u"abcdefghij"_s, 5), u"ab…ij"_s);
         QCOMPARE(elided(u"片片片片"_s, 8), u"片片片片"_s);
-    }
-
-    void failure_getsASentence_data()
-    {
-        const QByteArray report = "frame=   24 fps= 24 q=0.0 size=       0kB time=00:00:00.00 "
-                                  "bitrate=N/A speed=   0x    \r";
-        const QByteArray end = "[AVIOContext @ 0x555] Statistics: 70164 bytes read, 2 seeks\n"
-                               "Conversion failed!\n";
-        const Utf8 noSpace = "There is no space left on the destination's disk.";
-        const Utf8 killed = "The tool was killed before it was done.";
-        addRows<QByteArray, Utf8>({ "output", "sentence" },
-            {
-                { "disk full in the middle",
-                    report + "av_interleaved_write_frame(): No space left on device\n" + end,
-                    noSpace },
-                { "disk full, then an encoder that can't start",
-                    "Could not write header for output file #0: No space left on device\n"
-                    "Error initializing output stream 0:0 -- \nConversion failed!\n",
-                    noSpace },
-                { "a name that sounds like a reason",
-                    "Input #0, mov, from '/x/No space left on device':\n/x/a: Permission denied\n"
-                        + end,
-                    "Permission was denied to read the video or to write the result." },
-                { "encoder", "Unknown encoder 'libxvid'\n" + end,
-                    "The installed tool has no encoder libxvid." },
-                { "muxer", "Requested output format 'webm' is not a suitable output format\n",
-                    "The installed tool can't write the format webm." },
-                { "gone", "/x/gone.mov: No such file or directory\n",
-                    "The video or the destination's folder has gone." },
-                { "nothing to take", "Output file #0 does not contain any stream\n" + end,
-                    "The video holds nothing that this output can take." },
-                { "encoder options",
-                    "[libmp3lame @ 0x56] Specified sample rate 12345 is not supported\nError "
-                    "initializing output stream 0:0 -- Error while opening encoder for output\n"
-                        + end,
-                    "The encoder does not take the video's picture or sound as it is." },
-                { "damaged", "a.mov: Invalid data found when processing input\n" + end,
-                    "The video's data is damaged." },
-                { "silent", "\nThe tool has been silent for too long and was stopped.\n",
-                    "The tool was silent for too long and was stopped." },
-                { "asked to end", "Exiting normally, received signal 15.\n",
-                    "The tool was stopped from outside." },
-                { "killed", "  Metadata:\n" + report + report, killed },
-                { "killed at once", "Press [q] to stop, [?] for help\n", killed },
-                { "nothing said", "", killed },
-                { "unknown reason",
-                    "  Metadata:\nToo many cooks.\r[libx264 @ 0x55] kb/s:128.50\n" + end,
-                    "The tool failed: Too many cooks." },
-                { "percent signs, control characters, bad bytes", "100%d %s \x1b[31mred \xff\n",
-                    "The tool failed: 100%d %s ?[31mred \ufffd" },
-                { "long ago", ": No space left on device\n" + QByteArray("chatter\n").repeated(300),
-                    "The tool failed: chatter" },
-            });
-    }
-    void failure_getsASentence()
-    {
-        QFETCH(const QByteArray, output);
-        QTEST(toolFailureSentence(output), "sentence");
     }
 };
 

@@ -76,7 +76,7 @@ private Q_SLOTS:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         QFile file(path(u"in.mov"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("the video") == 8);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("the video") == 9);
         m_lines.clear();
     }
 
@@ -211,7 +211,7 @@ private Q_SLOTS:
             const Conversion conversion(path(u"in.mov"_s), destination);
             conversion.wait();
             QCOMPARE(conversion.errors,
-                QStringList{ u"The result can't replace the video it is made from."_s });
+                QStringList{ u"The result can't replace a video that is to be converted."_s });
             QCOMPARE(conversion.progress->toolOutput(), QByteArray());
             QVERIFY(QFile::exists(destination));
         }

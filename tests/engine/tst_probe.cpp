@@ -3,6 +3,7 @@
 #include "engine/FFMPEG.h"
 #include "engine/MovieProbe.h"
 #include "engine/SerialQueue.h"
+#include "engine/Tool.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"
 #include "support/MainQueue.h"
@@ -24,9 +25,9 @@ void probe(const QString &path, QStringList &answers)
 {
     FFMPEG::collectMovieInfo(
         path,
-        [&answers](ProbeRefusal refusal) {
+        [&answers](const Outcome &refusal) {
             QVERIFY(MainQueue::isMainThread());
-            answers += refusal == ProbeRefusal::NotARegularFile ? u"no file"_s : u"refused"_s;
+            answers += sentenceOf(refusal);
         },
         [path, &answers](const JSON &info, const QImage &cover, const QString &duration) {
             QVERIFY(MainQueue::isMainThread());
@@ -70,10 +71,11 @@ private Q_SLOTS:
                 { "cover would lie behind the end", "fifteen.mkv", "", "15s, 0 x 0" },
                 { "large picture", "8k.mov", "", "3s, 8192 x 4320" },
                 { "sound alone", "sound.mp3", "", "5s, 0 x 0" },
-                { "missing", "nothing.mp4", "", "no file" },
-                { "folder", ".", "", "no file" },
-                { "FIFO", "fifo.mp4", "", "no file" },
-                { "no ffprobe", "five.mp4", "ffprobe", "refused" },
+                { "missing", "nothing.mp4", "", "There is no such file." },
+                { "folder", ".", "", "This is a folder, not a video." },
+                { "FIFO", "fifo.mp4", "", "This is a pipe or a device, not a file." },
+                { "no ffprobe", "five.mp4", "ffprobe",
+                    "The tool TOOL is missing or can't be run." },
                 { "no ffmpeg, so no cover", "five.mp4", "ffmpeg", "5s, 0 x 0" },
             });
     }
@@ -81,7 +83,8 @@ private Q_SLOTS:
     {
         QFETCH(const QString, name);
         QFETCH(const QString, missingTool);
-        QFETCH(const QString, answer);
+        QFETCH(QString, answer);
+        answer.replace(u"TOOL"_s, toolPath(Tool::Ffprobe));
         std::optional<ToolSwap> swap;
         if (!missingTool.isEmpty())
             swap.emplace(missingTool, ToolSwap::With::Nothing);
@@ -98,20 +101,20 @@ private Q_SLOTS:
 
     void information_isChecked_data()
     {
-        const auto accepted = static_cast<ProbeRefusal>(-1);
-        addRows<Utf8, ProbeRefusal>({ "format", "refusal" },
+        const auto accepted = Reason::Done;
+        addRows<Utf8, Reason>({ "format", "refusal" },
             {
                 { "one second", R"("duration":"1.000000","size":"500")", accepted },
                 { "long", R"("duration":"83.450000","size":"500")", accepted },
-                { "half a second", R"("duration":"0.5","size":"500")", ProbeRefusal::TooShort },
-                { "no duration", R"("size":"500")", ProbeRefusal::NoDuration },
-                { "numeric duration", R"("duration":8,"size":"500")", ProbeRefusal::NoDuration },
-                { "bad duration", R"("duration":"N/A","size":"500")", ProbeRefusal::NoDuration },
-                { "no size", R"("duration":"83.4")", ProbeRefusal::NoSize },
-                { "no size, too short", R"("duration":"0.4")", ProbeRefusal::NoSize },
-                { "numeric size", R"("duration":"83.4","size":500)", ProbeRefusal::NoSize },
-                { "growing", R"("duration":"83.4","size":"499")", ProbeRefusal::SizeDiffers },
-                { "bad size", R"("duration":"83.4","size":"5e2")", ProbeRefusal::SizeDiffers },
+                { "half a second", R"("duration":"0.5","size":"500")", Reason::TooShort },
+                { "no duration", R"("size":"500")", Reason::NoDuration },
+                { "numeric duration", R"("duration":8,"size":"500")", Reason::NoDuration },
+                { "bad duration", R"("duration":"N/A","size":"500")", Reason::NoDuration },
+                { "no size", R"("duration":"83.4")", Reason::NoSize },
+                { "no size, too short", R"("duration":"0.4")", Reason::NoSize },
+                { "numeric size", R"("duration":"83.4","size":500)", Reason::NoSize },
+                { "growing", R"("duration":"83.4","size":"499")", Reason::SizeDiffers },
+                { "bad size", R"("duration":"83.4","size":"5e2")", Reason::SizeDiffers },
             });
     }
     void information_isChecked()
@@ -119,8 +122,8 @@ private Q_SLOTS:
         QFETCH(const QString, format);
         const JSON info = JSON::parse(R"({"format":{)" + format.toUtf8() + "}}");
         const auto result = MovieProbe::checked(info, 500);
-        const auto *refusal = std::get_if<ProbeRefusal>(&result);
-        QTEST(refusal ? *refusal : static_cast<ProbeRefusal>(-1), "refusal");
+        const auto *refusal = std::get_if<Outcome>(&result);
+        QTEST(refusal ? refusal->reason : Reason::Done, "refusal");
     }
 
     void length_choosesCoverAndBucket_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/DurationScanner.h"
 #include "engine/Progress.h"
+#include "engine/ToolFailure.h"
 #include "engine/ToolOutput.h"
 #include "support/Pattern.h"
 #include "tests/fixtures/Rows.h"
@@ -153,9 +154,68 @@ private Q_SLOTS:
         QByteArrayList outputs;
         progress.setEndHandler([&] { outputs += progress.toolOutput(); });
         QVERIFY(!progress.isEnded());
-        progress.end("all of it");
+        progress.setOutcome({ Reason::Cancelled }, "all of it");
+        progress.end();
         progress.setEndHandler([&] { outputs += "late"; });
         QCOMPARE(outputs, (QByteArrayList{ "all of it", "late" }));
+    }
+
+    void failure_getsASentence_data()
+    {
+        const QByteArray report = "frame=   24 fps= 24 q=0.0 size=       0kB time=00:00:00.00 "
+                                  "bitrate=N/A speed=   0x    \r";
+        const QByteArray end = "[AVIOContext @ 0x555] Statistics: 70164 bytes read, 2 seeks\n"
+                               "Conversion failed!\n";
+        const Utf8 noSpace = "There is no space left on the destination's disk.";
+        const Utf8 killed = "The tool was killed before it was done.";
+        addRows<QByteArray, Utf8>({ "output", "sentence" },
+            {
+                { "disk full in the middle",
+                    report + "av_interleaved_write_frame(): No space left on device\n" + end,
+                    noSpace },
+                { "disk full, then an encoder that can't start",
+                    "Could not write header for output file #0: No space left on device\n"
+                    "Error initializing output stream 0:0 -- \nConversion failed!\n",
+                    noSpace },
+                { "a name that sounds like a reason",
+                    "Input #0, mov, from '/x/No space left on device':\n/x/a: Permission denied\n"
+                        + end,
+                    "Permission was denied to read the video or to write the result." },
+                { "encoder", "Unknown encoder 'libxvid'\n" + end,
+                    "The installed tool has no encoder libxvid." },
+                { "muxer", "Requested output format 'webm' is not a suitable output format\n",
+                    "The installed tool can't write the format webm." },
+                { "gone", "/x/gone.mov: No such file or directory\n",
+                    "The video or the destination's folder no longer exists." },
+                { "nothing to take", "Output file #0 does not contain any stream\n" + end,
+                    "The video contains nothing that this output can hold." },
+                { "encoder options",
+                    "[libmp3lame @ 0x56] Specified sample rate 12345 is not supported\nError "
+                    "initializing output stream 0:0 -- Error while opening encoder for output\n"
+                        + end,
+                    "The encoder can't handle this video's picture or sound." },
+                { "damaged", "a.mov: Invalid data found when processing input\n" + end,
+                    "The video's data is damaged." },
+                { "silent", "\nThe tool has been silent for too long and was stopped.\n",
+                    "The tool was silent for too long and was stopped." },
+                { "asked to end", "Exiting normally, received signal 15.\n",
+                    "Another program stopped the tool." },
+                { "killed", "  Metadata:\n" + report + report, killed },
+                { "killed at once", "Press [q] to stop, [?] for help\n", killed },
+                { "nothing said", "", killed },
+                { "unknown reason",
+                    "  Metadata:\nToo many cooks.\r[libx264 @ 0x55] kb/s:128.50\n" + end,
+                    "The tool failed: Too many cooks." },
+                { "percent signs, control characters, bad bytes", "100%d %s \x1b[31mred \xff\n",
+                    "The tool failed: 100%d %s \x1b[31mred \ufffd" },
+                { "long ago", ": No space left on device\n" + QByteArray("chatter\n").repeated(300),
+                    "The tool failed: chatter" },
+            });
+    }
+    void failure_getsASentence()
+    {
+        QFETCH(const QByteArray, output);
+        QTEST(sentenceOf(toolFailure(output)), "sentence");
     }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "cli/TerminalReporter.h"
+#include "cli/report/TerminalReporter.h"
 
-#include "cli/Output.h"
+#include "cli/report/Output.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -27,8 +27,8 @@ void TerminalReporter::converted(const ConversionItem &item, std::chrono::millis
     PlainReporter::converted(item, elapsed);
 }
 
-void TerminalReporter::failed(const ConversionItem &item, const Failure &failure)
+void TerminalReporter::failed(const ConversionItem &item, const Outcome &outcome)
 {
     clearLine();
-    PlainReporter::failed(item, failure);
+    PlainReporter::failed(item, outcome);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/Destination.h"
-#include "cli/ProgressLine.h"
+#include "cli/ConversionItem.h"
+#include "cli/report/ProgressLine.h"
 
 #include <chrono>
 #include <memory>
@@ -23,11 +23,11 @@ public:
     virtual void started(const ConversionItem &item) = 0;
     virtual void progressed(const ConversionItem &item, const ProgressSample &sample) = 0;
     virtual void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) = 0;
-    virtual void failed(const ConversionItem &item, const Failure &failure) = 0;
+    virtual void failed(const ConversionItem &item, const Outcome &outcome) = 0;
     /// After the last of several videos.
     virtual void summedUp(int converted, int all) = 0;
 
 protected:
     /// Says on standard error what went wrong, with the file that it is about.
-    static void printFailure(const ConversionItem &item, const Failure &failure);
+    static void printFailure(const ConversionItem &item, const Outcome &outcome);
 };

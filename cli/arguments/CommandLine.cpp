@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "cli/CommandLine.h"
+#include "cli/arguments/CommandLine.h"
 
-#include "cli/Help.h"
-#include "cli/ShownText.h"
+#include "cli/arguments/Help.h"
+#include "cli/report/ShownText.h"
 #include "support/Configuration.h"
 #include "support/Format.h"
 #include "support/Localized.h"
@@ -67,7 +67,7 @@ void addOptions(QCommandLineParser &parser)
     }
 }
 
-Answer usageError(const QString &message)
+UsageText usageError(const QString &message)
 {
     const QString hint = localized(QT_TRANSLATE_NOOP3("Localizable",
         "Try 'video-converter-cli --help'.", "Command line: follows a message about wrong usage"));
@@ -87,7 +87,7 @@ std::vector<VideoConstraints> entriesNamed(const QString &name, Verb verb)
     return entries;
 }
 
-Answer unknownEntry(const QString &name)
+UsageText unknownEntry(const QString &name)
 {
     for (const QString &entry : entryNames()) {
         if (entry.compare(name, Qt::CaseInsensitive) == 0)
@@ -104,7 +104,7 @@ Answer unknownEntry(const QString &name)
             { printable(name) }));
 }
 
-std::optional<Answer> wrongOptions(const QCommandLineParser &parser, Verb verb)
+std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb verb)
 {
     const auto verbIndex = static_cast<std::size_t>(verb);
     for (const OptionRow &row : optionRows) {
@@ -125,7 +125,7 @@ std::optional<Answer> wrongOptions(const QCommandLineParser &parser, Verb verb)
     return std::nullopt;
 }
 
-QString wrongVideos(const CommandLine &line)
+QString wrongInputs(const CommandLine &line)
 {
     const auto count = line.inputs.size();
     switch (line.verb) {
@@ -174,7 +174,7 @@ CommandLine readLine(const QCommandLineParser &parser, Verb verb)
         .info = parser.value(nameOf(Option::Info)) };
 }
 
-std::variant<CommandLine, Answer> checkedLine(const QCommandLineParser &parser, Verb verb)
+std::variant<CommandLine, UsageText> checkedLine(const QCommandLineParser &parser, Verb verb)
 {
     if (const auto wrong = wrongOptions(parser, verb))
         return *wrong;
@@ -184,14 +184,14 @@ std::variant<CommandLine, Answer> checkedLine(const QCommandLineParser &parser, 
             "Localizable", "--to NAME is missing.", "Command line: wrong usage")));
     if (takesEntry(verb) && line.entries.empty())
         return unknownEntry(parser.value(nameOf(Option::To)));
-    if (const QString wrong = wrongVideos(line); !wrong.isEmpty())
+    if (const QString wrong = wrongInputs(line); !wrong.isEmpty())
         return usageError(wrong);
     return line;
 }
 
 }
 
-std::variant<CommandLine, Answer> parsedCommandLine(const QStringList &arguments)
+std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
@@ -199,13 +199,13 @@ std::variant<CommandLine, Answer> parsedCommandLine(const QStringList &arguments
     const QString name = parser.positionalArguments().value(0);
     const std::optional<Verb> verb = verbNamed(name);
     if (isSet(parser, Option::Help))
-        return Answer{ .text = verb ? Help::of(*verb) : Help::general() };
+        return UsageText{ .text = verb ? Help::of(*verb) : Help::general() };
     if (isSet(parser, Option::Version))
-        return Answer{ .text = u"video-converter-cli "_s + Configuration::version() };
+        return UsageText{ .text = u"video-converter-cli "_s + Configuration::version() };
     if (!understood)
         return usageError(printable(parser.errorText()));
     if (name.isEmpty())
-        return Answer{ .code = ExitCode::Usage, .text = Help::general() };
+        return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
     if (!verb)
         return usageError(
             formatted(localized(QT_TRANSLATE_NOOP3("Localizable",

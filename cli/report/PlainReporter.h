@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/Reporter.h"
+#include "cli/report/Reporter.h"
 
-class QJsonObject;
-
-/// One JSON object a line, each with an "event". What went wrong is also told on standard error.
-class JsonReporter : public Reporter {
+/// Lines for a log: progress about every tenth of the way.
+class PlainReporter : public Reporter {
 public:
     [[nodiscard]] std::chrono::milliseconds interval() const override;
     void started(const ConversionItem &item) override;
     void progressed(const ConversionItem &item, const ProgressSample &sample) override;
     void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) override;
-    void failed(const ConversionItem &item, const Failure &failure) override;
+    void failed(const ConversionItem &item, const Outcome &outcome) override;
     void summedUp(int converted, int all) override;
 
 private:
-    qint64 m_lastCompleted = -1;
+    qint64 m_lastStep = 0;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/ShownText.h"
+#include "cli/report/ShownText.h"
 
 #include <QRegularExpression>
 

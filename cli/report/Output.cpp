@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Output.h"
+#include "cli/report/Output.h"
 
-#include "cli/ShownText.h"
+#include "cli/report/ShownText.h"
+#include "support/Format.h"
 #include "support/Interruption.h"
+#include "support/Localized.h"
 
 #include <algorithm>
 #include <atomic>
@@ -73,10 +75,20 @@ void errorLine(const QString &text) { errorBytes(text.toUtf8() + '\n'); }
 
 void errorBytes(const QByteArray &bytes) { write(STDERR_FILENO, bytes); }
 
-ExitCode failure(const QString &file, const Failure &failure)
+QString reportedSentence(const Outcome &outcome)
 {
-    errorLine(printable(file) + u": "_s + failure.message);
-    return failure.code;
+    const QString sentence = printable(sentenceOf(outcome));
+    if (kindOf(outcome) != OutcomeKind::Incomplete)
+        return sentence;
+    return formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",
+                         "After: The converting progress was finished at 12s")),
+        { sentence });
+}
+
+ExitCode failure(const QString &file, const Outcome &outcome)
+{
+    errorLine(printable(file) + u": "_s + reportedSentence(outcome));
+    return exitCodeOf(kindOf(outcome));
 }
 
 bool hasFailed() { return failed; }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Diagnostics.h"
+#include "cli/report/Diagnostics.h"
 
-#include "cli/Output.h"
+#include "cli/report/Output.h"
 #include "support/Console.h"
 
 #include <QtGlobal>
@@ -35,7 +35,7 @@ void take()
 
 void show() { shown = true; }
 
-void tell(const QByteArray &output)
+void write(const QByteArray &output)
 {
     if (shown)
         Output::errorBytes(output);

@@ -30,11 +30,11 @@ struct CommandLine {
 };
 
 /// A text to show instead: help, or what is wrong with the command line.
-struct Answer {
+struct UsageText {
     ExitCode code = ExitCode::Done;
     QString text;
 };
 
 /// Reads the program's arguments, the first being the program's own name. Needs an application
 /// object.
-[[nodiscard]] std::variant<CommandLine, Answer> parsedCommandLine(const QStringList &arguments);
+[[nodiscard]] std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &arguments);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "cli/PlainReporter.h"
+#include "cli/report/PlainReporter.h"
 
-#include "cli/Output.h"
-#include "cli/ShownText.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "support/DurationInfo.h"
 #include "support/Format.h"
 #include "support/Localized.h"
@@ -32,9 +32,9 @@ void PlainReporter::converted(const ConversionItem &item, std::chrono::milliseco
             DurationInfo(elapsed / 1s).toString() }));
 }
 
-void PlainReporter::failed(const ConversionItem &item, const Failure &failure)
+void PlainReporter::failed(const ConversionItem &item, const Outcome &outcome)
 {
-    printFailure(item, failure);
+    printFailure(item, outcome);
 }
 
 void PlainReporter::summedUp(int converted, int all)

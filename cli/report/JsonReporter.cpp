@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "cli/JsonReporter.h"
+#include "cli/report/JsonReporter.h"
 
-#include "cli/Output.h"
+#include "cli/report/Output.h"
 #include "support/FileSystem.h"
 #include "support/Interruption.h"
 
@@ -59,12 +59,14 @@ void JsonReporter::converted(const ConversionItem &item, std::chrono::millisecon
         { u"elapsed"_s, static_cast<double>(elapsed.count()) / 1000 } });
 }
 
-void JsonReporter::failed(const ConversionItem &item, const Failure &failure)
+void JsonReporter::failed(const ConversionItem &item, const Outcome &outcome)
 {
-    print({ { u"event"_s, failure.code == ExitCode::Cancelled ? u"cancelled"_s : u"failed"_s },
-        { u"input"_s, item.path }, { u"output"_s, item.destPath },
-        { u"code"_s, exitStatus(failure.code) }, { u"message"_s, failure.message } });
-    printFailure(item, failure);
+    print(
+        { { u"event"_s, kindOf(outcome) == OutcomeKind::Cancelled ? u"cancelled"_s : u"failed"_s },
+            { u"input"_s, item.path }, { u"output"_s, item.destPath },
+            { u"code"_s, exitStatus(exitCodeOf(kindOf(outcome))) },
+            { u"message"_s, Output::reportedSentence(outcome) } });
+    printFailure(item, outcome);
 }
 
 void JsonReporter::summedUp(int converted, int all)

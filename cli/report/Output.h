@@ -16,8 +16,10 @@ void json(const QJsonDocument &document, QJsonDocument::JsonFormat format);
 void raw(const QString &text);
 void errorLine(const QString &text);
 void errorBytes(const QByteArray &bytes);
-/// Says what went wrong with a file; gives the code on.
-ExitCode failure(const QString &file, const Failure &failure);
+/// The sentence as the command prints it.
+[[nodiscard]] QString reportedSentence(const Outcome &outcome);
+/// Says what went wrong with a file; returns what the program ends with.
+ExitCode failure(const QString &file, const Outcome &outcome);
 
 /// Standard output did not take everything, for another reason than a reader that has gone.
 [[nodiscard]] bool hasFailed();

@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/PlainReporter.h"
+#include "cli/report/Reporter.h"
 
-/// A bar that moves in the terminal's last line.
-class TerminalReporter : public PlainReporter {
+class QJsonObject;
+
+/// One JSON object a line, each with an "event". What went wrong is also told on standard error.
+class JsonReporter : public Reporter {
 public:
     [[nodiscard]] std::chrono::milliseconds interval() const override;
     void started(const ConversionItem &item) override;
     void progressed(const ConversionItem &item, const ProgressSample &sample) override;
     void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) override;
-    void failed(const ConversionItem &item, const Failure &failure) override;
+    void failed(const ConversionItem &item, const Outcome &outcome) override;
+    void summedUp(int converted, int all) override;
+
+private:
+    qint64 m_lastCompleted = -1;
 };

@@ -12,6 +12,6 @@ void take();
 /// Sends further lines to standard error.
 void show();
 /// A tool's output as it stands. Thread: any.
-void tell(const QByteArray &output);
+void write(const QByteArray &output);
 
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "cli/ProgressLine.h"
+#include "cli/report/ProgressLine.h"
 
-#include "cli/ShownText.h"
+#include "cli/report/ShownText.h"
 #include "support/DurationInfo.h"
 #include "support/Format.h"
 #include "support/Localized.h"

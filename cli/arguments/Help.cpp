@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Help.h"
+#include "cli/arguments/Help.h"
 
 #include "support/Localized.h"
 

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// Why a video was refused, or how its conversion ended.
+enum class Reason {
+    Done,
+    // The source
+    NoSuchFile,
+    IsFolder,
+    PermissionDenied,
+    NotRegularFile,
+    EmptyFile,
+    NotMedia,
+    NoDuration,
+    NoSize,
+    TooShort,
+    SizeDiffers,
+    InfoNotReadable,
+    InfoNoJson,
+    // The destination
+    DestinationExists,
+    DestinationNotWritable,
+    DestinationIsFolder,
+    DestinationLeadsNowhere,
+    DestinationIsDevice,
+    DestinationIsSource,
+    DestinationIsOtherResult,
+    FolderMissing,
+    FolderIsFile,
+    FolderNotWritable,
+    // The tool
+    ToolMissing,
+    ToolFailed,
+    ToolKilled,
+    ToolSilent,
+    ToolStopped,
+    NoSpace,
+    QuotaExceeded,
+    FileTooLarge,
+    ReadOnlyDisk,
+    AccessDenied,
+    NoEncoder,
+    NoMuxer,
+    FileGone,
+    NameTooLong,
+    DiskError,
+    NoMemory,
+    NothingToConvert,
+    StreamNotTaken,
+    DamagedData,
+    // The result
+    Incomplete,
+    Cancelled,
+};
+
+/// What a reason means for whoever asked.
+enum class OutcomeKind {
+    Done,
+    InputRefused,
+    DestinationRefused,
+    ToolMissing,
+    Failed,
+    /// The result ends early, and is kept.
+    Incomplete,
+    Cancelled,
+};
+
+/// How the work on one video ended.
+struct Outcome {
+    Reason reason = Reason::Done;
+    /// Fills the sentence: a program's path, an encoder's or muxer's name, or the tool's own words.
+    QString detail = {};
+    /// Where an incomplete result ends.
+    qint64 seconds = 0;
+
+    bool operator==(const Outcome &) const = default;
+    [[nodiscard]] bool isDone() const { return reason == Reason::Done; }
+};
+
+/// Thread: any.
+[[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
+/// One sentence for the user, the same in the window and the command; empty when all is done.
+[[nodiscard]] QString sentenceOf(const Outcome &outcome);

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/Outcome.h"
+
+#include <optional>
+
+/// The tools in the application's bundle.
+enum class Tool { Ffmpeg, Ffprobe };
+
+/// Thread: any.
+[[nodiscard]] QString toolPath(Tool tool);
+/// What a tool that is not there, or can't be run, is refused with.
+[[nodiscard]] Outcome missingTool(Tool tool);
+/// Absent when the tool can be run.
+[[nodiscard]] std::optional<Outcome> toolRefusal(Tool tool);
