@@ -94,11 +94,6 @@
         <translation>%@؛ وقد احتُفظ بالجزء المحوَّل.</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>تعذّر تشغيل أداة تحويل الفيديو.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>مجلد الوجهة غير موجود.</translation>
@@ -169,39 +164,9 @@
         <translation>الملف فارغ.</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>لم يعد الملف موجودًا.</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>تعذّر تشغيل أداة فحص الفيديو.</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>الملف ليس مقطع فيديو، أو أنه تالف أو غير مكتمل.</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>لا يحدد الملف مدته.</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>تعذّر تحديد حجم الملف.</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>مدة الفيديو أقل من ثانية واحدة.</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ما زالت كتابة الملف جارية، أو لم تمكن قراءة سوى جزء منه.</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,57 +189,11 @@
         <translation>جودة MP4</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>الاستخدام: video-converter-cli COMMAND [OPTIONS]
-يحوّل مقاطع الفيديو.
-
-  formats   يسرد صيغ الإخراج التي يقبلها --to
-  probe     يصف مقطع فيديو
-  plan      يطبع سطر أوامر الأداة دون تشغيلها
-  convert   يحوّل مقاطع الفيديو
-
-لمعرفة المزيد عن أمر: video-converter-cli COMMAND --help. خيارات جميع الأوامر:
-  --json      يطبع JSON
-  --verbose   يطبع التشخيص ومخرجات الأداة كاملة في مجرى الأخطاء القياسي
-  -h, --help  يطبع هذه المساعدة
-  --version   يطبع الإصدار
-
-رمز الإنهاء: 0 تم، 1 فشل التحويل، 2 استخدام خاطئ، 3 رُفض الفيديو، 4 رُفضت الوجهة،
-5 الأدوات مفقودة، 128 + N أوقفته الإشارة N (130 بعد Ctrl-C).
-عند تحويل عدة مقاطع يكون رمز أول مقطع لم يُحوَّل.</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>الاستخدام: video-converter-cli formats [--json]
 يسرد صيغ الإخراج التي يقبلها --to: الأجهزة والصيغ ومستويات جودة MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli probe FILE [--json]
-يصف مقطع فيديو. مع --json: كل ما تذكره الأداة عنه (info) ومدته (duration, seconds)
-وحجم صورة الغلاف أو null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -296,32 +215,6 @@ Prints the tool&apos;s command line, quoted for a shell, without running it.
                    (- للإدخال القياسي) ويطبع فقط المعاملات التي
                    تعتمد عليه
   --json           يطبع كائنًا واحدًا: اسم صيغة الإخراج وقائمة المعاملات</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli convert --to NAME FILE -o OUT
-           video-converter-cli convert --to NAME FILE... -d FOLDER
-يحوّل مقاطع الفيديو واحدًا تلو الآخر. يوقفه Ctrl-C دون ترك ملف غير مكتمل.
-
-  --to NAME            صيغة الإخراج، إحدى الصيغ التي يسردها «formats»
-  -o, --output OUT     الملف المراد كتابته
-  -d, --folder FOLDER  المجلد المراد الكتابة فيه؛ تأخذ الملفات أسماء مقاطع الفيديو
-  --overwrite          يستبدل الملفات الموجودة، ولا يستبدل مقطعًا أصليًا أبدًا
-  --json               يطبع كائن JSON واحدًا في كل سطر
-
-يوضع الاسم الذي يبدأ بشَرطة بعد --، مثلًا:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -404,11 +297,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>استُنفدت حصة القرص.</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>لا يدعم قرص الوجهة ملفًا بهذا الحجم.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>قرص الوجهة للقراءة فقط.</translation>
@@ -429,11 +317,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>لا تستطيع الأداة المثبتة كتابة الصيغة %@.</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>لم يعد الفيديو أو مجلد الوجهة موجودًا.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>اسم الوجهة طويل جدًا.</translation>
@@ -449,24 +332,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>الذاكرة غير كافية.</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>لا يحتوي الفيديو على أي شيء تقبله صيغة الإخراج هذه.</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>لا يقبل المُرمِّز صورة الفيديو أو صوته كما هما.</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>لم تستجب الأداة لفترة طويلة فأُوقفت.</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>أُوقفت الأداة من الخارج.</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -507,11 +375,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>عدم الإرسال</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>لا يمكن أن تحل النتيجة محل الفيديو الأصلي.</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -717,6 +580,94 @@ Are you sure you want to continue?</source>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>ستحل النتيجة محل نتيجة أخرى من هذا التشغيل.</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

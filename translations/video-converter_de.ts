@@ -94,11 +94,6 @@
         <translation>%@; der bis dahin fertige Teil bleibt erhalten.</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Das Hilfsprogramm zum Konvertieren von Videos konnte nicht gestartet werden.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Der Zielordner existiert nicht.</translation>
@@ -169,39 +164,9 @@
         <translation>Die Datei ist leer.</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Die Datei ist nicht mehr vorhanden.</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Das Hilfsprogramm zum Analysieren von Videos konnte nicht gestartet werden.</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Die Datei ist kein Video, oder sie ist beschädigt oder unvollständig.</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Die Datei gibt ihre Dauer nicht an.</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Die Größe der Datei konnte nicht ermittelt werden.</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>Das Video ist kürzer als eine Sekunde.</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Die Datei wird noch geschrieben oder konnte nur teilweise gelesen werden.</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,58 +189,11 @@
         <translation>MP4-Qualität</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Aufruf: video-converter-cli BEFEHL [OPTIONEN]
-Konvertiert Videos.
-
-  formats   listet die Ausgabeformate für --to auf
-  probe     beschreibt ein Video
-  plan      gibt die Befehlszeile des Hilfsprogramms aus, ohne sie auszuführen
-  convert   konvertiert Videos
-
-„video-converter-cli BEFEHL --help“ sagt mehr zu einem Befehl. Alle Befehle kennen:
-  --json      gibt JSON aus
-  --verbose   gibt Diagnosen und alle Meldungen des Hilfsprogramms auf stderr aus
-  -h, --help  gibt diese Hilfe aus
-  --version   gibt die Version aus
-
-Rückgabewert: 0 fertig, 1 Konvertierung fehlgeschlagen, 2 falscher Aufruf, 3 Video
-abgelehnt, 4 Ziel abgelehnt, 5 Hilfsprogramme fehlen, 128 + N durch Signal N beendet
-(130 nach Strg+C).
-Bei mehreren Videos gilt der Wert des ersten, das nicht konvertiert wurde.</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>Aufruf: video-converter-cli formats [--json]
 Listet die Ausgabeformate für --to auf: Geräte, Formate und MP4-Qualitäten.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli probe DATEI [--json]
-Beschreibt ein Video. Mit --json: alle Angaben des Hilfsprogramms (info), die Dauer
-(duration, seconds) und die Größe des Titelbilds oder null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -299,33 +217,6 @@ auszuführen.
                      erstellten Datei (- für die Standardeingabe) und gibt nur die
                      davon abhängigen Argumente aus
   --json             gibt ein Objekt aus: Name des Ausgabeformats, Liste der Argumente</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli convert --to NAME DATEI -o AUSGABE
-        video-converter-cli convert --to NAME DATEI... -d ORDNER
-Konvertiert Videos nacheinander. Strg+C bricht ab und hinterlässt keine unfertige Datei.
-
-  --to NAME             das Ausgabeformat, eines von denen, die „formats“ auflistet
-  -o, --output AUSGABE  die Datei, die geschrieben wird
-  -d, --folder ORDNER   der Ordner, in den geschrieben wird; die Dateien werden nach
-                        den Videos benannt
-  --overwrite           ersetzt vorhandene Dateien, aber nie ein Ausgangsvideo
-  --json                gibt ein JSON-Objekt pro Zeile aus
-
-Ein Name mit einem Minus am Anfang gehört hinter --, zum Beispiel:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -408,11 +299,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Das Speicherkontingent ist erschöpft.</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Der Zieldatenträger unterstützt keine so großen Dateien.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>Der Zieldatenträger ist schreibgeschützt.</translation>
@@ -433,11 +319,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Das installierte Hilfsprogramm kann das Format %@ nicht schreiben.</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Das Video oder der Zielordner ist nicht mehr vorhanden.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>Der Name des Ziels ist zu lang.</translation>
@@ -453,24 +334,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Es war nicht genügend Arbeitsspeicher vorhanden.</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Das Video enthält nichts, was dieses Ausgabeformat aufnehmen kann.</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Der Encoder kann Bild oder Ton des Videos so nicht verarbeiten.</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>Das Hilfsprogramm hat zu lange nicht reagiert und wurde beendet.</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Das Hilfsprogramm wurde von außen beendet.</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -511,11 +377,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>Nicht senden</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>Das Ergebnis kann das Ausgangsvideo nicht ersetzen.</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -721,6 +582,94 @@ Möchten Sie wirklich fortfahren?</translation>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Das Ergebnis würde ein anderes dieses Aufrufs ersetzen.</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

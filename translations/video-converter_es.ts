@@ -94,11 +94,6 @@
         <translation>%@; se ha conservado lo convertido hasta ahí.</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>No se puede iniciar la herramienta que convierte los vídeos.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>La carpeta de destino no existe.</translation>
@@ -169,39 +164,9 @@
         <translation>El archivo está vacío.</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>El archivo ha desaparecido.</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>No se puede iniciar la herramienta que analiza los vídeos.</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>El archivo no es un vídeo, o está dañado o incompleto.</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>El archivo no indica su duración.</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>No se puede averiguar el tamaño del archivo.</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>El vídeo dura menos de un segundo.</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>El archivo aún se está escribiendo o solo se pudo leer en parte.</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,57 +189,11 @@
         <translation>Calidad MP4</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Uso: video-converter-cli COMANDO [OPCIONES]
-Convierte vídeos.
-
-  formats   enumera las salidas que admite --to
-  probe     describe un vídeo
-  plan      muestra la línea de comandos de la herramienta sin ejecutarla
-  convert   convierte vídeos
-
-video-converter-cli COMANDO --help explica un comando. Todos los comandos admiten:
-  --json      muestra JSON
-  --verbose   muestra en el error estándar diagnósticos y todo lo que dice la herramienta
-  -h, --help  muestra esta ayuda
-  --version   muestra la versión
-
-Estado de salida: 0 correcto, 1 falló una conversión, 2 uso incorrecto,
-3 vídeo rechazado, 4 destino rechazado, 5 faltan las herramientas, 128 + N detenido por
-la señal N (130 tras Ctrl-C). Con varios vídeos es el del primero que no se convirtió.</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>Uso: video-converter-cli formats [--json]
 Enumera las salidas que admite --to: dispositivos, formatos y calidades MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli probe ARCHIVO [--json]
-Describe un vídeo. Con --json: todo lo que la herramienta dice de él (info), su duración
-(duration, seconds) y el tamaño de su portada o null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -297,33 +216,6 @@ comandos, sin ejecutarla.
                        «probe --json» (- para la entrada estándar) y muestra solo los
                        argumentos que dependen de ella
   --json               muestra un objeto: nombre de la salida, lista de argumentos</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli convert --to NOMBRE ARCHIVO -o SALIDA
-     video-converter-cli convert --to NOMBRE ARCHIVO... -d CARPETA
-Convierte vídeos, uno tras otro. Ctrl-C detiene y no deja ningún archivo a medias.
-
-  --to NOMBRE           la salida, una de las que enumera «formats»
-  -o, --output SALIDA   el archivo en el que escribir
-  -d, --folder CARPETA  la carpeta en la que escribir; los archivos reciben los nombres
-                        de los vídeos
-  --overwrite           reemplaza los archivos existentes; nunca el vídeo original
-  --json                muestra un objeto JSON por línea
-
-Un nombre que empieza con un guion va después de --, como en:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -406,11 +298,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Se ha agotado la cuota de disco.</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>El disco de destino no admite un archivo tan grande.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>El disco de destino es de solo lectura.</translation>
@@ -431,11 +318,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>La herramienta instalada no puede escribir el formato %@.</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>El vídeo o la carpeta de destino han desaparecido.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>El nombre de destino es demasiado largo.</translation>
@@ -451,24 +333,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>No había memoria suficiente.</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>El vídeo no contiene nada que esta salida admita.</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>El codificador no admite la imagen o el sonido del vídeo tal como están.</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>La herramienta no dio señales durante demasiado tiempo y se detuvo.</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>La herramienta fue detenida desde fuera del programa.</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -509,11 +376,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>No enviar</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>El resultado no puede reemplazar al vídeo del que procede.</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -719,6 +581,94 @@ Are you sure you want to continue?</source>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>El resultado reemplazaría a otro de esta misma ejecución.</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -94,11 +94,6 @@
         <translation>%@&#xa0;; la partie déjà convertie a été conservée.</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Impossible de lancer l’outil de conversion des vidéos.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Le dossier de destination n’existe pas.</translation>
@@ -169,39 +164,9 @@
         <translation>Le fichier est vide.</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Le fichier a disparu.</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Impossible de lancer l’outil d’analyse des vidéos.</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Le fichier n’est pas une vidéo, ou il est endommagé ou incomplet.</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Le fichier n’indique pas sa durée.</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Impossible de déterminer la taille du fichier.</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>La vidéo dure moins d’une seconde.</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Le fichier est encore en cours d’écriture ou n’a pu être lu qu’en partie.</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,60 +189,11 @@
         <translation>Qualité MP4</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli COMMANDE [OPTIONS]
-Convertit des vidéos.
-
-  formats   donne la liste des formats de sortie pour --to
-  probe     décrit une vidéo
-  plan      affiche la ligne de commande de l’outil sans l’exécuter
-  convert   convertit des vidéos
-
-Pour en savoir plus sur une commande&#xa0;: video-converter-cli COMMANDE --help.
-Options de toutes les commandes&#xa0;:
-  --json      affiche du JSON
-  --verbose   affiche les diagnostics et tous les messages de l’outil sur la sortie
-              d’erreur
-  -h, --help  affiche cette aide
-  --version   affiche la version
-
-Code de retour&#xa0;: 0 terminé, 1 échec d’une conversion, 2 mauvaise utilisation, 3 vidéo
-refusée, 4 destination refusée, 5 outils absents, 128 + N arrêt par le signal N
-(130 après Ctrl-C).
-Pour plusieurs vidéos, c’est celui de la première qui n’a pas été convertie.</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>Utilisation&#xa0;: video-converter-cli formats [--json]
 Donne la liste des formats de sortie pour --to&#xa0;: appareils, formats et qualités MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli probe FICHIER [--json]
-Décrit une vidéo. Avec --json&#xa0;: tout ce qu’en dit l’outil (info), sa durée (duration,
-seconds) et la taille de sa vignette ou null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -299,32 +215,6 @@ Affiche la ligne de commande de l’outil, protégée pour un shell, sans l’ex
                        «&#xa0;probe --json&#xa0;» (- pour l’entrée standard) et n’affiche que
                        les arguments qui en dépendent
   --json               affiche un objet&#xa0;: nom du format de sortie, liste d’arguments</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli convert --to NOM FICHIER -o SORTIE
-              video-converter-cli convert --to NOM FICHIER... -d DOSSIER
-Convertit des vidéos l’une après l’autre. Ctrl-C arrête sans laisser de fichier inachevé.
-
-  --to NOM              le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;»
-  -o, --output SORTIE   le fichier à écrire
-  -d, --folder DOSSIER  le dossier où écrire&#xa0;; les fichiers prennent le nom des vidéos
-  --overwrite           remplace les fichiers existants, mais jamais une vidéo d’origine
-  --json                affiche un objet JSON par ligne
-
-Un nom qui commence par un tiret se place après --, par exemple&#xa0;:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -407,11 +297,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Le quota de disque est atteint.</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Le disque de destination n’accepte pas de fichier aussi volumineux.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>Le disque de destination est en lecture seule.</translation>
@@ -432,11 +317,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>L’outil installé ne peut pas écrire le format %@.</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>La vidéo ou le dossier de destination a disparu.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>Le nom de la destination est trop long.</translation>
@@ -452,24 +332,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>La mémoire est insuffisante.</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>La vidéo ne contient rien que ce format de sortie puisse recevoir.</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>L’encodeur n’accepte pas tels quels l’image ou le son de la vidéo.</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>L’outil est resté muet trop longtemps et a été arrêté.</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>L’outil a été arrêté de l’extérieur.</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -510,11 +375,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>Ne pas envoyer</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>Le résultat ne peut pas remplacer la vidéo d’origine.</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -720,6 +580,94 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Le résultat remplacerait un autre résultat de cette exécution.</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -94,11 +94,6 @@
         <translation>%@。そこまでの結果は残してあります。</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>動画を変換するツールを起動できません。</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>保存先のフォルダーがありません。</translation>
@@ -169,39 +164,9 @@
         <translation>ファイルが空です。</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ファイルがなくなりました。</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>動画を解析するツールを起動できません。</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ファイルが動画でないか、破損しているか、不完全です。</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ファイルに再生時間の情報がありません。</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ファイルのサイズを取得できません。</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>動画の長さが 1 秒未満です。</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>ファイルがまだ書き込み中か、一部しか読み取れませんでした。</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,58 +189,11 @@
         <translation>MP4 の画質</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>使い方: video-converter-cli コマンド [オプション]
-動画を変換します。
-
-  formats   --to に指定できる出力形式を一覧表示します
-  probe     動画の情報を表示します
-  plan      ツールのコマンドラインを実行せずに表示します
-  convert   動画を変換します
-
-各コマンドの詳細は「video-converter-cli コマンド --help」で表示されます。
-すべてのコマンドで使えるオプション:
-  --json      JSON で出力します
-  --verbose   診断情報とツールの全出力を標準エラー出力に表示します
-  -h, --help  このヘルプを表示します
-  --version   バージョンを表示します
-
-終了ステータス: 0 完了、1 変換に失敗、2 使い方の誤り、3 動画を拒否、4 保存先を拒否、
-5 ツールが見つからない、128 + N シグナル N により停止 (Ctrl-C の場合は 130)。
-動画が複数の場合は、変換されなかった最初の動画のステータスになります。</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>使い方: video-converter-cli formats [--json]
 --to に指定できる出力形式 (デバイス、形式、MP4 の画質) を一覧表示します。</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli probe ファイル [--json]
-動画の情報を表示します。--json を付けると、ツールが返すすべての情報 (info)、
-再生時間 (duration、seconds)、カバー画像のサイズまたは null (cover) を出力します。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -296,32 +214,6 @@ Prints the tool&apos;s command line, quoted for a shell, without running it.
   --info JSONファイル  「probe --json」で作ったファイル (- は標準入力) から動画の
                        情報を読み取り、それによって決まる引数だけを表示します
   --json               オブジェクトを 1 つ出力します (出力形式の名前と引数のリスト)</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli convert --to 名前 ファイル -o 出力先
-        video-converter-cli convert --to 名前 ファイル... -d フォルダー
-動画を順番に変換します。Ctrl-C で停止し、未完成のファイルは残りません。
-
-  --to 名前                「formats」の一覧にある出力形式の 1 つ
-  -o, --output 出力先      書き出すファイル
-  -d, --folder フォルダー  書き出すフォルダー (ファイル名は動画の名前になります)
-  --overwrite              既存のファイルを置き換えます (元の動画は置き換えません)
-  --json                   1 行に 1 つの JSON オブジェクトを出力します
-
-ダッシュで始まる名前は -- の後に指定します。例:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -404,11 +296,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>ディスクの割り当て容量を使い切りました。</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>保存先のディスクはこのサイズのファイルに対応していません。</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>保存先のディスクは読み取り専用です。</translation>
@@ -429,11 +316,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>インストールされているツールは形式 %@ で書き出せません。</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>動画または保存先のフォルダーがなくなりました。</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>保存先の名前が長すぎます。</translation>
@@ -449,24 +331,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>メモリーが足りませんでした。</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>この出力形式に変換できる内容が動画に含まれていません。</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>エンコーダーはこの動画の映像または音声をそのままでは処理できません。</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>ツールの応答が長時間なかったため、停止しました。</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>ツールがプログラムの外部から停止されました。</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -507,11 +374,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>送信しない</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>変換結果で元の動画を置き換えることはできません。</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -717,6 +579,94 @@ Are you sure you want to continue?</source>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>この実行の別の変換結果を置き換えてしまいます。</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -94,11 +94,6 @@
         <translation>%@; o que foi convertido até esse ponto foi mantido.</translation>
     </message>
     <message>
-        <source>The tool that converts videos can&apos;t be started.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>Não é possível iniciar a ferramenta que converte os vídeos.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s folder does not exist.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>A pasta de destino não existe.</translation>
@@ -169,39 +164,9 @@
         <translation>O arquivo está vazio.</translation>
     </message>
     <message>
-        <source>The file has gone.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>O arquivo desapareceu.</translation>
-    </message>
-    <message>
-        <source>The tool that examines videos can&apos;t be started.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Não é possível iniciar a ferramenta que analisa os vídeos.</translation>
-    </message>
-    <message>
-        <source>The file is no video, or it is damaged or incomplete.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>O arquivo não é um vídeo ou está danificado ou incompleto.</translation>
-    </message>
-    <message>
-        <source>The file does not tell how long it plays.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>O arquivo não informa a sua duração.</translation>
-    </message>
-    <message>
-        <source>The file&apos;s size can&apos;t be found out.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>Não é possível descobrir o tamanho do arquivo.</translation>
-    </message>
-    <message>
         <source>The video is shorter than one second.</source>
         <comment>Why a video can&apos;t be converted</comment>
         <translation>O vídeo dura menos de um segundo.</translation>
-    </message>
-    <message>
-        <source>The file is still being written, or could be read only in part.</source>
-        <comment>Why a video can&apos;t be converted</comment>
-        <translation>O arquivo ainda está sendo gravado ou só pôde ser lido em parte.</translation>
     </message>
     <message>
         <source>The tool %@ is missing or can&apos;t be run.</source>
@@ -224,57 +189,11 @@
         <translation>Qualidade MP4</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help tells more about a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos it is that of the first that was not converted.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Uso: video-converter-cli COMANDO [OPÇÕES]
-Converte vídeos.
-
-  formats   lista as saídas que --to aceita
-  probe     descreve um vídeo
-  plan      mostra a linha de comando da ferramenta sem executá-la
-  convert   converte vídeos
-
-video-converter-cli COMANDO --help explica um comando. Todos os comandos aceitam:
-  --json      mostra JSON
-  --verbose   mostra na saída de erro diagnósticos e tudo o que a ferramenta diz
-  -h, --help  mostra esta ajuda
-  --version   mostra a versão
-
-Código de saída: 0 concluído, 1 uma conversão falhou, 2 uso incorreto, 3 vídeo recusado,
-4 destino recusado, 5 faltam as ferramentas, 128 + N interrompido pelo sinal N
-(130 após Ctrl-C). Com vários vídeos, é o do primeiro que não foi convertido.</translation>
-    </message>
-    <message>
         <source>Usage: video-converter-cli formats [--json]
 Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
         <comment>Help of the headless command</comment>
         <translation>Uso: video-converter-cli formats [--json]
 Lista as saídas que --to aceita: dispositivos, formatos e qualidades MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: all that the tool says of it (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli probe ARQUIVO [--json]
-Descreve um vídeo. Com --json: tudo o que a ferramenta diz sobre ele (info), a duração
-(duration, seconds) e o tamanho da capa ou null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
@@ -296,32 +215,6 @@ Mostra a linha de comando da ferramenta, com aspas para um shell, sem executá-l
                        “probe --json” (- para a entrada padrão) e mostra somente os
                        argumentos que dependem dela
   --json               mostra um objeto: nome da saída, lista de argumentos</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli convert --to NOME ARQUIVO -o SAÍDA
-     video-converter-cli convert --to NOME ARQUIVO... -d PASTA
-Converte vídeos, um após o outro. Ctrl-C interrompe e não deixa nenhum arquivo inacabado.
-
-  --to NOME           a saída, uma das que “formats” lista
-  -o, --output SAÍDA  o arquivo a gravar
-  -d, --folder PASTA  a pasta onde gravar; os arquivos recebem os nomes dos vídeos
-  --overwrite         substitui arquivos existentes; nunca o próprio vídeo
-  --json              mostra um objeto JSON por linha
-
-Um nome que começa com hífen vem depois de --, como em:
-convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -404,11 +297,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>A cota de disco foi esgotada.</translation>
     </message>
     <message>
-        <source>The destination&apos;s disk does not take a file so large.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>O disco de destino não aceita um arquivo tão grande.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s disk is read-only.</source>
         <comment>Why a conversion failed</comment>
         <translation>O disco de destino é somente leitura.</translation>
@@ -429,11 +317,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>A ferramenta instalada não consegue gravar o formato %@.</translation>
     </message>
     <message>
-        <source>The video or the destination&apos;s folder has gone.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>O vídeo ou a pasta de destino desapareceu.</translation>
-    </message>
-    <message>
         <source>The destination&apos;s name is too long.</source>
         <comment>Why a conversion failed</comment>
         <translation>O nome do destino é longo demais.</translation>
@@ -449,24 +332,9 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <translation>Não havia memória suficiente.</translation>
     </message>
     <message>
-        <source>The video holds nothing that this output can take.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>O vídeo não contém nada que esta saída aceite.</translation>
-    </message>
-    <message>
-        <source>The encoder does not take the video&apos;s picture or sound as it is.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>O codificador não aceita a imagem ou o som do vídeo como estão.</translation>
-    </message>
-    <message>
         <source>The tool was silent for too long and was stopped.</source>
         <comment>Why a conversion failed</comment>
         <translation>A ferramenta ficou sem responder por tempo demais e foi interrompida.</translation>
-    </message>
-    <message>
-        <source>The tool was stopped from outside.</source>
-        <comment>Why a conversion failed</comment>
-        <translation>A ferramenta foi interrompida de fora do programa.</translation>
     </message>
     <message>
         <source>The video&apos;s data is damaged.</source>
@@ -507,11 +375,6 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>Don&apos;t Send</source>
         <comment>crash question, button</comment>
         <translation>Não enviar</translation>
-    </message>
-    <message>
-        <source>The result can&apos;t replace the video it is made from.</source>
-        <comment>Error message when source and destination are one file</comment>
-        <translation>O resultado não pode substituir o vídeo do qual é feito.</translation>
     </message>
     <message>
         <source>The converting progress was finished at %@</source>
@@ -717,6 +580,94 @@ Tem certeza de que deseja continuar?</translation>
         <source>The result would replace another one of this run.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>O resultado substituiria outro desta mesma execução.</translation>
+    </message>
+    <message>
+        <source>The file is not a video, or it is damaged or incomplete.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not say how long it plays.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the file is unknown.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is still being written, or only part of it could be read.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program stopped the tool.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result is too large for the destination&apos;s disk.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video or the destination&apos;s folder no longer exists.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The video contains nothing that this output can hold.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli COMMAND [OPTIONS]
+Converts videos.
+
+  formats   lists the outputs that --to takes
+  probe     describes a video
+  plan      prints the tool&apos;s command line without running it
+  convert   converts videos
+
+video-converter-cli COMMAND --help explains a command. All commands take:
+  --json      prints JSON
+  --verbose   prints diagnostics and the tool&apos;s full output to standard error
+  -h, --help  prints this help
+  --version   prints the version
+
+Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
+refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
+With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli probe FILE [--json]
+Describes a video. With --json: everything that the tool reports (info), its length
+(duration, seconds) and the size of its cover picture or null (cover).</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
+       video-converter-cli convert --to NAME FILE... -d FOLDER
+Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
+
+  --to NAME            the output, one of those that &apos;formats&apos; lists
+  -o, --output OUT     the file to write
+  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
+  --overwrite          replaces files that exist; a video itself is never replaced
+  --json               prints one JSON object a line
+
+A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
+        <comment>Help of the headless command</comment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -16,7 +16,7 @@ QString general()
         "  plan      prints the tool's command line without running it\n"
         "  convert   converts videos\n"
         "\n"
-        "video-converter-cli COMMAND --help tells more about a command. All commands take:\n"
+        "video-converter-cli COMMAND --help explains a command. All commands take:\n"
         "  --json      prints JSON\n"
         "  --verbose   prints diagnostics and the tool's full output to standard error\n"
         "  -h, --help  prints this help\n"
@@ -25,7 +25,7 @@ QString general()
         "Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 "
         "destination\n"
         "refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).\n"
-        "With several videos it is that of the first that was not converted.",
+        "With several videos, the first one that was not converted decides.",
         "Help of the headless command; words in capitals stand for what the user types"));
 }
 
@@ -40,7 +40,7 @@ QString of(Verb verb)
     case Verb::Probe:
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "Usage: video-converter-cli probe FILE [--json]\n"
-            "Describes a video. With --json: all that the tool says of it (info), its length\n"
+            "Describes a video. With --json: everything that the tool reports (info), its length\n"
             "(duration, seconds) and the size of its cover picture or null (cover).",
             "Help of the headless command"));
     case Verb::Plan:
@@ -59,7 +59,7 @@ QString of(Verb verb)
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "Usage: video-converter-cli convert --to NAME FILE -o OUT\n"
             "       video-converter-cli convert --to NAME FILE... -d FOLDER\n"
-            "Converts videos, one after the other. Ctrl-C stops and leaves no unfinished file.\n"
+            "Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.\n"
             "\n"
             "  --to NAME            the output, one of those that 'formats' lists\n"
             "  -o, --output OUT     the file to write\n"
