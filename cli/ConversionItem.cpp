@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The name, numbered until it differs from all others also where letter case does not count.
+/// The name, numbered until it differs from all others in more than letter case.
 QString uniqueName(const QString &base, const QString &ext, QSet<QString> &taken)
 {
     QString name = base + u'.' + ext;
@@ -42,7 +42,7 @@ std::vector<ConversionItem> conversionItems(const CommandLine &line)
 QString absolutePath(const QString &path)
 {
     static const QRegularExpression nothing(u"/(?:\\.?/)+"_s);
-    // A current folder that was removed has no path; without the dot "/" would stand in for it.
+    // A removed current folder has no path; without the dot the path would begin at the root.
     const QString folder = QDir::currentPath().isEmpty() ? u"."_s : QDir::currentPath();
     QString absolute = path.startsWith(u'/') ? path : folder + u'/' + path;
     return absolute.replace(nothing, u"/"_s);

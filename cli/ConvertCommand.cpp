@@ -19,7 +19,7 @@
 
 namespace {
 
-/// One conversion from its start to its end for good.
+/// One conversion, from its start until its tool is gone.
 class Conversion {
 public:
     Conversion(const ConversionItem &item, Reporter &reporter)
@@ -79,8 +79,7 @@ Outcome Conversion::outcome() const
     // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
     if (kind == OutcomeKind::Failed && Interruption::signal() != 0)
         return { Reason::Cancelled };
-    // The engine's diagnostics hold the output of a tool that failed, unless it can't be decoded as
-    // a whole.
+    // The engine prints the output of a failed tool itself, unless it can't be decoded.
     const QByteArray output = m_progress->toolOutput();
     if (kind == OutcomeKind::Incomplete
         || (kind == OutcomeKind::Failed && Text::stringValue(output).isEmpty()))
@@ -95,7 +94,7 @@ Outcome converted(const ConversionItem &item, const CommandLine &line, const Des
     destination.path = item.destPath;
     if (const auto refusal = refusalOf(destination))
         return *refusal;
-    // Without the check an older file would be gone before the tool is missed.
+    // A run whose tool can't be launched removes what stands at its destination.
     if (const auto refusal = toolRefusal(Tool::Ffmpeg))
         return *refusal;
     const auto video = examined(item.path, Cover::LeftOut, interruption);

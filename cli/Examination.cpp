@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Outlives the wait: the description may come after an interruption has ended that.
+/// Outlives the wait: the description may arrive after an interruption ended it.
 struct PendingDescription {
     std::variant<VideoDescription, Outcome> result;
     std::function<void()> wake;
@@ -48,7 +48,7 @@ std::variant<VideoDescription, Outcome> examined(
     if (Interruption::signal() == 0)
         loop.exec();
     pending->wake = nullptr;
-    // A tool that got the same Ctrl-C gives a refusal that says nothing about the video.
+    // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
     if (Interruption::signal() != 0)
         return Outcome{ Reason::Cancelled };
     return pending->result;

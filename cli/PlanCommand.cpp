@@ -20,7 +20,7 @@ namespace {
 
 constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 
-/// A media information as the tool prints it, or inside what 'probe --json' prints.
+/// Media information as the tool prints it, or as 'probe --json' wraps it.
 std::variant<JSON, Outcome> savedInfo(const QString &name)
 {
     QFile file(name);

@@ -42,7 +42,7 @@ void ConversionRun::run()
 {
     // Where the user keeps a link, what it leads to is written, and removed after a failure.
     m_job.destPath = linkTarget(m_job.destPath);
-    // Of a source as destination, the tool would empty it and the clean-up would remove it.
+    // The tool would empty a source that is its own destination, and the clean-up would remove it.
     if (const auto refusal
         = refusalOf({ .path = m_job.destPath, .sources = { m_job.path }, .overwrite = true })) {
         end(*refusal);
@@ -116,8 +116,7 @@ void ConversionRun::readChunk(const QByteArray &chunk)
     }
 }
 
-// A tool that ends well although more is left than the last step of its reports can explain has
-// stopped short.
+// A tool that ends well but leaves more than its last progress step can explain stopped short.
 void ConversionRun::judge(const Task &task)
 {
     if (m_progress->isCancelled())
@@ -144,8 +143,7 @@ void ConversionRun::finish(Task &task)
         m_progress->setCompletedUnitCount(m_progress->totalUnitCount());
         break;
     case OutcomeKind::Cancelled:
-        // A tool that is stopped in its first moments still creates its output, so it is gone
-        // before that is removed.
+        // A tool that is stopped while it starts still creates its output: wait for its end first.
         task.terminate();
         removeDestination();
         break;

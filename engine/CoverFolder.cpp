@@ -25,7 +25,7 @@ std::unique_ptr<QTemporaryDir> &folder()
     return directory;
 }
 
-// A process that was killed could not remove its folder.
+// A killed process could not remove its folder.
 void removeAbandonedFolders()
 {
     static const QRegularExpression ours(u"^video-converter-(\\d+)-\\w+$"_s);
@@ -52,7 +52,7 @@ namespace CoverFolder {
 QString uniqueImagePath()
 {
     const std::lock_guard lock(folderMutex);
-    // A folder that could not be made, or was swept from a shared place, is made anew.
+    // Some systems sweep their shared temporary folder: create ours again.
     if (!folder() || !QFileInfo::exists(folder()->path()))
         folder() = newFolder();
     if (!folder()->isValid())

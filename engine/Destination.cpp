@@ -81,7 +81,7 @@ std::optional<Outcome> refusalOf(const Destination &destination)
         return Outcome{ Reason::DestinationExists };
     if (!mayWrite(path, W_OK))
         return Outcome{ Reason::DestinationNotWritable };
-    // An unfinished file could not be removed.
+    // A partial result could not be removed from a read-only folder.
     return folderRefusal(Path::stringByDeletingLastPathComponent(linkTarget(path)));
 }
 
@@ -110,7 +110,7 @@ std::optional<Outcome> createResultFile(const QString &path)
         QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (fd >= 0)
         ::close(fd);
-    // The tool meets every other error too, and reports it.
+    // The tool runs into every other error as well, and reports it.
     return fd < 0 && errno == EEXIST ? std::optional(Outcome{ Reason::DestinationExists })
                                      : std::nullopt;
 }

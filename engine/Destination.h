@@ -18,21 +18,20 @@ struct Destination {
     bool overwrite = false;
 };
 
-/// Why no result may be written there; absent when one may. A link is followed: what it leads to
-/// is what would be replaced. Thread: any.
+/// Why no result may be written there; absent when one may. Links are followed. Thread: any.
 [[nodiscard]] std::optional<Outcome> refusalOf(const Destination &destination);
 /// Why no result may be written to a folder. Thread: any.
 [[nodiscard]] std::optional<Outcome> folderRefusal(const QString &folder);
 /// Refuses a destination that is one of the sources, whatever its spelling. Thread: any.
 [[nodiscard]] std::optional<Outcome> sourceRefusal(const Destination &destination);
 
-/// Creates the result's file, empty, so that of several programs that start together only one
-/// writes it. Refuses where another one was faster. Thread: any.
+/// Creates the result's file, empty, so that only one of several programs that start together
+/// writes it. Refuses when another one was faster. Thread: any.
 [[nodiscard]] std::optional<Outcome> createResultFile(const QString &path);
 
-/// Sole right of one run to write, and to remove, the file at a destination. A run that was
-/// cancelled may still be ending its tool when the user starts another to the same place: the
-/// second waits, so that the first does not remove its output. Thread: the run's.
+/// One run's sole right to write and to remove the file at a destination. A cancelled run may still
+/// be ending its tool when the user starts another one to the same place: the second waits, so that
+/// the first does not remove its output. Thread: the run's.
 class DestinationClaim {
 public:
     /// Waits until no other claim stands, or `givesUp` answers true (asked several times a second).

@@ -18,14 +18,12 @@ std::optional<qint64> DurationScanner::duration()
     if (m_decided || m_searched)
         return m_duration;
     m_searched = true;
-    // The range of a search has as many units as the text has characters, counted over the whole
-    // text.
+    // A search covers as many UTF-16 units as the whole text has characters.
     const qsizetype searchedEnd = std::max<qsizetype>(Text::characterCount(m_tail) - m_surplus, 0);
     const QStringView searched = Pattern::searchRange(m_tail, searchedEnd);
     const QRegularExpressionMatch match = ToolOutput::regexprDuration().match(searched);
     if (match.hasMatch()) {
-        // The first match stays the first however the text grows: when it holds no time ("N/A"), no
-        // later one counts.
+        // Only the first match counts, even when it holds no time ("N/A").
         m_decided = true;
         m_duration = ToolOutput::getFFMpegDuration(Pattern::substringFromCheckingResult(match, 1));
         m_tail.clear();
@@ -37,8 +35,7 @@ std::optional<qint64> DurationScanner::duration()
 
 void DurationScanner::dropSearchedLines(qsizetype searchedEnd)
 {
-    // A match lies within one line, and no character spans the end of one, so whole lines that were
-    // searched can go.
+    // A match lies within one line, so searched lines can go.
     const qsizetype lineStart = QStringView(m_tail).first(searchedEnd).lastIndexOf(u'\n') + 1;
     const QStringView dropped = QStringView(m_tail).first(lineStart);
     m_surplus += dropped.size() - Text::characterCount(dropped);

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The library's own limit of 128 megabytes refuses the covers of 8K videos.
+// Qt's own limit of 128 megabytes refuses covers of 8K videos.
 void allowLargeCovers() { QImageReader::setAllocationLimit(512); }
 
 Q_COREAPP_STARTUP_FUNCTION(allowLargeCovers)

@@ -14,10 +14,10 @@
 class Progress;
 struct Outcome;
 
-/// Whether a probe takes the video's cover, which costs a run of its own.
+/// Whether a probe takes a cover picture, which costs a second run of a tool.
 enum class Cover { Taken, LeftOut };
 
-/// Examines videos and converts them, each time by one run of a tool of the application's bundle.
+/// Examines and converts videos, each time by one run of a tool in the application's bundle.
 /// Thread: call on the main thread; every call returns at once. All handlers run on the main
 /// thread.
 class FFMPEG {
@@ -39,16 +39,14 @@ public:
         const std::function<void(const Outcome &)> &errorHandler,
         const InfoHandler &completionHandler, Cover cover = Cover::Taken);
 
-    /// Converts a probed video. The progress object is indeterminate until the tool tells the
-    /// length. Cancelling it stops the tool and removes the partly written output. Errors:
-    /// `errorHandler` runs at most once. A tool that can't be launched cancels the progress object
-    /// instead. A destination that is the source itself is refused: nothing is launched, nothing is
-    /// removed.
+    /// Converts a probed video. The progress object is indeterminate until the tool reports the
+    /// length. Cancelling it stops the tool and removes the partial output. Errors: `errorHandler`
+    /// runs at most once; a tool that can't be launched cancels the progress object instead. A
+    /// destination that must not be replaced is refused: nothing is launched, nothing is removed.
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
         const VideoConstraints &constraints, const JSON &conversionInfo,
         ConversionErrorHandler errorHandler);
-    /// Ends probes that still run and waits until every conversion is over. Called once, before the
-    /// program ends.
+    /// Ends running probes and waits for every conversion. Called once, before the program ends.
     static void shutDown();
 
 private:

@@ -12,8 +12,7 @@
 /// Thread: any.
 namespace MovieProbe {
 
-/// Why a file is not examined at all; absent when it is. A FIFO, for one, would make the tool wait
-/// for ever.
+/// Why a file is refused before a tool reads it, such as a FIFO, which would block the tool.
 [[nodiscard]] std::optional<Outcome> fileRefusal(const QString &path);
 /// Length of the video in whole seconds, or why it is refused. `sizeOnDisk` in bytes: a video that
 /// is still being written, or that the tool read only in part, differs from it. Errors: a length

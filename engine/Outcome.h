@@ -55,7 +55,7 @@ enum class Reason {
     Cancelled,
 };
 
-/// What a reason means for whoever asked.
+/// Groups of reasons, as an exit code or a window tells them apart.
 enum class OutcomeKind {
     Done,
     InputRefused,
@@ -81,5 +81,5 @@ struct Outcome {
 
 /// Thread: any.
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
-/// One sentence for the user, the same in the window and the command; empty when all is done.
+/// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);

@@ -11,16 +11,15 @@
 #include <mutex>
 #include <vector>
 
-/// How far a run has come, and the way to stop it.
+/// How far a run is, and the way to stop it.
 /// Units: whole seconds of media; the total is negative while the length is unknown.
 /// Thread: any. Observers run on the thread that writes, without a lock held; the cancellation
-/// handler runs on the thread that cancels, or at once where it is set on an object that is
-/// cancelled already.
+/// handler runs on the thread that cancels, or at once when it is set after that.
 class Progress {
 public:
     enum class Kind { Unspecified, File };
     enum class Key { FractionCompleted, CompletedUnitCount };
-    /// Recognises an observer again; the address of anything that outlives the registration.
+    /// Identifies an observer; the address of anything that outlives the registration.
     using Context = const void *;
     using Observer = std::function<void(Key)>;
 

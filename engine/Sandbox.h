@@ -9,10 +9,10 @@ struct ToolAccess {
     QStringList writableFolders;
 };
 
-/// Shuts a tool in before it starts, for videos are hostile input to its decoders: it reads and
+/// Confines a tool before it starts, because a video is hostile input to its decoders: it reads and
 /// writes only what it was granted, opens no socket, gains no privileges and leaves no core dump.
-/// Where the kernel offers no such thing, only the last two. Thread: one; enter() runs in the child
-/// between fork and exec and does nothing that is unsafe there.
+/// Without the kernel's help only the last two hold. Thread: one; enter() runs in the child between
+/// fork and exec and does nothing that is unsafe there.
 class Sandbox {
 public:
     Sandbox(const QString &toolPath, const ToolAccess &access);

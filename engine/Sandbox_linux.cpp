@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Rights that later kernels than this system's headers know.
+// Rights that are newer than this system's kernel headers.
 constexpr quint64 truncateFile = 1ULL << 14;
 constexpr quint64 deviceControl = 1ULL << 15;
 constexpr quint64 scopeAbstractSocketsAndSignals = 3;
@@ -101,13 +101,13 @@ constexpr sock_filter load(std::size_t offset)
     return BPF_STMT(BPF_LD | BPF_W | BPF_ABS, static_cast<quint32>(offset));
 }
 
-// Goes on to the next row when the loaded value differs, else skips `skipped` rows.
+// Skips `skipped` rows when the loaded value equals this one.
 constexpr sock_filter skipWhenEqual(long value, quint8 skipped)
 {
     return BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<quint32>(value), skipped, 0);
 }
 
-// Refuses sockets, also those made by way of an I/O ring or another architecture's system calls.
+// Refuses sockets, also through an I/O ring or another architecture's system calls.
 constexpr std::array socketFilter{
     load(offsetof(seccomp_data, arch)),
     skipWhenEqual(nativeArchitecture, 1),

@@ -9,8 +9,7 @@
 
 namespace {
 
-// Never destroyed: a thread's very last act, telling of its end, may come after the main thread has
-// seen the count.
+// Never destroyed: a thread signals its end after the main thread may have seen the count.
 struct Threads {
     std::mutex mutex;
     std::condition_variable changed;

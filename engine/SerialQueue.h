@@ -18,8 +18,7 @@ public:
     [[nodiscard]] const QString &label() const { return m_label; }
     void submit(std::function<void()> block);
 
-    /// Waits until no queue's thread is left. Whoever calls this must see to it that their blocks
-    /// come to an end.
+    /// Waits until no queue's thread is left; the caller makes sure that their blocks end.
     static void waitForAll();
 
 private:

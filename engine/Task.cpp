@@ -77,7 +77,7 @@ bool Task::tryLaunch(LaunchError *error)
             *error = { exception.name, 0, exception.reason };
         return false;
     } catch (...) {
-        // Whatever else is thrown says nothing of the launch.
+        // Anything else that is thrown says nothing about the launch.
     }
     if (error)
         *error = {};
@@ -94,8 +94,8 @@ QByteArray Task::availableData()
     const auto start = std::chrono::steady_clock::now();
     if (m_process.bytesAvailable() == 0)
         m_process.waitForReadyRead(waitMilliseconds);
-    // Many small pieces in quick succession are read together: each costs several system calls. A
-    // few, as at a tool's end, are not worth the wait.
+    // Each read costs several system calls: many small pieces in quick succession are read
+    // together.
     const auto now = std::chrono::steady_clock::now();
     m_quickPieces = now - m_lastOutput < 20ms ? m_quickPieces + 1 : 0;
     if (isRunning() && m_process.bytesAvailable() < smallPiece && m_quickPieces > 20) {
@@ -104,7 +104,7 @@ QByteArray Task::availableData()
     }
     QByteArray data = m_process.readAllStandardOutput();
     if (data.isEmpty()) {
-        // A longer wait tells that this program was stopped, by Ctrl-Z, and the tool with it.
+        // A longer wait means that Ctrl-Z stopped this program and the tool.
         m_silence += std::min<std::chrono::steady_clock::duration>(
             std::chrono::steady_clock::now() - start,
             std::chrono::milliseconds(2 * waitMilliseconds));
@@ -133,7 +133,7 @@ void Task::terminate()
     m_process.terminate();
     const auto patience = std::chrono::steady_clock::now() + 3s;
     bool killed = false;
-    // A tool that is blocked on a full pipe hears no SIGTERM, so its output goes on being drained.
+    // A tool that is blocked on a full pipe does not react to SIGTERM: keep draining its output.
     while (!m_process.waitForFinished(20) && m_process.state() != QProcess::NotRunning) {
         m_process.readAllStandardOutput();
         if (!killed && std::chrono::steady_clock::now() > patience) {

@@ -50,19 +50,18 @@ public:
 
     /// True until the exit has been noticed after the last output was read.
     [[nodiscard]] bool isRunning() const;
-    /// The next output. Waits for it for a moment only: empty when the tool is silent or has ended.
+    /// The next output; waits a moment for it. Empty when the tool is silent or has ended.
     [[nodiscard]] QByteArray availableData();
     /// All output until the tool ends. A tool that floods, is silent beyond the limit, or outlives
     /// stopReading() is ended.
     [[nodiscard]] QByteArray readDataToEndOfFile();
-    /// Ends the tool and waits for that: asks first, after three seconds kills it. Output that
-    /// still comes is dropped.
+    /// Ends the tool and waits for its end: SIGTERM, after three seconds SIGKILL. Drops its output.
     void terminate();
     /// Exit status; never 0 for a tool that died by a signal.
     [[nodiscard]] int terminationStatus() const;
     void closeFile();
 
-    /// The tool has said nothing for longer than the limit.
+    /// The tool has printed nothing for longer than the limit.
     [[nodiscard]] bool isSilentForTooLong() const;
     /// Units: seconds a tool may be silent; process-wide, 300 at first.
     static void setSilenceLimit(std::chrono::seconds limit);

@@ -10,7 +10,7 @@ enum class Tool { Ffmpeg, Ffprobe };
 
 /// Thread: any.
 [[nodiscard]] QString toolPath(Tool tool);
-/// What a tool that is not there, or can't be run, is refused with.
+/// The outcome of work whose tool is missing or can't be run.
 [[nodiscard]] Outcome missingTool(Tool tool);
 /// Absent when the tool can be run.
 [[nodiscard]] std::optional<Outcome> toolRefusal(Tool tool);

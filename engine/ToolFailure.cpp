@@ -18,8 +18,7 @@ struct FailureRow {
     Reason reason;
 };
 
-// The first row that any of the last lines fits is the reason: what comes later is often only its
-// consequence.
+// The first row that matches any of the last lines wins: later rows are often its consequences.
 // clang-format off
 constexpr std::array failureRows {
     FailureRow { u": No space left on device$", Reason::NoSpace },
@@ -46,13 +45,13 @@ constexpr qsizetype lastLines = 200;
 QStringList linesOf(const QByteArray &output)
 {
     static const QRegularExpression lineEnd(u"[\\r\\n]+"_s);
-    // Bytes that are no UTF-8 lose nothing but themselves here.
+    // Invalid UTF-8 becomes replacement characters; the rest of the line stays.
     QStringList lines = QString::fromUtf8(output.right(qsizetype{ 256 } * 1024))
                             .split(lineEnd, Qt::SkipEmptyParts);
     return lines.mid(std::max<qsizetype>(0, lines.size() - lastLines));
 }
 
-/// Closing words that come with every end or tell nothing of its reason.
+/// Closing lines that say nothing about the reason.
 bool isChatter(const QString &line)
 {
     static const QRegularExpression chatter(
@@ -60,7 +59,7 @@ bool isChatter(const QString &line)
     return chatter.match(line).hasMatch();
 }
 
-/// A tool that fails says something after its last report; one that is killed does not.
+/// A tool that fails prints something after its last report; a killed one does not.
 bool endsInTheMiddle(const QString &lastLine)
 {
     static const QRegularExpression report(u"^(frame|size)=.* time=|^Press \\[q\\]"_s);

@@ -21,11 +21,11 @@ namespace ToolOutput {
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
 /// Position in the last progress report of a block, in seconds.
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
-/// The tool says that the end of its result could not be written: a disk was full. Some versions
-/// end with status 0 even so. What the names of the files say is not taken for the tool's words.
+/// The tool reports that it could not write the end of its result, on a full disk for example; some
+/// versions still end with status 0. The names of the files are not taken for the tool's words.
 [[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);
-/// A block of output as text. Tags cut in the middle of a character make a block undecodable: then
-/// each line is decoded on its own, and only those that are broken are lost.
+/// A block of output as text. When it can't be decoded as a whole, because the tool cut a tag in
+/// the middle of a character, only the broken lines are lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
 
 }

@@ -12,7 +12,7 @@
 
 enum class Verb { Formats, Probe, Plan, Convert };
 
-/// What the program is asked to do; complete and free of contradictions.
+/// What the program is asked to do; complete and consistent.
 struct CommandLine {
     Verb verb = Verb::Formats;
     bool json = false;

@@ -3,8 +3,8 @@
 
 #include <QByteArray>
 
-/// Lines for developers, the engine's and the libraries'. They are dropped until they are asked
-/// for. Thread: the main thread, before others run.
+/// Lines for developers, from the engine and the libraries; dropped until show() is called.
+/// Thread: the main thread, before others run.
 namespace Diagnostics {
 
 /// Takes the lines from now on. Called first thing in main.

@@ -5,7 +5,7 @@
 
 class QJsonObject;
 
-/// One JSON object a line, each with an "event". What went wrong is also told on standard error.
+/// One JSON object a line, each with an "event". Failures also go to standard error.
 class JsonReporter : public Reporter {
 public:
     [[nodiscard]] std::chrono::milliseconds interval() const override;

@@ -20,7 +20,7 @@ namespace {
 
 std::atomic<bool> failed = false;
 
-// Once the program is to stop, nobody waits for a reader that does not read.
+// An interrupted program does not wait for a reader that does not read.
 bool isWritable(int descriptor)
 {
     struct pollfd output {
@@ -39,7 +39,7 @@ void write(int descriptor, const QByteArray &bytes)
                 return;
             continue;
         }
-        // A pipe that is ready takes so many bytes at once without blocking.
+        // A pipe that is ready takes this many bytes without blocking.
         const qsizetype count = std::min<qsizetype>(bytes.size() - done, 4096);
         const ssize_t written
             = ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(count));

@@ -21,10 +21,10 @@ void errorBytes(const QByteArray &bytes);
 /// Says what went wrong with a file; returns what the program ends with.
 ExitCode failure(const QString &file, const Outcome &outcome);
 
-/// Standard output did not take everything, for another reason than a reader that has gone.
+/// Standard output could not be written, other than because its reader has gone.
 [[nodiscard]] bool hasFailed();
 
-/// Columns of the terminal that standard output is; 0 when it is none that can move its cursor.
+/// Columns of the terminal at standard output; 0 when it is none that can move its cursor.
 [[nodiscard]] int terminalColumns();
 
 }

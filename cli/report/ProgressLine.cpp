@@ -49,7 +49,7 @@ std::optional<qint64> ProgressSample::secondsLeft() const
     if (!current || total < completed)
         return std::nullopt;
     const double seconds = std::ceil(static_cast<double>(total - completed) / *current);
-    // A crawling start is no ground for a forecast of years.
+    // A slow start is no reason to predict years.
     return seconds < 1e9 ? std::optional(static_cast<qint64>(seconds)) : std::nullopt;
 }
 
@@ -76,8 +76,7 @@ QString progressBar(const QString &video, const ProgressSample &sample, int colu
     const QString text = progressText(sample);
     const int nameWidth = std::clamp(columns / 4, 8, 24);
     const QString name = leftJustified(elided(printable(video), nameWidth), nameWidth);
-    // Room for a long text in the user's language, so that the bar keeps its width; the last column
-    // stays free.
+    // Leaves room for a long text, so that the bar keeps its width, and the last column free.
     const ProgressSample longest{ .completed = 1, .total = 86'400, .elapsed = 1s };
     const int barWidth = std::min(40, columns - nameWidth - columnsOf(progressText(longest)) - 4);
     if (barWidth < 8)

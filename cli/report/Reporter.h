@@ -7,7 +7,7 @@
 #include <chrono>
 #include <memory>
 
-/// Tells the user how conversions go.
+/// Shows the user how conversions go.
 /// Thread: the main thread.
 class Reporter {
 public:

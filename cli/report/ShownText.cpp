@@ -10,8 +10,7 @@ using namespace Qt::StringLiterals;
 
 QString printable(const QString &text)
 {
-    // Also the marks that turn the order of what follows; joiners and plain direction marks may
-    // stay.
+    // Bidirectional overrides go too; joiners and plain direction marks stay.
     static const QRegularExpression obeyed(
         uR"([\p{Cc}\p{Zl}\p{Zp}\x{202A}-\x{202E}\x{2066}-\x{2069}])"_s);
     return QString(text).replace(obeyed, u"?"_s);

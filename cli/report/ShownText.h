@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Texts from outside, made fit for a terminal or a shell.
+/// Makes texts from outside fit for a terminal or a shell.
 /// Thread: any.
 
 /// Without control characters, which a terminal would obey.
