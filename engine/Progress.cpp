@@ -8,45 +8,15 @@ Progress::Progress(qint64 totalUnitCount)
 {
 }
 
-Progress::Kind Progress::kind() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_kind;
-}
-
-void Progress::setKind(Kind kind)
-{
-    const std::lock_guard lock(m_mutex);
-    m_kind = kind;
-}
-
-qint64 Progress::totalUnitCount() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_totalUnitCount;
-}
-
 void Progress::setTotalUnitCount(qint64 count)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_totalUnitCount = count;
-    }
+    write(m_totalUnitCount, count);
     notify({ Key::FractionCompleted });
-}
-
-qint64 Progress::completedUnitCount() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_completedUnitCount;
 }
 
 void Progress::setCompletedUnitCount(qint64 count)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_completedUnitCount = count;
-    }
+    write(m_completedUnitCount, count);
     notify({ Key::FractionCompleted, Key::CompletedUnitCount });
 }
 
@@ -56,40 +26,6 @@ double Progress::fractionCompleted() const
     if (m_totalUnitCount <= 0)
         return 0;
     return static_cast<double>(m_completedUnitCount) / static_cast<double>(m_totalUnitCount);
-}
-
-bool Progress::isCancelled() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_cancelled;
-}
-
-void Progress::cancel()
-{
-    std::function<void()> handler;
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_cancelled)
-            return;
-        m_cancelled = true;
-        handler = std::move(m_cancellationHandler);
-        m_cancellationHandler = nullptr;
-    }
-    if (handler)
-        handler();
-}
-
-void Progress::setCancellationHandler(std::function<void()> handler)
-{
-    {
-        const std::lock_guard lock(m_mutex);
-        if (!m_cancelled) {
-            m_cancellationHandler = std::move(handler);
-            return;
-        }
-    }
-    if (handler)
-        handler();
 }
 
 void Progress::addObserver(Key key, Context context, Observer observer)
@@ -111,50 +47,6 @@ std::size_t Progress::observerCount() const
     return m_observers.size();
 }
 
-bool Progress::isEnded() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_ended;
-}
-
-void Progress::end()
-{
-    std::function<void()> handler;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_ended = true;
-        handler = std::move(m_endHandler);
-        m_endHandler = nullptr;
-    }
-    if (handler)
-        handler();
-}
-
-void Progress::setEndHandler(std::function<void()> handler)
-{
-    {
-        const std::lock_guard lock(m_mutex);
-        if (!m_ended) {
-            m_endHandler = std::move(handler);
-            return;
-        }
-    }
-    if (handler)
-        handler();
-}
-
-Outcome Progress::outcome() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_outcome;
-}
-
-QByteArray Progress::toolOutput() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_toolOutput;
-}
-
 void Progress::setOutcome(Outcome outcome, QByteArray toolOutput)
 {
     const std::lock_guard lock(m_mutex);
@@ -162,18 +54,38 @@ void Progress::setOutcome(Outcome outcome, QByteArray toolOutput)
     m_toolOutput = std::move(toolOutput);
 }
 
+void Progress::fire(Event &event)
+{
+    std::function<void()> handler;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (std::exchange(event.happened, true))
+            return;
+        handler = std::exchange(event.handler, nullptr);
+    }
+    if (handler)
+        handler();
+}
+
+void Progress::setHandler(Event &event, std::function<void()> handler)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!event.happened) {
+            event.handler = std::move(handler);
+            return;
+        }
+    }
+    if (handler)
+        handler();
+}
+
 void Progress::notify(std::initializer_list<Key> keys)
 {
     for (const Key key : keys) {
-        std::vector<Observer> observers;
-        {
-            const std::lock_guard lock(m_mutex);
-            for (const Registration &each : m_observers) {
-                if (each.key == key)
-                    observers.push_back(each.observer);
-            }
+        for (const Registration &each : read(m_observers)) {
+            if (each.key == key)
+                each.observer(key);
         }
-        for (const Observer &observer : observers)
-            observer(key);
     }
 }

@@ -9,6 +9,7 @@
 #include <functional>
 #include <initializer_list>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 /// How far a run is, and the way to stop it.
@@ -26,21 +27,24 @@ public:
     explicit Progress(qint64 totalUnitCount);
     Q_DISABLE_COPY_MOVE(Progress)
 
-    [[nodiscard]] Kind kind() const;
-    void setKind(Kind kind);
+    [[nodiscard]] Kind kind() const { return read(m_kind); }
+    void setKind(Kind kind) { write(m_kind, kind); }
 
-    [[nodiscard]] qint64 totalUnitCount() const;
+    [[nodiscard]] qint64 totalUnitCount() const { return read(m_totalUnitCount); }
     void setTotalUnitCount(qint64 count);
-    [[nodiscard]] qint64 completedUnitCount() const;
+    [[nodiscard]] qint64 completedUnitCount() const { return read(m_completedUnitCount); }
     void setCompletedUnitCount(qint64 count);
     /// Completed divided by total; 0 while the total is unknown or 0.
     [[nodiscard]] double fractionCompleted() const;
     [[nodiscard]] bool isIndeterminate() const { return totalUnitCount() < 0; }
 
-    [[nodiscard]] bool isCancelled() const;
+    [[nodiscard]] bool isCancelled() const { return read(m_cancellation.happened); }
     /// Cancels; the handler runs the first time.
-    void cancel();
-    void setCancellationHandler(std::function<void()> handler);
+    void cancel() { fire(m_cancellation); }
+    void setCancellationHandler(std::function<void()> handler)
+    {
+        setHandler(m_cancellation, std::move(handler));
+    }
 
     void addObserver(Key key, Context context, Observer observer);
     void removeObserver(Key key, Context context);
@@ -48,30 +52,46 @@ public:
     [[nodiscard]] std::size_t observerCount() const;
 
     /// The run is over for good: its tool is gone and its destination kept or removed.
-    [[nodiscard]] bool isEnded() const;
+    [[nodiscard]] bool isEnded() const { return read(m_end.happened); }
     /// Marks the end. Called once, by the run.
-    void end();
+    void end() { fire(m_end); }
     /// Runs at the end on the run's thread, or at once when the run has ended already.
-    void setEndHandler(std::function<void()> handler);
+    void setEndHandler(std::function<void()> handler) { setHandler(m_end, std::move(handler)); }
     /// How the run ended; set before its end is marked or an error is reported.
-    [[nodiscard]] Outcome outcome() const;
+    [[nodiscard]] Outcome outcome() const { return read(m_outcome); }
     /// Everything that the tool printed; set together with the outcome.
-    [[nodiscard]] QByteArray toolOutput() const;
+    [[nodiscard]] QByteArray toolOutput() const { return read(m_toolOutput); }
     void setOutcome(Outcome outcome, QByteArray toolOutput);
 
 private:
+    /// Happens at most once; its handler runs then, or at once when it is set later.
+    struct Event {
+        bool happened = false;
+        std::function<void()> handler;
+    };
+    void fire(Event &event);
+    void setHandler(Event &event, std::function<void()> handler);
     void notify(std::initializer_list<Key> keys);
+
+    template <class Value> Value read(const Value &member) const
+    {
+        const std::lock_guard lock(m_mutex);
+        return member;
+    }
+    template <class Value> void write(Value &member, Value value)
+    {
+        const std::lock_guard lock(m_mutex);
+        member = std::move(value);
+    }
 
     mutable std::mutex m_mutex;
     Kind m_kind = Kind::Unspecified;
     qint64 m_totalUnitCount;
     qint64 m_completedUnitCount = 0;
-    bool m_cancelled = false;
-    bool m_ended = false;
+    Event m_cancellation;
+    Event m_end;
     Outcome m_outcome;
     QByteArray m_toolOutput;
-    std::function<void()> m_cancellationHandler;
-    std::function<void()> m_endHandler;
     struct Registration {
         Key key;
         Context context;
