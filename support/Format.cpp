@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "support/Format.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+QString inLocaleDigits(qint64 number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number);
+}
+
 QString textOf(const FormatArgument &argument)
 {
     if (const auto *number = std::get_if<qint64>(&argument))
-        return QString::number(*number);
+        return inLocaleDigits(*number);
     return std::get<QString>(argument);
 }
 

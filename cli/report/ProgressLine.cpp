@@ -6,6 +6,8 @@
 #include "support/Format.h"
 #include "support/Localized.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -57,13 +59,13 @@ QString progressText(const ProgressSample &sample)
 {
     QStringList parts;
     if (const auto percent = sample.percent())
-        parts << QString::number(*percent).rightJustified(3) + u'%';
+        parts << QLocale().toString(*percent).rightJustified(3) + u'%';
     else
         parts << formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@ so far",
                                "Time that a conversion of unknown length has taken")),
             { DurationInfo(sample.elapsed / 1s).toString() });
     if (const auto speed = sample.speed())
-        parts << QString::number(*speed, 'f', *speed < 10 ? 1 : 0) + u'x';
+        parts << QLocale().toString(*speed, 'f', *speed < 10 ? 1 : 0) + u'x';
     if (const auto left = sample.secondsLeft())
         parts << formatted(localized(QT_TRANSLATE_NOOP3(
                                "Localizable", "%@ left", "Time that a conversion still needs")),
