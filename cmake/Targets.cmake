@@ -1,20 +1,26 @@
 # SPDX-License-Identifier: MIT
 
-# vc_library(<folder> [TARGET name] SOURCES ... [LINK ...])
-# A static library for one folder. Its headers are reached as "<folder>/Name.h" through an include folder that holds
-# nothing else, so an include that no arrow allows does not compile.
+# vc_library(<folder> [TARGET name] SOURCES ... [PUBLIC ...] [PRIVATE ...])
+# A static library for one folder. Its headers are reached as "<folder>/Name.h" through an include folder that holds links
+# to the listed ones and nothing else. PUBLIC is for the parts of Qt that the headers show. Folders are linked PRIVATE: a
+# target that uses this one sees no folder that it does not name itself.
 function(vc_library folder)
-    cmake_parse_arguments(ARG "" "TARGET" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "TARGET" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     if(NOT ARG_TARGET)
         string(REPLACE "/" "_" ARG_TARGET "vc_${folder}")
     endif()
     set(include_dir ${CMAKE_BINARY_DIR}/include/${ARG_TARGET})
-    get_filename_component(parent ${include_dir}/${folder} DIRECTORY)
-    file(MAKE_DIRECTORY ${parent})
-    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder} ${include_dir}/${folder} SYMBOLIC)
+    file(REMOVE_RECURSE ${include_dir})
+    foreach(header IN LISTS ARG_SOURCES)
+        if(header MATCHES "\\.h$")
+            get_filename_component(parent ${include_dir}/${folder}/${header} DIRECTORY)
+            file(MAKE_DIRECTORY ${parent})
+            file(CREATE_LINK ${CMAKE_SOURCE_DIR}/${folder}/${header} ${include_dir}/${folder}/${header} SYMBOLIC)
+        endif()
+    endforeach()
     add_library(${ARG_TARGET} STATIC ${ARG_SOURCES})
     target_include_directories(${ARG_TARGET} PUBLIC ${include_dir})
-    target_link_libraries(${ARG_TARGET} PUBLIC vc_options ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+    target_link_libraries(${ARG_TARGET} PUBLIC vc_options ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
 # vc_test(<name> SOURCES ... LINK ... [DISPLAY])
