@@ -3,7 +3,7 @@
 
 #include "support/Localized.h"
 #include "support/Text.h"
-#include "ui/AppDelegate.h"
+#include "ui/window/AppDelegate.h"
 #include "updates/Updater.h"
 
 #include <QAction>

@@ -7,7 +7,7 @@
 //             share of one core that the process used
 #include "engine/FFMPEG.h"
 #include "support/Console.h"
-#include "ui/AppDelegate.h"
+#include "ui/window/AppDelegate.h"
 
 #include <QAction>
 #include <QApplication>

@@ -5,7 +5,7 @@
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/ToolSwap.h"
 #include "tests/ui/User.h"
-#include "ui/AppDelegate.h"
+#include "ui/window/AppDelegate.h"
 #include "updates/Updater.h"
 
 #include <QDialog>

@@ -4,8 +4,8 @@
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/ToolSwap.h"
 #include "tests/ui/User.h"
-#include "ui/AppDelegate.h"
-#include "ui/DropBox.h"
+#include "ui/widgets/DropBox.h"
+#include "ui/window/AppDelegate.h"
 
 #include <QApplication>
 #include <QMenu>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
-#include "ui/Color.h"
-#include "ui/ConvertPopupButton.h"
-#include "ui/DropBox.h"
-#include "ui/ImageView.h"
-#include "ui/ProgressBar.h"
-#include "ui/ProposedName.h"
-#include "ui/SpinningView.h"
-#include "ui/TextField.h"
-#include "ui/TimeLeft.h"
+#include "ui/widgets/Color.h"
+#include "ui/widgets/ConvertPopupButton.h"
+#include "ui/widgets/DropBox.h"
+#include "ui/widgets/ImageView.h"
+#include "ui/widgets/ProgressBar.h"
+#include "ui/widgets/SpinningView.h"
+#include "ui/widgets/TextField.h"
+#include "ui/window/ProposedName.h"
+#include "ui/window/TimeLeft.h"
 
 #include <QDropEvent>
 #include <QFontDatabase>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "planning/VideoConstraints.h"
 #include "tests/ui/User.h"
-#include "ui/AppDelegate.h"
-#include "ui/DropBox.h"
-#include "ui/ImageView.h"
-#include "ui/SpinningView.h"
+#include "ui/widgets/DropBox.h"
+#include "ui/widgets/ImageView.h"
+#include "ui/widgets/SpinningView.h"
+#include "ui/window/AppDelegate.h"
 
 #include <QAccessible>
 #include <QMenu>

@@ -12,12 +12,12 @@
 #include "tests/fixtures/ToolSwap.h"
 #include "tests/ui/User.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
-#include "ui/AppDelegate.h"
-#include "ui/Appearance.h"
-#include "ui/DropBox.h"
-#include "ui/ImageView.h"
-#include "ui/ProgressBar.h"
-#include "ui/SpinningView.h"
+#include "ui/widgets/Appearance.h"
+#include "ui/widgets/DropBox.h"
+#include "ui/widgets/ImageView.h"
+#include "ui/widgets/ProgressBar.h"
+#include "ui/widgets/SpinningView.h"
+#include "ui/window/AppDelegate.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -283,9 +283,12 @@ private Q_SLOTS:
 
     void badFile_isRefused_data()
     {
-        addRows<Utf8>({ "name" },
-            { { "folder", "folder.mov" }, { "gone", "gone.mov" }, { "empty", "empty.mov" },
-                { "text", "text.mov" } });
+        addRows<Utf8, Utf8>({ "name", "sentence" },
+            { { "folder", "folder.mov", "This is a folder, not a video." },
+                { "gone", "gone.mov", "There is no such file." },
+                { "empty", "empty.mov", "The file is empty." },
+                { "text", "text.mov",
+                    "The file is not a video, or it is damaged or incomplete." } });
     }
     void badFile_isRefused()
     {
@@ -293,13 +296,18 @@ private Q_SLOTS:
         QDir(m_folder->path()).mkdir(u"folder.mov"_s);
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QFile text(path(u"text.mov"_s));
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no video at all\n") > 0);
+        QVERIFY(
+            text.open(QIODevice::WriteOnly) && text.write("no video at all\n") > 0 && text.flush());
         QVERIFY(open(u"video.mov"_s));
         QVERIFY(m_user->drop({ url(name) }));
         QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QCOMPARE(m_delegate->processingFilePath(), m_video);
+        auto *reason = m_user->find<QLabel>("refusalLabel");
+        QTRY_VERIFY(reason->isVisible() && !reason->text().isEmpty());
+        QTEST(reason->text(), "sentence");
         QVERIFY(open(u"video.mov"_s));
+        QVERIFY(!reason->isVisible() && reason->text().isEmpty());
     }
 
     void sheets_canBeLeft()
@@ -383,9 +391,12 @@ private Q_SLOTS:
     {
         using State = WindowUIState;
         addRows<QByteArray, Utf8, State>({ "script", "message", "state" },
-            { { "exit status", "sleep:50|exit:1", "Error processing 100%d %@.mov",
+            { { "exit status", "print:100%d of %@\\n|exit:1",
+                  "Error processing 100%d %@.mov\nThe tool failed: 100%d of %@",
                   State::InitialState },
-                { "signal", "signal:9", "Error processing 100%d %@.mov", State::InitialState },
+                { "signal", "signal:9",
+                    "Error processing 100%d %@.mov\nThe tool was killed before it was done.",
+                    State::InitialState },
                 { "stopped short", QByteArray(hundredSeconds) + "reports:10:10000|exit:0", "",
                     State::ConversionIsDone },
                 { "short after one report",
@@ -414,12 +425,13 @@ private Q_SLOTS:
     void lateFailure_namesItsOwnVideo()
     {
         QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
-        const auto swap
-            = convertWith(QByteArray(hundredSeconds) + "reports:100:100|sleep:1500|exit:1");
+        const auto swap = convertWith(
+            QByteArray(hundredSeconds) + "reports:100:100|sleep:1500|print:late\\n|exit:1");
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         ToolSwap::setScript("exit:0");
         QVERIFY(open(u"next.mov"_s));
-        QTRY_COMPARE(m_user->read, QStringList(u"Error processing video.mov"_s));
+        QTRY_COMPARE(
+            m_user->read, QStringList(u"Error processing video.mov\nThe tool failed: late"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
     }
 
@@ -431,6 +443,8 @@ private Q_SLOTS:
             m_user->names << u"result"_s;
             m_user->choose(u"MKV"_s);
             QVERIFY(waitFor(WindowUIState::InitialState));
+            const QString reason = m_user->find<QLabel>("refusalLabel")->text();
+            QVERIFY2(reason.contains(u"/ffmpeg/ffmpeg is missing"_s), qPrintable(reason));
             const ToolSwap probeSwap(u"ffprobe"_s, ToolSwap::With::UnexecutableFile);
             m_delegate->takeFiles({ m_video });
             QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/WindowUIState.h"
+#include "ui/window/WindowUIState.h"
 
 #include "ui_MainWindow.h"
 

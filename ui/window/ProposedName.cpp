@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ProposedName.h"
+#include "ui/window/ProposedName.h"
 
 #include "support/FileSystem.h"
 #include "support/Path.h"

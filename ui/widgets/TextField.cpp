@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ui/TextField.h"
+#include "ui/widgets/TextField.h"
 
-#include "ui/Clickable.h"
+#include "ui/widgets/Clickable.h"
 
 #include <QEvent>
 #include <QMouseEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Appearance.h"
+#include "ui/widgets/Appearance.h"
 
 #include <QApplication>
 #include <QStyle>

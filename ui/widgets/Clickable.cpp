@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "ui/Clickable.h"
+#include "ui/widgets/Clickable.h"
 
-#include "ui/ImageView.h"
-#include "ui/SpinningView.h"
-#include "ui/TextField.h"
+#include "ui/widgets/ImageView.h"
+#include "ui/widgets/SpinningView.h"
+#include "ui/widgets/TextField.h"
 
 #include <QAccessibleWidget>
 #include <QKeyEvent>

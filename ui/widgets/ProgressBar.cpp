@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ProgressBar.h"
+#include "ui/widgets/ProgressBar.h"
 
 #include <QPainter>
 #include <QTimer>

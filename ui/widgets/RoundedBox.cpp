@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/RoundedBox.h"
+#include "ui/widgets/RoundedBox.h"
 
 #include <QPainter>
 

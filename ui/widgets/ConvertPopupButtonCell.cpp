@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ConvertPopupButtonCell.h"
+#include "ui/widgets/ConvertPopupButtonCell.h"
 
 #include "support/Localized.h"
 

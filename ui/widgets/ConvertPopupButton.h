@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/ConvertPopupButtonCell.h"
+#include "ui/widgets/ConvertPopupButtonCell.h"
 
 #include <QPushButton>
 

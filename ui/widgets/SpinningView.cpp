@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/SpinningView.h"
+#include "ui/widgets/SpinningView.h"
 
 #include <QEvent>
 #include <QPainter>

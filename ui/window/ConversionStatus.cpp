@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ConversionStatus.h"
+#include "ui/window/ConversionStatus.h"
 
 #include "support/DurationInfo.h"
 #include "support/Format.h"

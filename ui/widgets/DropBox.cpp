@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/DropBox.h"
+#include "ui/widgets/DropBox.h"
 
 #include <QDropEvent>
 #include <QMimeData>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/TimeLeft.h"
+#include "ui/window/TimeLeft.h"
 
 #include <cmath>
 

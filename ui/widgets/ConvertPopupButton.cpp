@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ConvertPopupButton.h"
+#include "ui/widgets/ConvertPopupButton.h"
 
-#include "ui/Clickable.h"
+#include "ui/widgets/Clickable.h"
 
 #include <QEvent>
 #include <QMenu>

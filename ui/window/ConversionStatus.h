@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/TimeLeft.h"
-#include "ui/WindowUIState.h"
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/KeepAwake.h"
 #include "ui/desktop/LauncherProgress.h"
+#include "ui/window/TimeLeft.h"
+#include "ui/window/WindowUIState.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,29 +1,33 @@
 // SPDX-License-Identifier: MIT
-#include "ui/AppDelegate.h"
+#include "ui/window/AppDelegate.h"
 
 #include "analytics/Analytics.h"
-#include "engine/FFMPEG.h"
+#include "engine/Outcome.h"
+#include "planning/VideoConstraints.h"
 #include "support/Console.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Preferences.h"
 #include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
-#include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
-#include "ui/Clickable.h"
-#include "ui/ConversionStatus.h"
+#include "ui/widgets/Clickable.h"
+#include "ui/window/ConversionFlow.h"
+#include "ui/window/ConversionStatus.h"
+#include "ui/window/FileIntake.h"
+#include "ui/window/WindowClosing.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
 #include <QDesktopServices>
 #include <QFileOpenEvent>
 #include <QMimeData>
-#include <QPointer>
 #include <QScreen>
 #include <QUrl>
+
+#include <algorithm>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -31,19 +35,8 @@ namespace {
 
 constexpr auto fileNamesType = "text/uri-list"_L1;
 
-/// Absent unless every entry is a file of this machine.
-std::optional<QStringList> fileNames(const QMimeData *data)
-{
-    if (!data || !data->hasUrls())
-        return std::nullopt;
-    QStringList paths;
-    for (const QUrl &url : data->urls()) {
-        if (!url.isLocalFile())
-            return std::nullopt;
-        paths << url.toLocalFile();
-    }
-    return paths;
-}
+/// Some desktops mark a letter of a menu item as its key.
+QString title(const QAction *item) { return item->text().remove(u'&'); }
 
 /// What is hidden keeps its place, so that nothing jumps when the state changes.
 void keepPlaces(const QWidget &area)
@@ -68,6 +61,7 @@ void styleTexts(const Ui::MainWindow &outlets)
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
     outlets.openFromFolderLabel->setForegroundRole(QPalette::Link);
+    outlets.refusalLabel->setForegroundRole(QPalette::PlaceholderText);
     QFont headingFont = outlets.formatMenu->font();
     headingFont.setBold(true);
     for (QAction *heading :
@@ -90,6 +84,9 @@ AppDelegate::AppDelegate()
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->timeLeftLabel);
+    m_intake = std::make_unique<FileIntake>(&m_window);
+    m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
+    m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
     keepPlaces(*m_outlets->dropAcceptor);
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
@@ -101,36 +98,42 @@ AppDelegate::AppDelegate()
     Clickable::enable(m_outlets->openFolderImageView);
     connectOutlets();
     connectMenus();
+    connectWork();
     m_window.installEventFilter(this);
     qApp->installEventFilter(this);
 }
 
-AppDelegate::~AppDelegate()
-{
-    setProgress(nullptr);
-    // Nobody would see the rest of it.
-    if (m_run)
-        m_run->cancel();
-}
+AppDelegate::~AppDelegate() = default;
+
+QString AppDelegate::selectedFileExt() const { return m_intake->selectedFileExt(); }
+
+QString AppDelegate::processingFilePath() const { return m_intake->processingFilePath(); }
+
+QString AppDelegate::resultFilePath() const { return m_conversion->resultFilePath(); }
+
+QByteArray AppDelegate::lastToolOutput() const { return m_conversion->lastToolOutput(); }
 
 void AppDelegate::setUiState(WindowUIState state)
 {
     const WindowUIState former = m_uiState;
     m_uiState = state;
     applyWindowUIState(*m_outlets, state);
+    m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
+    m_outlets->refusalLabel->setVisible(state == WindowUIState::InitialState);
     showStateInMenus();
     if (state != former) {
         primaryControl(*m_outlets, state)->setFocus(Qt::OtherFocusReason);
         m_status->stateChanged(former, state);
         // The texts that go with the state are set after it.
-        QMetaObject::invokeMethod(this, &AppDelegate::announceState, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
     }
     Q_EMIT uiStateChanged(state);
 }
 
-void AppDelegate::announceState()
+void AppDelegate::announce(QWidget *outlet) const
 {
-    QAccessibleEvent event(spokenOutlet(*m_outlets, m_uiState), QAccessible::Alert);
+    QAccessibleEvent event(outlet, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -151,11 +154,12 @@ void AppDelegate::showStateInMenus()
 
 void AppDelegate::connectOutlets()
 {
-    connect(m_outlets->dropAcceptor, &DropBox::performDragOperation, this,
-        &AppDelegate::performDragOperation);
-    connect(m_outlets->openFromFolderLabel, &TextField::clicked, this, &AppDelegate::buttonPress);
-    connect(
-        m_outlets->openFolderImageView, &ImageView::clicked, this, &AppDelegate::openFolderClick);
+    connect(m_outlets->dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
+        &FileIntake::performDragOperation);
+    connect(m_outlets->openFromFolderLabel, &TextField::clicked, m_intake.get(),
+        &FileIntake::buttonPress);
+    connect(m_outlets->openFolderImageView, &ImageView::clicked, m_conversion.get(),
+        &ConversionFlow::openFolder);
     connect(m_outlets->cancelProgressImageView, &ImageView::clicked, this,
         &AppDelegate::cancelProgressPressed);
     connect(m_outlets->cancelProgressButton, &QPushButton::clicked, this,
@@ -164,7 +168,7 @@ void AppDelegate::connectOutlets()
         &AppDelegate::startOverButtonPressed);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
         if (m_uiState == WindowUIState::ConversionIsDone)
-            openFolderClick();
+            m_conversion->openFolder();
         else
             applicationShouldHandleReopen(m_window.isVisible());
     });
@@ -175,14 +179,48 @@ void AppDelegate::connectMenus()
     const Ui::MainWindow &outlets = *m_outlets;
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
-    connect(outlets.openAction, &QAction::triggered, this, &AppDelegate::buttonPress);
-    connect(outlets.pasteAction, &QAction::triggered, this, &AppDelegate::paste);
+    connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
+    connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
     connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
-    connect(outlets.revealAction, &QAction::triggered, this, &AppDelegate::openFolderClick);
+    connect(
+        outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
     connect(
         outlets.startOverAction, &QAction::triggered, this, &AppDelegate::startOverButtonPressed);
     connect(outlets.quitAction, &QAction::triggered, &m_window, &QWidget::close);
     connect(outlets.aboutAction, &QAction::triggered, this, &AppDelegate::showAboutWindow);
+}
+
+void AppDelegate::connectWork()
+{
+    connect(m_intake.get(), &FileIntake::started, this, [this] {
+        m_closing->stayOpen();
+        m_outlets->refusalLabel->clear();
+        setUiState(WindowUIState::WaitingForCover);
+    });
+    connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
+    connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
+        failWithUnsupported();
+        showRefusal(refusal);
+    });
+    connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
+    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
+        setUiState(WindowUIState::ConversionIsDone);
+        m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
+            Path::lastPathComponent(resultFilePath()));
+    });
+    connect(m_conversion.get(), &ConversionFlow::failed, this,
+        [this](const QString &message, bool isCurrent) {
+            if (isCurrent)
+                setUiState(WindowUIState::InitialState);
+            m_status->notify(m_window.windowTitle(), message);
+        });
+    connect(m_conversion.get(), &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
+        setUiState(WindowUIState::InitialState);
+        if (kindOf(outcome) == OutcomeKind::ToolMissing)
+            showRefusal(outcome);
+    });
+    connect(
+        m_conversion.get(), &ConversionFlow::ended, this, [this] { m_closing->closeIfAsked(); });
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -201,7 +239,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
-    stayOpen();
+    m_closing->stayOpen();
     if (!hasVisibleWindows || m_window.isMinimized())
         m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
@@ -213,7 +251,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &m_window && event->type() == QEvent::Close && !mayCloseNow()) {
+    if (watched == &m_window && event->type() == QEvent::Close && !m_closing->mayCloseNow()) {
         event->ignore();
         return true;
     }
@@ -226,56 +264,11 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-bool AppDelegate::isBlocked() const { return QApplication::activeModalWidget() != nullptr; }
+void AppDelegate::takeFiles(const QStringList &paths) { m_intake->takeFiles(paths); }
 
-void AppDelegate::takeFiles(const QStringList &paths)
+void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
 {
-    if (isBlocked() || paths.isEmpty() || !allowDragDrop(m_outlets->dropAcceptor))
-        return;
-    stayOpen();
-    Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
-    processFile(paths.constFirst());
-}
-
-void AppDelegate::performDragOperation(const QMimeData *data)
-{
-    if (const auto paths = fileNames(data))
-        takeFiles(*paths);
-}
-
-void AppDelegate::paste() { performDragOperation(QApplication::clipboard()->mimeData()); }
-
-void AppDelegate::buttonPress()
-{
-    if (isBlocked() || !allowDragDrop(m_outlets->dropAcceptor))
-        return;
-    Analytics::send(QString(), u"adding_video"_s, u"click"_s, true);
-    runChooseSheet(&m_window, true, [this](const QString &path) { processFile(path); });
-}
-
-void AppDelegate::processFile(const QString &path)
-{
-    setUiState(WindowUIState::WaitingForCover);
-    const QPointer<AppDelegate> self(this);
-    const auto isCurrent = [self, probe = ++m_probe] { return self && self->m_probe == probe; };
-    FFMPEG::collectMovieInfo(
-        path,
-        [self, isCurrent] {
-            if (isCurrent())
-                self->failWithUnsupported();
-        },
-        [self, isCurrent, path](const JSON &json, const QImage &cover, const QString &duration) {
-            if (isCurrent())
-                self->fileWasProbed(path, json, cover, duration);
-        });
-}
-
-void AppDelegate::fileWasProbed(
-    const QString &path, const JSON &json, const QImage &cover, const QString &duration)
-{
-    m_processingInfo = json;
-    m_processingFilePath = path;
-    m_selectedFileExt = Path::pathExtension(path);
+    const QString &path = m_intake->processingFilePath();
     setUiState(WindowUIState::CoverIsSet);
     m_outlets->movieCoverImageView->setImage(cover);
     m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
@@ -290,6 +283,37 @@ void AppDelegate::failWithUnsupported()
     setUiState(WindowUIState::InitialState);
     displayError(localized(QT_TRANSLATE_NOOP3(
         "Localizable", "Video not supported", "Error message 'Video not supported'")));
+}
+
+void AppDelegate::showRefusal(const Outcome &refusal)
+{
+    if (m_uiState != WindowUIState::InitialState)
+        return;
+    m_outlets->refusalLabel->setText(sentenceOf(refusal));
+    announce(m_outlets->refusalLabel);
+}
+
+void AppDelegate::rawFormatMenuItemPressed(const QAction *item)
+{
+    m_conversion->choose(videoConstraints(title(item), title(m_outlets->audioMenuItem),
+        title(m_outlets->mp4LowQualityMenuItem), title(m_outlets->mp4MeduimQualityMenuItem)));
+}
+
+void AppDelegate::updateProgress(double fraction)
+{
+    if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone)
+        setUiState(WindowUIState::Converting);
+    m_outlets->progressBar->setBusy(fraction < 0);
+    m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
+    m_status->setFraction(fraction);
+}
+
+void AppDelegate::cancelProgressPressed() { std::ignore = m_conversion->cancelIfConfirmed(); }
+
+void AppDelegate::startOverButtonPressed()
+{
+    Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
+    setUiState(WindowUIState::InitialState);
 }
 
 void AppDelegate::showAboutWindow()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ui/ImageView.h"
+#include "ui/widgets/ImageView.h"
 
-#include "ui/Clickable.h"
+#include "ui/widgets/Clickable.h"
 
 #include <QEvent>
 #include <QMouseEvent>

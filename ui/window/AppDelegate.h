@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/window/WindowUIState.h"
+
+#include <QImage>
+#include <QMainWindow>
+
+#include <memory>
+
+class ConversionFlow;
+class ConversionStatus;
+class FileIntake;
+class QAction;
+class QMimeData;
+class WindowClosing;
+struct Outcome;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// Owns the single window and its state: connects its controls with the intake of files, the
+/// conversion and the closing, and shows what they report. Thread: main.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    using WindowUIState = ::WindowUIState;
+
+    AppDelegate();
+    ~AppDelegate() override;
+    Q_DISABLE_COPY_MOVE(AppDelegate)
+
+    [[nodiscard]] QMainWindow *window() { return &m_window; }
+    [[nodiscard]] WindowUIState uiState() const { return m_uiState; }
+    /// Every assignment applies the state to the whole window.
+    void setUiState(WindowUIState state);
+    [[nodiscard]] QString selectedFileExt() const;
+    [[nodiscard]] QString processingFilePath() const;
+    [[nodiscard]] QString resultFilePath() const;
+    /// Everything that the tool of the last conversion printed.
+    [[nodiscard]] QByteArray lastToolOutput() const;
+
+    void applicationDidFinishLaunching();
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+    /// Files that came from anywhere but the open panel; taken only while drops are. Only the first
+    /// counts.
+    void takeFiles(const QStringList &paths);
+    void rawFormatMenuItemPressed(const QAction *item);
+
+Q_SIGNALS:
+    void uiStateChanged(AppDelegate::WindowUIState state);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void connectOutlets();
+    void connectMenus();
+    void connectWork();
+    void showStateInMenus();
+    void announce(QWidget *outlet) const;
+    void fileWasExamined(const QImage &cover, const QString &duration);
+    void failWithUnsupported();
+    void showRefusal(const Outcome &refusal);
+    void updateProgress(double fraction);
+    void cancelProgressPressed();
+    void startOverButtonPressed();
+    void showAboutWindow();
+
+    QMainWindow m_window;
+    std::unique_ptr<Ui::MainWindow> m_outlets;
+    std::unique_ptr<ConversionStatus> m_status;
+    std::unique_ptr<FileIntake> m_intake;
+    std::unique_ptr<ConversionFlow> m_conversion;
+    std::unique_ptr<WindowClosing> m_closing;
+    WindowUIState m_uiState = WindowUIState::InitialState;
+    bool m_aboutWindowIsSet = false;
+};

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "ui/window/ConversionFlow.h"
+
+#include "analytics/Analytics.h"
+#include "engine/Destination.h"
+#include "engine/FFMPEG.h"
+#include "planning/ConversionDescriptor.h"
+#include "support/Format.h"
+#include "support/Localized.h"
+#include "support/MainQueue.h"
+#include "support/Path.h"
+#include "support/dialogs/Alerts.h"
+#include "support/dialogs/Sheets.h"
+#include "ui/desktop/FileBrowser.h"
+#include "ui/window/FileIntake.h"
+#include "ui/window/ProposedName.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isBlocked() { return QApplication::activeModalWidget() != nullptr; }
+
+bool confirmsCancel()
+{
+    return !isBlocked()
+        && displayQuestion(localized(QT_TRANSLATE_NOOP3("Localizable",
+            "Attention! Current converting process will be cancelled.\nAre you sure you want to "
+            "continue?",
+            "Cancel progress alert message text")));
+}
+
+/// The engine's message is absent when the tool failed: then the outcome says why. As a part of a
+/// format, percent signs of the tool's own words count twice.
+std::optional<QString> messageOf(const std::optional<QString> &errmsg, const Outcome &outcome)
+{
+    return errmsg ? errmsg : sentenceOf(outcome).replace(u'%', u"%%"_s);
+}
+
+}
+
+ConversionFlow::ConversionFlow(QMainWindow &window, const FileIntake &intake)
+    : m_window(window)
+    , m_intake(intake)
+{
+}
+
+ConversionFlow::~ConversionFlow()
+{
+    setProgress(nullptr);
+    // Nobody would see the rest of it.
+    if (m_run)
+        m_run->cancel();
+}
+
+void ConversionFlow::choose(const std::optional<VideoConstraints> &constraints)
+{
+    if (constraints && m_intake.processingInfo() && !isBlocked())
+        askForDestination({ *constraints, conversionDescriptor(constraints->format).ext });
+}
+
+void ConversionFlow::askForDestination(const Choice &choice)
+{
+    const QString &source = m_intake.processingFilePath();
+    const QString folder = Path::stringByDeletingLastPathComponent(source);
+    runSaveToSheet(
+        &m_window, proposedName(source, saveFolder(folder), choice.ext), choice.ext,
+        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); },
+        folder);
+}
+
+void ConversionFlow::destinationWasChosen(const Choice &choice, const QString &destPath)
+{
+    if (sourceRefusal({ .path = destPath, .sources = { m_intake.processingFilePath() } })) {
+        displayError(
+            localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
+                "the chosen destination is the source file")),
+            localized(QT_TRANSLATE_NOOP3("Localizable",
+                "Choose another name or another folder for the result.",
+                "the chosen destination is the source file")));
+        askForDestination(choice);
+        return;
+    }
+    Analytics::send(QString(), u"convert"_s, u"from_to"_s,
+        QString(Path::pathExtension(destPath) + u'_' + choice.constraints.destDevice));
+    startConversion(destPath, choice.constraints);
+}
+
+void ConversionFlow::startConversion(const QString &destPath, const VideoConstraints &constraints)
+{
+    m_window.raise();
+    m_window.activateWindow();
+    m_resultFilePath = destPath;
+    const QPointer<ConversionFlow> self(this);
+    const QString path = m_intake.processingFilePath();
+    const auto run = std::make_shared<std::weak_ptr<Progress>>();
+    m_run = FFMPEG::convertFile(path, destPath, constraints, *m_intake.processingInfo(),
+        [self, path, run, source = m_intake.count()](const std::optional<QString> &errmsg) {
+            const std::shared_ptr<Progress> progress = run->lock();
+            // The tool may fail after its bar was full, when the window shows a later video.
+            if (self && progress)
+                self->failWhileConverting(
+                    path, messageOf(errmsg, progress->outcome()), source == self->m_intake.count());
+        });
+    *run = m_run;
+    setProgress(m_run);
+    m_run->setEndHandler(
+        [self] { MainQueue::post([self] { self ? Q_EMIT self->ended() : void(); }); });
+}
+
+void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
+{
+    const Progress::Context context = &m_convertObservationContext;
+    if (m_progress) {
+        for (const Progress::Key key : overalProgressObservedKeys)
+            m_progress->removeObserver(key, context);
+    }
+    m_progress = std::move(progress);
+    if (!m_progress)
+        return;
+    const std::shared_ptr<Progress> attached = m_progress;
+    const std::weak_ptr<Progress> object = attached;
+    const QPointer<ConversionFlow> self(this);
+    // Both run on whatever thread changes the object, so they only pass the news on.
+    for (const Progress::Key key : overalProgressObservedKeys) {
+        attached->addObserver(key, context, [self, context, object](Progress::Key) {
+            MainQueue::post([self, context, object] {
+                if (self)
+                    self->observeValueForKeyPath(context, object);
+            });
+        });
+    }
+    updateProgress();
+    attached->setCancellationHandler([self, object] {
+        if (!MainQueue::isMainThread())
+            MainQueue::post([self, object] { self ? self->progressWasCancelled(object) : void(); });
+        else if (self)
+            self->progressWasCancelled(object);
+    });
+}
+
+void ConversionFlow::observeValueForKeyPath(
+    Progress::Context context, const std::weak_ptr<Progress> &object)
+{
+    // News of an object that is no longer attached may still wait in the queue.
+    const std::shared_ptr<Progress> sender = object.lock();
+    if (context == &m_convertObservationContext && sender && sender == m_progress)
+        updateProgress();
+}
+
+void ConversionFlow::updateProgress()
+{
+    if (!m_progress)
+        return;
+    Q_EMIT progressed(m_progress->isIndeterminate() ? -1 : m_progress->fractionCompleted());
+    if (m_progress->completedUnitCount() != m_progress->totalUnitCount()
+        || !m_intake.processingInfo())
+        return;
+    setProgress(nullptr);
+    Q_EMIT finished();
+}
+
+void ConversionFlow::failWhileConverting(
+    const QString &path, const std::optional<QString> &errmsg, bool isCurrent)
+{
+    QString format = localized(QT_TRANSLATE_NOOP3(
+        "Localizable", "Error processing %@", "Error message on conversion failure"));
+    if (errmsg)
+        format += u'\n' + *errmsg;
+    const QString message = formatted(format, { Path::lastPathComponent(path) });
+    Q_EMIT failed(message, isCurrent);
+    ++m_alerts;
+    displayError(message);
+    --m_alerts;
+    Q_EMIT ended();
+}
+
+bool ConversionFlow::cancelIfConfirmed()
+{
+    if (!m_progress || !confirmsCancel())
+        return false;
+    Analytics::send(QString(), u"convert"_s, u"abort"_s, true);
+    // The conversion may have ended while the question stood.
+    if (const std::shared_ptr<Progress> progress = m_progress)
+        progress->cancel();
+    return true;
+}
+
+void ConversionFlow::cancelLastBytesIfConfirmed()
+{
+    if (isRunning() && !m_run->isCancelled() && confirmsCancel())
+        m_run->cancel();
+}
+
+void ConversionFlow::progressWasCancelled(const std::weak_ptr<Progress> &object)
+{
+    const std::shared_ptr<Progress> sender = object.lock();
+    if (!sender || sender != m_progress)
+        return;
+    QMetaObject::invokeMethod(
+        this, [this, sender] { Q_EMIT cancelled(sender->outcome()); }, Qt::QueuedConnection);
+    setProgress(nullptr);
+}
+
+void ConversionFlow::openFolder() const
+{
+    if (QFileInfo::exists(m_resultFilePath))
+        FileBrowser::reveal(m_resultFilePath);
+    else
+        FileBrowser::openFolder(Path::stringByDeletingLastPathComponent(m_resultFilePath));
+}
+
+QByteArray ConversionFlow::lastToolOutput() const
+{
+    return m_run ? m_run->toolOutput() : QByteArray();
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/Progress.h"
+#include "planning/VideoConstraints.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+class FileIntake;
+class QAction;
+
+/// Leads from the choice of an output to its result: asks for the destination, runs the conversion
+/// and follows it to its end. Thread: main.
+class ConversionFlow : public QObject {
+    Q_OBJECT
+
+public:
+    /// What the user picked in the format menu.
+    struct Choice {
+        VideoConstraints constraints;
+        QString ext;
+    };
+
+    ConversionFlow(QMainWindow &window, const FileIntake &intake);
+    ~ConversionFlow() override;
+    Q_DISABLE_COPY_MOVE(ConversionFlow)
+
+    void choose(const std::optional<VideoConstraints> &constraints);
+    /// Asks, then cancels the conversion that is shown. True when it is cancelled.
+    bool cancelIfConfirmed();
+    void cancelLastBytesIfConfirmed();
+    /// Reveals the result in the file browser.
+    void openFolder() const;
+
+    /// Full path of the last conversion's result.
+    [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
+    /// Everything that the tool of the last conversion printed.
+    [[nodiscard]] QByteArray lastToolOutput() const;
+    /// The window follows a conversion.
+    [[nodiscard]] bool isShown() const { return m_progress != nullptr; }
+    /// A tool runs, also while it writes its last bytes or its partial result is removed.
+    [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
+    /// A conversion ended, and its failure has been read.
+    [[nodiscard]] bool isOver() const { return m_alerts == 0 && m_run && m_run->isEnded(); }
+
+Q_SIGNALS:
+    /// A negative fraction while the length is unknown.
+    void progressed(double fraction);
+    void finished();
+    /// Emitted before the alert with this message is shown. Not current: the window already shows
+    /// another video.
+    void failed(const QString &message, bool isCurrent);
+    /// By the user, or because the tool could not be launched.
+    void cancelled(const Outcome &outcome);
+    /// The tool is gone and its failure, if any, has been read.
+    void ended();
+
+private:
+    void askForDestination(const Choice &choice);
+    void destinationWasChosen(const Choice &choice, const QString &destPath);
+    void startConversion(const QString &destPath, const VideoConstraints &constraints);
+    void setProgress(std::shared_ptr<Progress> progress);
+    void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
+    void updateProgress();
+    void progressWasCancelled(const std::weak_ptr<Progress> &object);
+    void failWhileConverting(
+        const QString &path, const std::optional<QString> &errmsg, bool isCurrent);
+
+    QMainWindow &m_window;
+    const FileIntake &m_intake;
+    QString m_resultFilePath;
+    /// Its address marks this object's observers.
+    int m_convertObservationContext = 0;
+    static constexpr std::array overalProgressObservedKeys{ Progress::Key::FractionCompleted,
+        Progress::Key::CompletedUnitCount };
+    std::shared_ptr<Progress> m_progress;
+    /// The last conversion, also after its bar is full: the tool may still write the last bytes.
+    std::shared_ptr<Progress> m_run;
+    int m_alerts = 0;
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/JSON.h"
+
+#include <QImage>
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+
+class QMimeData;
+class QWidget;
+struct Outcome;
+
+/// Takes one file in, by drop, paste, command line or the open panel, and has it examined.
+/// Thread: main.
+class FileIntake : public QObject {
+    Q_OBJECT
+
+public:
+    /// `window` owns the open panel.
+    explicit FileIntake(QWidget *window);
+
+    /// Files are taken only while this is set; further ones of several are left out.
+    void setOpen(bool open) { m_isOpen = open; }
+    /// Files that came from anywhere but the open panel.
+    void takeFiles(const QStringList &paths);
+    void performDragOperation(const QMimeData *data);
+    void paste();
+    /// Asks for a file.
+    void buttonPress();
+    void processFile(const QString &path);
+
+    /// The file that was examined last, with what the tool says about it.
+    [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
+    [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
+    [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
+    /// Counts the files that were taken in.
+    [[nodiscard]] int count() const { return m_count; }
+
+Q_SIGNALS:
+    void started();
+    void examined(const QImage &cover, const QString &duration);
+    void refused(const Outcome &refusal);
+
+private:
+    [[nodiscard]] bool isReady() const;
+
+    QWidget *m_window;
+    bool m_isOpen = false;
+    QString m_processingFilePath;
+    QString m_selectedFileExt;
+    std::optional<JSON> m_processingInfo;
+    /// Also tells an answer about an earlier file from the current one.
+    int m_count = 0;
+};
