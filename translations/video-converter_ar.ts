@@ -584,47 +584,47 @@ Are you sure you want to continue?</source>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>الملف ليس مقطع فيديو، أو أنه تالف أو غير مكتمل.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>لا يحدد الملف مدته.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديد حجم الملف.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>ما زالت كتابة الملف جارية، أو لم تمكن قراءة سوى جزء منه.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>أُوقفت الأداة من الخارج.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>لا يدعم قرص الوجهة ملفًا بهذا الحجم.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الفيديو أو مجلد الوجهة موجودًا.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>لا يحتوي الفيديو على أي شيء تقبله صيغة الإخراج هذه.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>لا يقبل المُرمِّز صورة الفيديو أو صوته كما هما.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -645,14 +645,32 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: video-converter-cli COMMAND [OPTIONS]
+يحوّل مقاطع الفيديو.
+
+  formats   يسرد صيغ الإخراج التي يقبلها --to
+  probe     يصف مقطع فيديو
+  plan      يطبع سطر أوامر الأداة دون تشغيلها
+  convert   يحوّل مقاطع الفيديو
+
+لمعرفة المزيد عن أمر: video-converter-cli COMMAND --help. خيارات جميع الأوامر:
+  --json      يطبع JSON
+  --verbose   يطبع التشخيص ومخرجات الأداة كاملة في مجرى الأخطاء القياسي
+  -h, --help  يطبع هذه المساعدة
+  --version   يطبع الإصدار
+
+رمز الإنهاء: 0 تم، 1 فشل التحويل، 2 استخدام خاطئ، 3 رُفض الفيديو، 4 رُفضت الوجهة،
+5 الأدوات مفقودة، 128 + N أوقفته الإشارة N (130 بعد Ctrl-C).
+عند تحويل عدة مقاطع يكون رمز أول مقطع لم يُحوَّل.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: video-converter-cli probe FILE [--json]
+يصف مقطع فيديو. مع --json: كل ما تذكره الأداة عنه (info) ومدته (duration, seconds)
+وحجم صورة الغلاف أو null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -667,7 +685,18 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>الاستخدام: video-converter-cli convert --to NAME FILE -o OUT
+           video-converter-cli convert --to NAME FILE... -d FOLDER
+يحوّل مقاطع الفيديو واحدًا تلو الآخر. يوقفه Ctrl-C دون ترك ملف غير مكتمل.
+
+  --to NAME            صيغة الإخراج، إحدى الصيغ التي يسردها «formats»
+  -o, --output OUT     الملف المراد كتابته
+  -d, --folder FOLDER  المجلد المراد الكتابة فيه؛ تأخذ الملفات أسماء مقاطع الفيديو
+  --overwrite          يستبدل الملفات الموجودة، ولا يستبدل مقطعًا أصليًا أبدًا
+  --json               يطبع كائن JSON واحدًا في كل سطر
+
+يوضع الاسم الذي يبدأ بشَرطة بعد --، مثلًا:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

@@ -586,47 +586,47 @@ Möchten Sie wirklich fortfahren?</translation>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist kein Video, oder sie ist beschädigt oder unvollständig.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei gibt ihre Dauer nicht an.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Größe der Datei konnte nicht ermittelt werden.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wird noch geschrieben oder konnte nur teilweise gelesen werden.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Hilfsprogramm wurde von außen beendet.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Der Zieldatenträger unterstützt keine so großen Dateien.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Video oder der Zielordner ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Das Video enthält nichts, was dieses Ausgabeformat aufnehmen kann.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Der Encoder kann Bild oder Ton des Videos so nicht verarbeiten.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -647,14 +647,33 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: video-converter-cli BEFEHL [OPTIONEN]
+Konvertiert Videos.
+
+  formats   listet die Ausgabeformate für --to auf
+  probe     beschreibt ein Video
+  plan      gibt die Befehlszeile des Hilfsprogramms aus, ohne sie auszuführen
+  convert   konvertiert Videos
+
+„video-converter-cli BEFEHL --help“ sagt mehr zu einem Befehl. Alle Befehle kennen:
+  --json      gibt JSON aus
+  --verbose   gibt Diagnosen und alle Meldungen des Hilfsprogramms auf stderr aus
+  -h, --help  gibt diese Hilfe aus
+  --version   gibt die Version aus
+
+Rückgabewert: 0 fertig, 1 Konvertierung fehlgeschlagen, 2 falscher Aufruf, 3 Video
+abgelehnt, 4 Ziel abgelehnt, 5 Hilfsprogramme fehlen, 128 + N durch Signal N beendet
+(130 nach Strg+C).
+Bei mehreren Videos gilt der Wert des ersten, das nicht konvertiert wurde.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: video-converter-cli probe DATEI [--json]
+Beschreibt ein Video. Mit --json: alle Angaben des Hilfsprogramms (info), die Dauer
+(duration, seconds) und die Größe des Titelbilds oder null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -669,7 +688,19 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: video-converter-cli convert --to NAME DATEI -o AUSGABE
+        video-converter-cli convert --to NAME DATEI... -d ORDNER
+Konvertiert Videos nacheinander. Strg+C bricht ab und hinterlässt keine unfertige Datei.
+
+  --to NAME             das Ausgabeformat, eines von denen, die „formats“ auflistet
+  -o, --output AUSGABE  die Datei, die geschrieben wird
+  -d, --folder ORDNER   der Ordner, in den geschrieben wird; die Dateien werden nach
+                        den Videos benannt
+  --overwrite           ersetzt vorhandene Dateien, aber nie ein Ausgangsvideo
+  --json                gibt ein JSON-Objekt pro Zeile aus
+
+Ein Name mit einem Minus am Anfang gehört hinter --, zum Beispiel:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

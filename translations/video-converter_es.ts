@@ -585,47 +585,47 @@ Are you sure you want to continue?</source>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no es un vídeo, o está dañado o incompleto.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no indica su duración.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>No se puede averiguar el tamaño del archivo.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>El archivo aún se está escribiendo o solo se pudo leer en parte.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>La herramienta fue detenida desde fuera del programa.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>El disco de destino no admite un archivo tan grande.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo o la carpeta de destino han desaparecido.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo no contiene nada que esta salida admita.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>El codificador no admite la imagen o el sonido del vídeo tal como están.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -646,14 +646,32 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli COMANDO [OPCIONES]
+Convierte vídeos.
+
+  formats   enumera las salidas que admite --to
+  probe     describe un vídeo
+  plan      muestra la línea de comandos de la herramienta sin ejecutarla
+  convert   convierte vídeos
+
+video-converter-cli COMANDO --help explica un comando. Todos los comandos admiten:
+  --json      muestra JSON
+  --verbose   muestra en el error estándar diagnósticos y todo lo que dice la herramienta
+  -h, --help  muestra esta ayuda
+  --version   muestra la versión
+
+Estado de salida: 0 correcto, 1 falló una conversión, 2 uso incorrecto,
+3 vídeo rechazado, 4 destino rechazado, 5 faltan las herramientas, 128 + N detenido por
+la señal N (130 tras Ctrl-C). Con varios vídeos es el del primero que no se convirtió.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli probe ARCHIVO [--json]
+Describe un vídeo. Con --json: todo lo que la herramienta dice de él (info), su duración
+(duration, seconds) y el tamaño de su portada o null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -668,7 +686,19 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli convert --to NOMBRE ARCHIVO -o SALIDA
+     video-converter-cli convert --to NOMBRE ARCHIVO... -d CARPETA
+Convierte vídeos, uno tras otro. Ctrl-C detiene y no deja ningún archivo a medias.
+
+  --to NOMBRE           la salida, una de las que enumera «formats»
+  -o, --output SALIDA   el archivo en el que escribir
+  -d, --folder CARPETA  la carpeta en la que escribir; los archivos reciben los nombres
+                        de los vídeos
+  --overwrite           reemplaza los archivos existentes; nunca el vídeo original
+  --json                muestra un objeto JSON por línea
+
+Un nombre que empieza con un guion va después de --, como en:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

@@ -584,47 +584,47 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas une vidéo, ou il est endommagé ou incomplet.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’indique pas sa durée.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de déterminer la taille du fichier.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est encore en cours d’écriture ou n’a pu être lu qu’en partie.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>L’outil a été arrêté de l’extérieur.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Le disque de destination n’accepte pas de fichier aussi volumineux.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo ou le dossier de destination a disparu.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>La vidéo ne contient rien que ce format de sortie puisse recevoir.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>L’encodeur n’accepte pas tels quels l’image ou le son de la vidéo.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -645,14 +645,35 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: video-converter-cli COMMANDE [OPTIONS]
+Convertit des vidéos.
+
+  formats   donne la liste des formats de sortie pour --to
+  probe     décrit une vidéo
+  plan      affiche la ligne de commande de l’outil sans l’exécuter
+  convert   convertit des vidéos
+
+Pour en savoir plus sur une commande&#xa0;: video-converter-cli COMMANDE --help.
+Options de toutes les commandes&#xa0;:
+  --json      affiche du JSON
+  --verbose   affiche les diagnostics et tous les messages de l’outil sur la sortie
+              d’erreur
+  -h, --help  affiche cette aide
+  --version   affiche la version
+
+Code de retour&#xa0;: 0 terminé, 1 échec d’une conversion, 2 mauvaise utilisation, 3 vidéo
+refusée, 4 destination refusée, 5 outils absents, 128 + N arrêt par le signal N
+(130 après Ctrl-C).
+Pour plusieurs vidéos, c’est celui de la première qui n’a pas été convertie.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: video-converter-cli probe FICHIER [--json]
+Décrit une vidéo. Avec --json&#xa0;: tout ce qu’en dit l’outil (info), sa durée (duration,
+seconds) et la taille de sa vignette ou null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -667,7 +688,18 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: video-converter-cli convert --to NOM FICHIER -o SORTIE
+              video-converter-cli convert --to NOM FICHIER... -d DOSSIER
+Convertit des vidéos l’une après l’autre. Ctrl-C arrête sans laisser de fichier inachevé.
+
+  --to NOM              le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;»
+  -o, --output SORTIE   le fichier à écrire
+  -d, --folder DOSSIER  le dossier où écrire&#xa0;; les fichiers prennent le nom des vidéos
+  --overwrite           remplace les fichiers existants, mais jamais une vidéo d’origine
+  --json                affiche un objet JSON par ligne
+
+Un nom qui commence par un tiret se place après --, par exemple&#xa0;:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

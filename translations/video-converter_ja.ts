@@ -583,47 +583,47 @@ Are you sure you want to continue?</source>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが動画でないか、破損しているか、不完全です。</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに再生時間の情報がありません。</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>ファイルのサイズを取得できません。</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>ファイルがまだ書き込み中か、一部しか読み取れませんでした。</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>ツールがプログラムの外部から停止されました。</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>保存先のディスクはこのサイズのファイルに対応していません。</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>動画または保存先のフォルダーがなくなりました。</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>この出力形式に変換できる内容が動画に含まれていません。</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>エンコーダーはこの動画の映像または音声をそのままでは処理できません。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -644,14 +644,33 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>使い方: video-converter-cli コマンド [オプション]
+動画を変換します。
+
+  formats   --to に指定できる出力形式を一覧表示します
+  probe     動画の情報を表示します
+  plan      ツールのコマンドラインを実行せずに表示します
+  convert   動画を変換します
+
+各コマンドの詳細は「video-converter-cli コマンド --help」で表示されます。
+すべてのコマンドで使えるオプション:
+  --json      JSON で出力します
+  --verbose   診断情報とツールの全出力を標準エラー出力に表示します
+  -h, --help  このヘルプを表示します
+  --version   バージョンを表示します
+
+終了ステータス: 0 完了、1 変換に失敗、2 使い方の誤り、3 動画を拒否、4 保存先を拒否、
+5 ツールが見つからない、128 + N シグナル N により停止 (Ctrl-C の場合は 130)。
+動画が複数の場合は、変換されなかった最初の動画のステータスになります。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>使い方: video-converter-cli probe ファイル [--json]
+動画の情報を表示します。--json を付けると、ツールが返すすべての情報 (info)、
+再生時間 (duration、seconds)、カバー画像のサイズまたは null (cover) を出力します。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -666,7 +685,18 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>使い方: video-converter-cli convert --to 名前 ファイル -o 出力先
+        video-converter-cli convert --to 名前 ファイル... -d フォルダー
+動画を順番に変換します。Ctrl-C で停止し、未完成のファイルは残りません。
+
+  --to 名前                「formats」の一覧にある出力形式の 1 つ
+  -o, --output 出力先      書き出すファイル
+  -d, --folder フォルダー  書き出すフォルダー (ファイル名は動画の名前になります)
+  --overwrite              既存のファイルを置き換えます (元の動画は置き換えません)
+  --json                   1 行に 1 つの JSON オブジェクトを出力します
+
+ダッシュで始まる名前は -- の後に指定します。例:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

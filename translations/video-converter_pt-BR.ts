@@ -584,47 +584,47 @@ Tem certeza de que deseja continuar?</translation>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo não é um vídeo ou está danificado ou incompleto.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo não informa a sua duração.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível descobrir o tamanho do arquivo.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>O arquivo ainda está sendo gravado ou só pôde ser lido em parte.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>A ferramenta foi interrompida de fora do programa.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>O disco de destino não aceita um arquivo tão grande.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>O vídeo ou a pasta de destino desapareceu.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>O vídeo não contém nada que esta saída aceite.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>O codificador não aceita a imagem ou o som do vídeo como estão.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -645,14 +645,32 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli COMANDO [OPÇÕES]
+Converte vídeos.
+
+  formats   lista as saídas que --to aceita
+  probe     descreve um vídeo
+  plan      mostra a linha de comando da ferramenta sem executá-la
+  convert   converte vídeos
+
+video-converter-cli COMANDO --help explica um comando. Todos os comandos aceitam:
+  --json      mostra JSON
+  --verbose   mostra na saída de erro diagnósticos e tudo o que a ferramenta diz
+  -h, --help  mostra esta ajuda
+  --version   mostra a versão
+
+Código de saída: 0 concluído, 1 uma conversão falhou, 2 uso incorreto, 3 vídeo recusado,
+4 destino recusado, 5 faltam as ferramentas, 128 + N interrompido pelo sinal N
+(130 após Ctrl-C). Com vários vídeos, é o do primeiro que não foi convertido.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli probe ARQUIVO [--json]
+Descreve um vídeo. Com --json: tudo o que a ferramenta diz sobre ele (info), a duração
+(duration, seconds) e o tamanho da capa ou null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -667,7 +685,18 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Uso: video-converter-cli convert --to NOME ARQUIVO -o SAÍDA
+     video-converter-cli convert --to NOME ARQUIVO... -d PASTA
+Converte vídeos, um após o outro. Ctrl-C interrompe e não deixa nenhum arquivo inacabado.
+
+  --to NOME           a saída, uma das que “formats” lista
+  -o, --output SAÍDA  o arquivo a gravar
+  -d, --folder PASTA  a pasta onde gravar; os arquivos recebem os nomes dos vídeos
+  --overwrite         substitui arquivos existentes; nunca o próprio vídeo
+  --json              mostra um objeto JSON por linha
+
+Um nome que começa com hífen vem depois de --, como em:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

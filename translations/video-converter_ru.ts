@@ -584,47 +584,47 @@ Are you sure you want to continue?</source>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Файл не является видео, повреждён или неполон.</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>В файле не указана его длительность.</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось определить размер файла.</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>Файл ещё записывается, или его удалось прочитать лишь частично.</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Утилита была остановлена извне.</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Диск назначения не поддерживает файлы такого размера.</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Видео или папка назначения больше не существует.</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>В видео нет ничего, что можно сохранить в этом формате.</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>Кодировщик не принимает изображение или звук видео в исходном виде.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -645,14 +645,33 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>Использование: video-converter-cli КОМАНДА [ПАРАМЕТРЫ]
+Конвертирует видео.
+
+  formats   выводит список форматов для --to
+  probe     описывает видео
+  plan      выводит командную строку утилиты, не запуская её
+  convert   конвертирует видео
+
+Подробнее о команде: video-converter-cli КОМАНДА --help. Параметры для всех команд:
+  --json      выводит данные в формате JSON
+  --verbose   выводит диагностику и весь вывод утилиты в стандартный поток ошибок
+  -h, --help  выводит эту справку
+  --version   выводит версию
+
+Код завершения: 0&#xa0;— готово, 1&#xa0;— сбой конвертации, 2&#xa0;— неверный вызов, 3&#xa0;— видео
+не принято, 4&#xa0;— место назначения не принято, 5&#xa0;— нет утилит, 128 + N&#xa0;— остановка
+по сигналу N (130 после Ctrl-C).
+Для нескольких видео это код первого из тех, что не удалось конвертировать.</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Использование: video-converter-cli probe ФАЙЛ [--json]
+Описывает видео. С --json: все сведения, полученные от утилиты (info), длительность
+(duration, seconds) и размер обложки или null (cover).</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -667,7 +686,19 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>Использование: video-converter-cli convert --to ИМЯ ФАЙЛ -o РЕЗУЛЬТАТ
+               video-converter-cli convert --to ИМЯ ФАЙЛ... -d ПАПКА
+Конвертирует видео одно за другим. Ctrl-C останавливает работу, не оставляя
+незаконченных файлов.
+
+  --to ИМЯ                формат из списка команды «formats»
+  -o, --output РЕЗУЛЬТАТ  файл для записи
+  -d, --folder ПАПКА      папка для записи; файлы получают имена исходных видео
+  --overwrite             заменяет существующие файлы, но никогда&#xa0;— исходное видео
+  --json                  выводит по одному объекту JSON в строке
+
+Имя, которое начинается с дефиса, указывается после --, например:
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>

@@ -583,47 +583,47 @@ Are you sure you want to continue?</source>
     <message>
         <source>The file is not a video, or it is damaged or incomplete.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>该文件不是视频，或者已损坏或不完整。</translation>
     </message>
     <message>
         <source>The file does not say how long it plays.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>文件没有提供时长信息。</translation>
     </message>
     <message>
         <source>The size of the file is unknown.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>无法确定文件的大小。</translation>
     </message>
     <message>
         <source>The file is still being written, or only part of it could be read.</source>
         <comment>Why a video can&apos;t be converted</comment>
-        <translation type="unfinished"></translation>
+        <translation>文件仍在写入中，或者只能读取其中一部分。</translation>
     </message>
     <message>
         <source>Another program stopped the tool.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>工具被外部终止。</translation>
     </message>
     <message>
         <source>The result is too large for the destination&apos;s disk.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>目标磁盘不支持这么大的文件。</translation>
     </message>
     <message>
         <source>The video or the destination&apos;s folder no longer exists.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>视频或目标文件夹已不存在。</translation>
     </message>
     <message>
         <source>The video contains nothing that this output can hold.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>视频中没有此输出格式可以容纳的内容。</translation>
     </message>
     <message>
         <source>The encoder can&apos;t handle this video&apos;s picture or sound.</source>
         <comment>Why a conversion failed</comment>
-        <translation type="unfinished"></translation>
+        <translation>编码器无法按原样处理该视频的画面或声音。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli COMMAND [OPTIONS]
@@ -644,14 +644,32 @@ Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 de
 refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
 With several videos, the first one that was not converted decides.</source>
         <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation type="unfinished"></translation>
+        <translation>用法：video-converter-cli 命令 [选项]
+转换视频。
+
+  formats   列出 --to 可用的输出格式
+  probe     显示视频的信息
+  plan      显示工具的命令行，但不执行
+  convert   转换视频
+
+“video-converter-cli 命令 --help”可显示某个命令的详细说明。所有命令都接受：
+  --json      以 JSON 格式输出
+  --verbose   将诊断信息和工具的全部输出显示到标准错误输出
+  -h, --help  显示此帮助
+  --version   显示版本
+
+退出状态：0 完成，1 有转换失败，2 用法错误，3 视频被拒绝，4 目标被拒绝，
+5 缺少工具，128 + N 被信号 N 终止（按 Ctrl-C 后为 130）。
+有多个视频时，为第一个未能转换的视频的状态。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli probe FILE [--json]
 Describes a video. With --json: everything that the tool reports (info), its length
 (duration, seconds) and the size of its cover picture or null (cover).</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>用法：video-converter-cli probe 文件 [--json]
+显示视频的信息。使用 --json 时输出：工具提供的全部信息 (info)、
+时长 (duration、seconds)，以及封面的尺寸或 null (cover)。</translation>
     </message>
     <message>
         <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
@@ -666,7 +684,18 @@ Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished fi
 
 A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
         <comment>Help of the headless command</comment>
-        <translation type="unfinished"></translation>
+        <translation>用法：video-converter-cli convert --to 名称 文件 -o 输出文件
+      video-converter-cli convert --to 名称 文件... -d 文件夹
+逐个转换视频。按 Ctrl-C 可停止，且不会留下未完成的文件。
+
+  --to 名称              输出格式，即“formats”列出的其中一个
+  -o, --output 输出文件  要写入的文件
+  -d, --folder 文件夹    要写入的文件夹；文件沿用视频的名称
+  --overwrite            替换已有的文件；绝不会替换视频本身
+  --json                 每行输出一个 JSON 对象
+
+以短横线开头的名称要放在 -- 之后，例如：
+convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
 </context>
 <context>
