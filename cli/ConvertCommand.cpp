@@ -47,7 +47,7 @@ Outcome Conversion::run(const VideoConstraints &entry, const JSON &info, Interru
     m_progress
         = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info, [](const auto &) {});
     wait(interruption);
-    const Outcome result = outcome();
+    Outcome result = outcome();
     if (result.isDone())
         m_reporter.converted(m_item, std::chrono::milliseconds(m_clock.elapsed()));
     return result;
@@ -74,7 +74,7 @@ void Conversion::wait(Interruption &interruption)
 
 Outcome Conversion::outcome() const
 {
-    const Outcome outcome = m_progress->outcome();
+    Outcome outcome = m_progress->outcome();
     const OutcomeKind kind = kindOf(outcome);
     // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
     if (kind == OutcomeKind::Failed && Interruption::signal() != 0)

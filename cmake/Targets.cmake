@@ -43,7 +43,12 @@ function(vc_test name)
         set(ARG_TIMEOUT 120)
     endif()
     add_test(NAME ${name} COMMAND ${command})
+    # The folder below tests/ is the label, so that a part can be built and run by name.
+    file(RELATIVE_PATH label ${CMAKE_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+    if(label MATCHES "^(engine|planning)$")
+        add_dependencies(engine-tests ${name})
+    endif()
     set(home ${bundle}/home)
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS ${label}
         ENVIRONMENT "XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_QPA_PLATFORM=$<IF:$<BOOL:${ARG_DISPLAY}>,xcb,offscreen>;LC_ALL=C.UTF-8;TSAN_OPTIONS=die_after_fork=0:suppressions=${CMAKE_SOURCE_DIR}/tests/tsan.supp;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp")
 endfunction()

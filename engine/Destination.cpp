@@ -37,8 +37,8 @@ std::optional<Outcome> obstacleAt(const QString &path)
 
 bool isOneOf(const QString &path, const QStringList &paths)
 {
-    return std::any_of(
-        paths.begin(), paths.end(), [&](const QString &otherPath) { return isSameFile(path, otherPath); });
+    return std::any_of(paths.begin(), paths.end(),
+        [&](const QString &otherPath) { return isSameFile(path, otherPath); });
 }
 
 // Never destroyed: a run's thread may go after the main one.

@@ -1,61 +1,43 @@
 // SPDX-License-Identifier: MIT
 #include "engine/SerialQueue.h"
 
-#include <condition_variable>
+#include <QThreadPool>
+
 #include <deque>
+#include <limits>
 #include <mutex>
-#include <pthread.h>
-#include <thread>
 
 namespace {
 
-// Never destroyed: a thread signals its end after the main thread may have seen the count.
-struct Threads {
-    std::mutex mutex;
-    std::condition_variable changed;
-    int count = 0;
-};
-
-Threads &threads()
+// Never destroyed: a block may still end while the program does.
+QThreadPool &threads()
 {
-    static Threads &running = *new Threads;
-    return running;
-}
-
-void nameThread(const QString &label)
-{
-    // Linux takes at most 15 bytes.
-    const QByteArray name = label.toUtf8().left(15);
-#ifdef Q_OS_MACOS
-    pthread_setname_np(name.constData());
-#else
-    pthread_setname_np(pthread_self(), name.constData());
-#endif
+    static QThreadPool &pool = *[] {
+        auto *created = new QThreadPool;
+        // No queue waits for another one.
+        created->setMaxThreadCount(std::numeric_limits<int>::max());
+        created->setExpiryTimeout(0);
+        return created;
+    }();
+    return pool;
 }
 
 }
 
 struct SerialQueue::State {
     std::mutex mutex;
-    std::condition_variable changed;
     std::deque<std::function<void()>> blocks;
-    bool started = false;
-    bool closed = false;
+    bool running = false;
 
-    void runAll()
+    std::function<void()> next()
     {
-        std::unique_lock lock(mutex);
-        while (true) {
-            changed.wait(lock, [this] { return closed || !blocks.empty(); });
-            if (blocks.empty())
-                return;
-            std::function<void()> block = std::move(blocks.front());
-            blocks.pop_front();
-            lock.unlock();
-            block();
-            block = nullptr;
-            lock.lock();
-        }
+        const std::lock_guard lock(mutex);
+        running = !blocks.empty();
+        if (!running)
+            return {};
+        std::function<void()> block = std::move(blocks.front());
+        blocks.pop_front();
+        return block;
     }
 };
 
@@ -65,36 +47,16 @@ SerialQueue::SerialQueue(QString label)
 {
 }
 
-SerialQueue::~SerialQueue()
-{
-    const std::lock_guard lock(m_state->mutex);
-    m_state->closed = true;
-    m_state->changed.notify_all();
-}
-
 void SerialQueue::submit(std::function<void()> block)
 {
     const std::lock_guard lock(m_state->mutex);
     m_state->blocks.push_back(std::move(block));
-    m_state->changed.notify_all();
-    if (m_state->started)
+    if (std::exchange(m_state->running, true))
         return;
-    m_state->started = true;
-    {
-        const std::lock_guard threadsLock(threads().mutex);
-        ++threads().count;
-    }
-    std::thread([state = m_state, label = m_label] {
-        nameThread(label);
-        state->runAll();
-        std::unique_lock threadsLock(threads().mutex);
-        --threads().count;
-        std::notify_all_at_thread_exit(threads().changed, std::move(threadsLock));
-    }).detach();
+    threads().start([state = m_state] {
+        while (const std::function<void()> next = state->next())
+            next();
+    });
 }
 
-void SerialQueue::waitForAll()
-{
-    std::unique_lock lock(threads().mutex);
-    threads().changed.wait(lock, [] { return threads().count == 0; });
-}
+void SerialQueue::waitForAll() { threads().waitForDone(); }

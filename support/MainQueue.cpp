@@ -5,31 +5,7 @@
 #include <QThread>
 #include <QTimer>
 
-#include <deque>
-#include <mutex>
-
 namespace {
-
-std::mutex blocksMutex;
-
-std::deque<std::function<void()>> &blocks()
-{
-    static std::deque<std::function<void()>> queue;
-    return queue;
-}
-
-void runNext()
-{
-    std::function<void()> block;
-    {
-        const std::lock_guard lock(blocksMutex);
-        if (blocks().empty())
-            return;
-        block = std::move(blocks().front());
-        blocks().pop_front();
-    }
-    block();
-}
 
 // The library counts a timer's milliseconds in 32 bits.
 constexpr std::chrono::milliseconds longestTimer = std::chrono::hours(24);
@@ -45,33 +21,14 @@ void runAfter(std::chrono::milliseconds wait, const std::function<void()> &block
     });
 }
 
-// What the blocks hold may need the application object, so they must not live on until the statics
-// go, nor run in a later application.
-void dropBlocks()
-{
-    std::deque<std::function<void()>> dropped;
-    const std::lock_guard lock(blocksMutex);
-    dropped.swap(blocks());
-}
-
-void dropBlocksAtEnd() { qAddPostRoutine(dropBlocks); }
-
-Q_COREAPP_STARTUP_FUNCTION(dropBlocksAtEnd)
-
 }
 
 namespace MainQueue {
 
 void post(std::function<void()> block)
 {
-    // The blocks are handed over under a mutex of ours and the event carries nothing, which keeps
-    // the hand-over visible to the thread sanitizer. Posting while the lock is held keeps events
-    // and blocks in one order.
-    const std::lock_guard lock(blocksMutex);
-    if (!QCoreApplication::instance())
-        return;
-    blocks().push_back(std::move(block));
-    QMetaObject::invokeMethod(QCoreApplication::instance(), runNext, Qt::QueuedConnection);
+    if (QCoreApplication *application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, std::move(block), Qt::QueuedConnection);
 }
 
 void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)

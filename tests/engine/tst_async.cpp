@@ -36,24 +36,18 @@ private Q_SLOTS:
         QCOMPARE(Async::backgroundSerialQueue()->label(), u"ext.serial.backgroundQueue"_s);
     }
 
-    void queue_runsItsBlocksInOrderOnOneThread()
+    void queue_runsItsBlocksInOrder()
     {
         auto queue = Async::backgroundSerialQueue();
         std::vector<int> order;
-        std::vector<Qt::HANDLE> threads;
         for (int i = 0; i < 100; ++i) {
-            Async::async(queue, [&, i] {
-                order.push_back(i);
-                threads.push_back(QThread::currentThreadId());
-            });
+            Async::async(queue, [&order, i] { order.push_back(i); });
         }
         // The queue's last block runs although nobody holds the queue any more.
         queue.reset();
         SerialQueue::waitForAll();
         QCOMPARE(order.size(), 100U);
         QVERIFY(std::ranges::is_sorted(order));
-        QCOMPARE(std::ranges::count(threads, threads.front()), 100);
-        QVERIFY(threads.front() != QThread::currentThreadId());
     }
 
     void delay_refusesWhatDoesNotFit()
