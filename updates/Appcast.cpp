@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "updates/Appcast.h"
 
-#include "updates/PlainText.h"
-
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -76,7 +74,7 @@ std::optional<AppcastItem> readItem(QXmlStreamReader &xml, const QString &system
         } else if (isSparkle && name == u"channel") {
             isRelease = readText(xml).trimmed().isEmpty();
         } else if (!isSparkle && name == u"description") {
-            item.notes = plainText(readText(xml));
+            item.notes = readText(xml);
         } else {
             xml.skipCurrentElement();
         }

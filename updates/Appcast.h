@@ -16,7 +16,7 @@ struct AppcastItem {
     Version version;
     QString versionText;
     QString displayVersion;
-    /// Plain text.
+    /// Mark-up, as the feed has it.
     QString notes;
     /// Where the file lies: a web address, or empty.
     QUrl url;

@@ -77,7 +77,7 @@ void errorBytes(const QByteArray &bytes) { write(STDERR_FILENO, bytes); }
 
 QString reportedSentence(const Outcome &outcome)
 {
-    const QString sentence = printable(sentenceOf(outcome));
+    QString sentence = printable(sentenceOf(outcome));
     if (kindOf(outcome) != OutcomeKind::Incomplete)
         return sentence;
     return formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",

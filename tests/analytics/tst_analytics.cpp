@@ -122,18 +122,6 @@ private Q_SLOTS:
         QCOMPARE(m_collector->requests.constFirst().hit().size(), 7);
     }
 
-    void address_isThatOfTheCollector()
-    {
-        for (const QString &folder : { u"/"_s, u"/a/b"_s, u"/a/"_s }) {
-            m_collector->requests.clear();
-            collectAt(m_collector->url() + folder);
-            sendEvent(u"abort"_s);
-            QTRY_COMPARE(m_collector->requests.size(), 1);
-            const QString path = folder + (folder.endsWith(u'/') ? u"collect"_s : u"/collect"_s);
-            QCOMPARE(m_collector->requests.constFirst().head.split(' ').at(1), path.toUtf8());
-        }
-    }
-
     void clientId_isKept()
     {
         const std::pair<QVariant, QString> ids[]{

@@ -154,6 +154,10 @@ private Q_SLOTS:
         m_command.write(u"precious"_s, "precious");
         const QStringList before = m_command.listing();
         const ToolSwap swap(tool, replacement);
+        // Only ffprobe is needed without a conversion.
+        const int expected = tool == u"ffprobe"_s ? 5 : 0;
+        QCOMPARE(m_command.run(u"plan --to MP4 video.mp4 out.mp4"_s).exitCode, expected);
+        QCOMPARE(m_command.run(u"probe --json video.mp4"_s).exitCode, expected);
         const Finished converted
             = m_command.run(u"convert --to MP4 --overwrite video.mp4 -o precious"_s);
         QCOMPARE(converted.exitCode, 5);

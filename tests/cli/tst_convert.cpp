@@ -58,17 +58,6 @@ private Q_SLOTS:
         QVERIFY(last > 0);
     }
 
-    void lines_tellTheProgress()
-    {
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, slowTool);
-        const Finished converted = m_command.run(u"convert --to FLV video.mov -o video.flv"_s);
-        const QStringList lines = converted.out.split(u'\n', Qt::SkipEmptyParts);
-        QVERIFY2(lines.size() > 2 && lines.size() < 12, qPrintable(converted.out));
-        static const QRegularExpression line(uR"(\Avideo\.mov: \d+%(  [\d.]+x  \d+s left)?\z)"_s);
-        for (const QString &each : lines.first(lines.size() - 1))
-            QVERIFY2(line.match(each).hasMatch(), qPrintable(each));
-    }
-
     void terminal_showsABar()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, slowTool);

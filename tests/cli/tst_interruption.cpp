@@ -121,21 +121,6 @@ private Q_SLOTS:
         QCOMPARE(Command::wait(*process).exitCode, 128 + SIGPIPE);
     }
 
-    void readerThatDoesNotRead_isNotWaitedFor()
-    {
-        // More diagnostics than a pipe holds, and nobody who reads them.
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:1000000|exit:1");
-        const auto errors = openPipe();
-        const auto process = m_command.start(
-            u"probe video.mp4 --verbose"_s, {}, [&errors] { ::dup2(errors[1], STDERR_FILENO); });
-        int waiting = 0;
-        QTRY_VERIFY_WITH_TIMEOUT(
-            ::ioctl(errors[0], FIONREAD, &waiting) == 0 && waiting > 60'000, 20'000);
-        send(SIGINT, process->processId());
-        QVERIFY(process->waitForFinished(5000));
-        QCOMPARE(process->exitCode(), 130);
-    }
-
     void kill_leavesNoTool()
     {
         const auto process = convertSlowly();

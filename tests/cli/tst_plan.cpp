@@ -131,13 +131,6 @@ private Q_SLOTS:
             QCOMPARE(planned.out, QString());
         }
     }
-
-    void fullDisk_isReported()
-    {
-        const auto process = m_command.start(u"formats"_s, {},
-            [] { ::dup2(::open("/dev/full", O_WRONLY | O_CLOEXEC), STDOUT_FILENO); });
-        QCOMPARE(Command::wait(*process).end(), u"1: The output can't be written.\n"_s);
-    }
 };
 
 QTEST_GUILESS_MAIN(TestPlan)

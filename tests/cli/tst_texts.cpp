@@ -141,25 +141,6 @@ private Q_SLOTS:
         }
     }
 
-    void bar_isBusyWithoutALength()
-    {
-        QSet<QString> seen;
-        for (int step = 0; step < 100; ++step) {
-            const QString bar
-                = progressBar(u"a"_s, { 0, -1, step * 200ms }, 80).section(u']', 0, 0);
-            QCOMPARE(bar.count(u"###"_s), 1);
-            seen << bar;
-        }
-        QVERIFY2(seen.size() > 10, "the block moves");
-    }
-
-    void word_isQuotedForAShell()
-    {
-        // The rest is seen by a real shell in the test of plans.
-        QCOMPARE(shellQuoted(QStringList{ u"/a/b-1_2.mp4"_s, QString(), u"~"_s, u"ä"_s }),
-            u"/a/b-1_2.mp4 '' '~' 'ä'"_s);
-    }
-
     void name_isMadeHarmless()
     {
         QCOMPARE(printable(u"a\n\u001b[31m\u007f\u009b\u202e\u2028b"_s), u"a??[31m????b"_s);

@@ -118,20 +118,6 @@ private Q_SLOTS:
         QCOMPARE(end.reports.size(), 1);
         QVERIFY(end.reports[0].contains("Reason: SIGSEGV"));
     }
-
-    void forkedChild_leavesNoReport()
-    {
-        const End end = run(u"child"_s);
-        QCOMPARE(end.exitCode, 7);
-        QCOMPARE(end.reports, QList<QByteArray>());
-    }
-
-    void start_leavesTheProcessAsItWas()
-    {
-        const End end = run(u"none"_s);
-        QCOMPARE(end.output, QByteArray("0 blocked, exceptions by libgcc_s.so.1\n"));
-        QCOMPARE(end.reports, QList<QByteArray>());
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_Crash)

@@ -144,19 +144,6 @@ private Q_SLOTS:
         QCOMPARE(files(), QStringList{ u"crash-1.txt"_s });
     }
 
-    void session_isToldOnlyWithConsent()
-    {
-        SessionEvents silent;
-        silent.begin();
-        QCOMPARE(files(), QStringList());
-        Defaults::setValue(u"CrashReportsAlwaysSend"_s, true);
-        SessionEvents session;
-        session.begin();
-        QTRY_COMPARE(m_server->bodies.size(), 1);
-        QVERIFY2(m_server->bodies[0].contains("Event: start\nVersion: "),
-            m_server->bodies[0].constData());
-    }
-
     void session_tellsHowTheLastOneEnded()
     {
         Defaults::setValue(u"CrashReportsAlwaysSend"_s, true);

@@ -86,19 +86,6 @@ private Q_SLOTS:
         QVERIFY(found > 20);
     }
 
-    void scanner_keepsItsPaceOnLongOutput()
-    {
-        // A search of all text after each of these blocks would take hours: the test's time limit
-        // is the check.
-        DurationScanner scanner;
-        const QString block = u"[mov] chatter without a length\n"_s.repeated(100);
-        for (int i = 0; i < 5000; ++i)
-            scanner.append(block);
-        QVERIFY(!scanner.duration());
-        scanner.append(u"Duration: 00:00:09.00, start: 0"_s);
-        QCOMPARE(scanner.duration().value_or(-1), qint64{ 9 });
-    }
-
     void fraction_isZeroWithoutATotal()
     {
         Progress progress(-1);

@@ -131,15 +131,6 @@ private Q_SLOTS:
         }
     }
 
-    void pictureBound_isMet()
-    {
-        const auto low = videoConstraints(
-            u"MP4 Low Quality"_s, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s);
-        const QString result = path(u"bound.mp4"_s);
-        QCOMPARE(convert(path(u"portrait.mov"_s), result, low.value()), QString());
-        QCOMPARE(Media::streamEntry(result, u"v:0"_s, u"width,height"_s), u"270\n480"_s);
-    }
-
     void manyRuns_leaveNothingBehind()
     {
         for (int i = 0; i < 6; ++i)

@@ -107,20 +107,6 @@ private Q_SLOTS:
         QVERIFY2(flood > 60'000'000 && flood < 80'000'000, qPrintable(QString::number(flood)));
     }
 
-    void silence_countsOnlyWhileSomebodyListens()
-    {
-        // As after Ctrl-Z, when program and tool have been stopped for long.
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "forever");
-        Task::setSilenceLimit(1s);
-        Task task;
-        task.setLaunchPath(toolPath());
-        task.launch();
-        QThread::msleep(1100);
-        QCOMPARE(task.availableData(), QByteArray());
-        QVERIFY(!task.isSilentForTooLong());
-        Task::setSilenceLimit(300s);
-    }
-
     void sandbox_refusesWhatIsNotNeeded_data()
     {
         const QByteArray allowed = "allowed =0";
@@ -133,7 +119,7 @@ private Q_SLOTS:
                 { "writes the source", "write:SOURCE/video.mp4", refused },
                 { "writes the result", "write:DEST/result.mp4", allowed },
                 { "reads the destination", "read:DEST/other.txt", refused },
-                { "lists the home folder", "read:" + QDir::homePath().toUtf8(), refused },
+                { "lists the home folder", "read:HOME", refused },
                 { "reads in the home folder", "read:HOME/secret", refused },
                 { "writes to the home folder", "write:HOME/secret", refused },
                 { "writes to the temporary folder", "write:TEMP/elsewhere", refused },

@@ -96,22 +96,6 @@ private Q_SLOTS:
         QVERIFY(answering.wasShown);
     }
 
-    void alert_outlivesTheWindowInFront()
-    {
-        QWidget window;
-        window.show();
-        auto *download = new QDialog(&window);
-        download->show();
-        download->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(download));
-        const Answering answering([download](QMessageBox &box) {
-            delete download;
-            QTest::keyClick(&box, Qt::Key_Return);
-        });
-        displayError(u"message"_s);
-        QVERIFY(answering.wasShown);
-    }
-
     void site_followsTheLanguage()
     {
         // The site's address and the lines printed.
@@ -158,32 +142,6 @@ private Q_SLOTS:
 
         QTest::keyClick(&window, Qt::Key_Escape);
         QVERIFY(!window.isVisible());
-    }
-
-    void aboutBox_letsTheProgramEnd()
-    {
-        QWidget window;
-        AboutWindow about;
-        window.show();
-        about.showWindow();
-        QTimer::singleShot(0, &window, &QWidget::close);
-        QTimer::singleShot(5000, &window, [] { QApplication::exit(1); });
-        QCOMPARE(QApplication::exec(), 0);
-    }
-
-    void aboutBox_hasWebSiteOnlyIfThereIsOne()
-    {
-        AboutWindow window;
-        auto *button = window.findChild<QPushButton *>(u"website"_s);
-        int opened = 0;
-        window.show();
-        QVERIFY(!button->isVisible());
-        window.setOpenWebsiteHandler([&] { ++opened; });
-        QCOMPARE(button->isVisible(), !Configuration::siteUrl().isEmpty());
-        button->click();
-        QCOMPARE(opened, 1);
-        window.setOpenWebsiteHandler({});
-        QVERIFY(!button->isVisible());
     }
 };
 

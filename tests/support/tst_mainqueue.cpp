@@ -57,58 +57,6 @@ private Q_SLOTS:
         QCOMPARE(left, expected);
         QCOMPARE(right, expected);
     }
-
-    void delay_isKept()
-    {
-        QElapsedTimer timer;
-        timer.start();
-        QStringList order;
-        qint64 elapsed = 0;
-        std::thread([&] {
-            MainQueue::postAfter(120ms, [&] {
-                order += u"late"_s;
-                elapsed = timer.elapsed();
-            });
-            MainQueue::postAfter(-1s, [&] { order += u"overdue"_s; });
-            MainQueue::post([&] { order += u"now"_s; });
-        }).join();
-        QCOMPARE(order, QStringList());
-        QTRY_COMPARE(order.size(), 3);
-        QCOMPARE(order.join(u", "_s), u"now, overdue, late"_s);
-        QVERIFY2(elapsed >= 120, qPrintable(QString::number(elapsed)));
-
-        // Longer than the library's timers can wait.
-        QTest::failOnWarning(QRegularExpression(u"[Tt]imer"_s));
-        bool ran = false;
-        MainQueue::postAfter(24h * 40, [&ran] { ran = true; });
-        QTest::qWait(50);
-        QVERIFY(!ran);
-    }
-
-    void blockOfAnEarlierApplication_isDropped()
-    {
-        MainQueue::post([] {});
-        QCoreApplication::processEvents();
-        QVERIFY(!earlierBlockRan);
-        QVERIFY(heldByEarlierBlock.expired());
-    }
-
-    void lines_doNotMix()
-    {
-        QStringList lines;
-        Console::setSink([&](const QString &line) { lines.append(line); });
-        const auto printer = [](QChar letter) {
-            for (int i = 0; i < 200; ++i)
-                Console::print(QString(50, letter));
-        };
-        std::thread other(printer, u'a');
-        printer(u'b');
-        other.join();
-        Console::setSink([](const QString &) {});
-        QCOMPARE(lines.count(QString(50, u'a')), 200);
-        QCOMPARE(lines.count(QString(50, u'b')), 200);
-        QCOMPARE(lines.size(), 400);
-    }
 };
 
 int main(int argc, char *argv[])

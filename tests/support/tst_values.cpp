@@ -114,13 +114,6 @@ private Q_SLOTS:
             QCOMPARE(readings(other), u"- |  | - | 0"_s);
     }
 
-    void bytesThatAreNoJson_areNull()
-    {
-        for (const char *bytes : { "", "no such file", "{\"streams\":[{\"codec", "{} x" })
-            QCOMPARE(JSON::parse(bytes), JSON());
-        QCOMPARE(JSON::parse(QByteArray(1000000, '[')), JSON());
-    }
-
     void length_differsFromCharacters()
     {
         const auto counts = [](const QString &text) {
@@ -154,14 +147,6 @@ private Q_SLOTS:
                      u"4k"_s, u"0x10"_s, u"9223372036854775808"_s, u"٣"_s, u"1,000"_s })
                 QCOMPARE(read(text), 0);
         }
-    }
-
-    void bytes_becomeText()
-    {
-        QCOMPARE(Text::stringValue("\xF0\x9F\x8E\xAC\xC3\xA9"), u"🎬é"_s);
-        QCOMPARE(Text::stringValue(QByteArray("a\0b", 3)), QString(u"a\0b"_s));
-        for (const char *notUtf8 : { "", "a\xFF", "a\xF0\x9F\x8E", "\xC0\x80" })
-            QCOMPARE(Text::stringValue(notUtf8), QString());
     }
 
     void pattern_findsGroup()

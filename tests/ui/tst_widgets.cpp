@@ -93,35 +93,6 @@ private Q_SLOTS:
         QCOMPARE(dropped.count(), 1);
     }
 
-    void spinner_movesOnceItIsShown()
-    {
-        SpinningView early;
-        early.setSpinning(true);
-        QVERIFY(!early.isAnimating());
-        early.awakeFromNib();
-        QVERIFY(early.isAnimating());
-        early.setSpinning(false);
-        QVERIFY(!early.isAnimating());
-        QCOMPARE(early.spinColor(), QColor(Qt::black));
-    }
-
-    void textField_showsThePointingHand_data()
-    {
-        addRows<Utf8, Qt::CursorShape>({ "value", "shape" },
-            { { "the name", "pointingHandCursor", Qt::PointingHandCursor },
-                { "other capitals", "PointingHandCursor", Qt::ArrowCursor },
-                { "none", "", Qt::ArrowCursor } });
-    }
-    void textField_showsThePointingHand()
-    {
-        QFETCH(const QString, value);
-        TextField field;
-        field.setProperty("_cursor", value);
-        QTEST(field.cursor().shape(), "shape");
-        field.setProperty("_cursor", {});
-        QCOMPARE(field.cursor().shape(), Qt::ArrowCursor);
-    }
-
     void views_workAsButtons()
     {
         TextField field;
@@ -137,13 +108,6 @@ private Q_SLOTS:
         }
         QCOMPARE(fieldClicked.count(), 3);
         QCOMPARE(imageClicked.count(), 3);
-    }
-
-    void color_invertsWholeNumbers()
-    {
-        QCOMPARE(Color::rgb(1, 1, 1), QColor(Qt::white));
-        QCOMPARE(Color::rgb(255, 255, 255), QColor(Qt::black));
-        QCOMPARE(Color::rgb(2, 1, 128), QColor(0, 255, 0));
     }
 
     void bar_keepsItsValueWhileBusy()

@@ -375,18 +375,6 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_video));
     }
 
-    void cancel_comesTooLate()
-    {
-        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:3000");
-        QVERIFY(waitFor(WindowUIState::Converting));
-        m_user->saysYes = true;
-        m_user->whileReading = [this] { QVERIFY(waitFor(WindowUIState::ConversionIsDone)); };
-        m_user->click("cancelProgressButton");
-        QCOMPARE(m_delegate->uiState(), WindowUIState::ConversionIsDone);
-        QTRY_COMPARE(Processes::children(), QStringList());
-        QVERIFY(QFile::exists(path(u"result.mkv"_s)));
-    }
-
     void failure_isTold_data()
     {
         using State = WindowUIState;
@@ -489,15 +477,6 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(Processes::children(), QStringList(), 10000);
         QTest::qWait(50);
         QVERIFY(window->isVisible() && window->isEnabled());
-    }
-
-    void close_answeredNoKeepsTheWindow()
-    {
-        const auto swap = convertWith(QByteArray(hundredSeconds) + "reports:100:3000");
-        QVERIFY(waitFor(WindowUIState::Converting));
-        m_user->whileReading = [this] { QVERIFY(waitFor(WindowUIState::ConversionIsDone)); };
-        QVERIFY(!m_delegate->window()->close());
-        QVERIFY(m_delegate->window()->isVisible());
     }
 
     void close_leavesTheLastBytesAlone()

@@ -30,7 +30,7 @@ private Q_SLOTS:
             = "<rss "
               "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/"
               "sparkle'><item><description>"
-              "&lt;ul>&lt;li>&lt;b>Faster&lt;/b> start&lt;li>See "
+              "&lt;script>x()&lt;/script>&lt;ul>&lt;li>&lt;b>Faster&lt;/b> st\u202eart&lt;li>See "
               "http://evil.example/&lt;/ul></description>"
               "<enclosure url='http://a/b' sparkle:version='9.0'/></item></rss>";
         qputenv("VIDEO_CONVERTER_FEED_URL", server.address(u"/update.xml"_s).toLatin1());

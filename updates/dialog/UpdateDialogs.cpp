@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 namespace {
@@ -49,9 +50,17 @@ QLabel *plainLabel(const QString &text)
     return label;
 }
 
+/// The text of mark-up, without what could turn the order of the words around it.
+QString plainText(const QString &html)
+{
+    constexpr qsizetype longestNotes = 20'000;
+    QString text = QTextDocumentFragment::fromHtml(html.left(longestNotes)).toPlainText();
+    return text.removeIf([](QChar c) { return c.category() == QChar::Other_Format; });
+}
+
 QPlainTextEdit *notesView(const QString &notes)
 {
-    auto *view = new QPlainTextEdit(notes);
+    auto *view = new QPlainTextEdit(plainText(notes));
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
     view->setAccessibleName(localized(

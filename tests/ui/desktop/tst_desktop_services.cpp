@@ -180,64 +180,6 @@ private Q_SLOTS:
         QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), request);
     }
 
-    void keepAwake_fallsBackToLoginManager_data() { keepAwake_releasesPortalRequest_data(); }
-    void keepAwake_fallsBackToLoginManager()
-    {
-        QFETCH(bool, stoppedBeforeTheAnswer);
-        Leash leash;
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(portal)); // has no inhibitor: answers with an error
-        QVERIFY(desktop.offer(loginManager));
-        KeepAwake awake;
-        desktop.hold();
-        awake.start(u"Converting"_s);
-        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-        desktop.release();
-        desktop.hold();
-        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 2);
-        desktop.answer(u"Inhibit"_s, { QVariant::fromValue(leash.takeEnd()) });
-        QCOMPARE(desktop.calls(u"Inhibit"_s).constLast().arguments().value(0),
-            QVariant(u"sleep:idle"_s));
-        if (stoppedBeforeTheAnswer)
-            awake.stop();
-        desktop.release();
-        desktop.answer(u"Inhibit"_s, {}); // from here on only the program holds the end
-        QTest::qWait(0);
-        if (!stoppedBeforeTheAnswer)
-            QVERIFY(leash.isHeld());
-        awake.stop();
-        QTRY_VERIFY(!leash.isHeld());
-    }
-
-    void launcher_tellsWholePercentagesOnce()
-    {
-        LauncherRecorder recorder;
-        QVERIFY(QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"task bar"_s)
-                    .connect({}, {}, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s, &recorder,
-                        SLOT(update(QString, QVariantMap))));
-        {
-            LauncherProgress launcher;
-            launcher.clear();
-            for (int step = -10; step <= 2000; ++step)
-                launcher.show(step / 1000.0);
-            launcher.show(qQNaN());
-            launcher.finish();
-        }
-        QTRY_COMPARE(recorder.updates.size(), 104); // 0 to 100 %, unknown, finished, cleared
-        QCOMPARE(
-            recorder.programs.constFirst(), u"application://org.example.VideoConverter.desktop"_s);
-        const auto properties = [](double progress, bool visible, bool urgent) {
-            return QVariantMap{ { u"progress"_s, progress }, { u"progress-visible"_s, visible },
-                { u"urgent"_s, urgent } };
-        };
-        QCOMPARE(recorder.updates.value(0), properties(0, true, false));
-        QCOMPARE(recorder.updates.value(57), properties(0.57, true, false));
-        QCOMPARE(recorder.updates.value(100), properties(1, true, false));
-        QCOMPARE(recorder.updates.value(102), properties(0, false, true));
-        QCOMPARE(recorder.updates.value(103), properties(0, false, false));
-        QDBusConnection::disconnectFromBus(u"task bar"_s);
-    }
-
     void notification_escapesTextAndReportsClick()
     {
         DesktopStandIn desktop;
@@ -266,35 +208,6 @@ private Q_SLOTS:
         notification.show(u"Done"_s, u"next.mp4"_s);
         QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 2);
         QCOMPARE(desktop.calls(u"Notify"_s).constLast().arguments().value(1), QVariant(42U));
-    }
-
-    void notification_closesWhenAnswerComesLate()
-    {
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(notifications));
-        desktop.answer(u"Notify"_s, { 7U });
-        desktop.hold();
-        DesktopNotification notification;
-        notification.show(u"Done"_s, u"clip.mp4"_s);
-        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
-        notification.close();
-        desktop.release();
-        QTRY_COMPARE(desktop.calls(u"CloseNotification"_s).size(), 1);
-        QCOMPARE(
-            desktop.calls(u"CloseNotification"_s).constFirst().arguments().value(0), QVariant(7U));
-    }
-
-    void services_doNothingWithoutBus()
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
-        environment.insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s, u"unix:path=/nonexistent"_s);
-        QProcess program;
-        program.setProcessEnvironment(environment);
-        program.start(QCoreApplication::applicationFilePath(), { u"--without-bus"_s });
-        QVERIFY(program.waitForFinished());
-        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(program.exitCode(), 7);
     }
 };
 

@@ -149,21 +149,6 @@ private Q_SLOTS:
         QTRY_COMPARE(second.lines().value(1), u"received /videos/a.mp4"_s);
     }
 
-    void secondStart_doesNotWaitForHangingInstance()
-    {
-        Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running());
-        first.signal(SIGSTOP);
-        QElapsedTimer timer;
-        timer.start();
-        Instance second(m_place, { u"/videos/a.mp4"_s });
-        QTRY_COMPARE(second.lines(), running());
-        QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
-        first.signal(SIGCONT);
-        Instance third(m_place, { u"/videos/b.mp4"_s });
-        QTRY_COMPARE(third.lines(), handedOver());
-    }
-
     void startsAtOnce_leaveOneRunning()
     {
         std::vector<std::unique_ptr<Instance>> instances;
@@ -177,20 +162,6 @@ private Q_SLOTS:
                   return instance->lines().value(0) == running().constFirst();
               });
         QCOMPARE(count, 1);
-    }
-
-    void start_withoutPrivateFolderIsOnItsOwn()
-    {
-        const QFile::Permissions everybody = QFile::Permissions::fromInt(0x7777);
-        const QString user = QString::fromLocal8Bit(::getpwuid(::geteuid())->pw_name);
-        m_place.temporaryFolder = m_folder->filePath(u"tmp"_s);
-        const QString substitute = m_place.temporaryFolder + "/runtime-"_L1 + user;
-        QVERIFY(QDir().mkpath(substitute) && QFile::setPermissions(substitute, everybody));
-        QVERIFY(QFile::setPermissions(m_place.runtimeFolder, everybody));
-        Instance first(m_place);
-        QTRY_COMPARE(first.lines(), running());
-        Instance second(m_place);
-        QTRY_COMPARE(second.lines(), running());
     }
 
     void hostilePeer_isDropped_data()
