@@ -3,6 +3,7 @@
 #include "tests/cli/Command.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Rows.h"
+#include "tests/fixtures/ToolSwap.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -119,6 +120,23 @@ private Q_SLOTS:
         QCOMPARE(object.size(), 25);
         QCOMPARE(
             wordsOf(object[u"MP4 HD 720"_s]).join(u' '), hd720 + u"-strict experimental -f mp4"_s);
+    }
+
+    // Else the next files that are opened would take their places, and get what is printed.
+    void closedStreams_areReplaced()
+    {
+        const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
+        const auto process = m_command.start(u"probe"_s, { m_video }, [] {
+            for (const int stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO })
+                ::close(stream);
+        });
+        for (const char stream : { '0', '1', '2' }) {
+            const QString link
+                = u"/proc/%1/fd/%2"_s.arg(process->processId()).arg(QLatin1Char(stream));
+            QTRY_COMPARE(QFile::symLinkTarget(link), u"/dev/null"_s);
+        }
+        process->terminate();
+        QCOMPARE(Command::wait(*process).exitCode, 143);
     }
 
     void unusableInformation_isRefused()

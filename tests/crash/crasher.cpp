@@ -24,6 +24,8 @@
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the C library's own name
 extern "C" void *__libc_malloc(std::size_t size);
 
+using namespace std::string_view_literals;
+
 namespace {
 
 std::atomic<int *> nowhere = nullptr;
@@ -108,20 +110,6 @@ std::mutex mallocMutex;
     ::_exit(WIFSIGNALED(status) ? 7 : 0);
 }
 
-// Prints what a child of this process inherits: blocked signals and the library in charge of
-// exceptions.
-void printState()
-{
-    sigset_t blocked;
-    ::pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
-    int count = 0;
-    for (int signal = 1; signal < NSIG; ++signal)
-        count += ::sigismember(&blocked, signal) == 1;
-    Dl_info info{};
-    ::dladdr(::dlsym(RTLD_DEFAULT, "_Unwind_RaiseException"), &info);
-    std::printf("%d blocked, exceptions by %s\n", count, std::strrchr(info.dli_fname, '/') + 1);
-}
-
 }
 
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
@@ -138,13 +126,15 @@ extern "C" void *malloc(std::size_t size)
 
 int main(int argc, char **argv)
 {
+    if (argc > 1 && argv[1] == "earlier"sv)
+        ::signal(SIGSEGV, [](int) { ::_exit(9); });
     CrashReporter::start();
     const QCoreApplication application(argc, argv);
     const std::pair<std::string_view, void (*)()> ways[] = { { "segv", crashSegv },
         { "abort", crashAbort }, { "trap", crashTrap }, { "fpe", crashFpe },
         { "exception", crashException }, { "stack", [] { crashStack(0); } },
         { "threads", crashThreads }, { "malloc", crashMalloc }, { "locked", crashLocked },
-        { "child", crashChild }, { "none", printState } };
+        { "child", crashChild }, { "earlier", crashSegv } };
     for (const auto &[name, crash] : ways) {
         if (argc > 1 && name == argv[1])
             crash();

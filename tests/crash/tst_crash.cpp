@@ -111,6 +111,18 @@ private Q_SLOTS:
             QVERIFY2(!report.contains(secret), report.constData());
     }
 
+    void signal_isHandedOn_data()
+    {
+        addRows<int, int>({ "exitCode", "reports" }, { { "earlier", 9, 1 }, { "child", 7, 0 } });
+    }
+    void signal_isHandedOn()
+    {
+        QFETCH(const int, reports);
+        const End end = run(QString::fromLatin1(QTest::currentDataTag()));
+        QTEST(end.exitCode, "exitCode");
+        QCOMPARE(end.reports.size(), reports);
+    }
+
     void crash_thatCannotBeUnwoundEndsAllTheSame()
     {
         const End end = run(u"locked"_s);
