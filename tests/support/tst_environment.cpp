@@ -151,14 +151,6 @@ private Q_SLOTS:
         Preferences::setFirstLaunchDate(other);
         QCOMPARE(Preferences::firstLaunchDate(), other);
     }
-
-    void key_isItsExactText()
-    {
-        QCOMPARE(rawValue(PreferencesKeys::IsFirstRun), u"IsFirstRun"_s);
-        QCOMPARE(preferencesKey(u"FirstLaunch"), PreferencesKeys::FirstLaunch);
-        for (const QString &other : { u"isFirstRun"_s, u"FirstLaunch "_s, u""_s })
-            QCOMPARE(preferencesKey(other), std::nullopt);
-    }
 };
 
 int main(int argc, char *argv[])

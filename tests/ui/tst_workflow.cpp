@@ -440,14 +440,6 @@ private Q_SLOTS:
         QVERIFY(open(u"video.mov"_s));
     }
 
-    void unknownLength_looksBusy()
-    {
-        const auto swap = convertWith("output|print:Duration: N/A, start: 0.0\\n|sleep:300|exit:0");
-        QVERIFY(waitFor(WindowUIState::Converting));
-        QVERIFY(m_user->find<ProgressBar>("progressBar")->isBusy());
-        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-    }
-
     void close_asksAndWaits()
     {
         auto *window = m_delegate->window();
