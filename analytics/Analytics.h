@@ -7,10 +7,9 @@
 
 #include <optional>
 
-/// Anonymous usage events: one web request each, sent and forgotten.
-/// Nothing is sent, and no client id is made, before start(), without a collector's address, or
-/// when the user has asked not to be tracked. Thread: any; the requests themselves are made on the
-/// main thread. Errors: a hit that can't be delivered is dropped with one diagnostic line.
+/// Anonymous usage events, one web request each. Nothing is sent and no client id made before
+/// start(), without a collector's address, or when the user asked not to be tracked. Thread: any.
+/// Errors: a hit that can't be delivered is dropped with one diagnostic line.
 class Analytics {
 public:
     Analytics() = delete;
@@ -20,16 +19,14 @@ public:
 
     [[nodiscard]] static QString appIdentifier();
     [[nodiscard]] static QString appVersion();
-    /// The installation's random id, made and stored by the first reading; "unknown" when the
-    /// stored one is empty.
+    /// The installation's random id, made by the first reading; "unknown" when the stored one is
+    /// empty.
     [[nodiscard]] static QString userId();
-    /// Language code of the user's locale in lower case, "en" when there is none.
     [[nodiscard]] static QString locale();
 
-    /// Sends one event. The label is a text or true; an absent value counts as 0.
+    /// The label is a text or true; an absent value counts as 0.
     static void send(const QString &screen, const QString &category, const QString &action,
         const QVariant &label, std::optional<qint64> value = std::nullopt);
-    /// Sends one hit of any kind; the parameters that all hits share win over `parameters` of the
-    /// same name.
+    /// Sends one hit of any kind; the parameters that all hits share win over `parameters`.
     static void send(const QVariantMap &parameters, const QString &analyticsId);
 };

@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The tool's output as text; bytes that are none are shown as replacement characters.
 QString textOf(const QByteArray &output)
 {
     QString text = Text::stringValue(output);

@@ -8,12 +8,10 @@
 class AppDelegate;
 class Updater;
 
-/// The help menu's commands that go beyond the window's own: updates and the conversion log.
-/// Thread: the main one.
+/// The help menu's commands beyond the window's own: updates and the conversion log.
 class HelpMenu : public QObject {
     Q_OBJECT
 public:
-    /// Both outlive this object.
     HelpMenu(AppDelegate &delegate, Updater &updater);
 
 private:

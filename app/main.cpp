@@ -53,7 +53,6 @@ QStringList filesOnCommandLine(const QApplication &application)
     return paths;
 }
 
-/// What the program does with its vendor's servers, where it has any.
 class Services {
 public:
     explicit Services(AppDelegate &delegate)

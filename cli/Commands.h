@@ -5,8 +5,7 @@
 
 class Interruption;
 
-/// The commands. Each prints its result or what went wrong.
-/// Thread: the main thread; event loops run inside.
+/// The commands. Thread: main; event loops run inside.
 
 [[nodiscard]] ExitCode listFormats(const CommandLine &line);
 [[nodiscard]] ExitCode probeVideo(const CommandLine &line, Interruption &interruption);

@@ -19,7 +19,6 @@
 
 namespace {
 
-/// One conversion, from its start until its tool is gone.
 class Conversion {
 public:
     Conversion(const ConversionItem &item, Reporter &reporter)

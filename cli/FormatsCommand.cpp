@@ -34,7 +34,6 @@ VideoConstraints entryNamed(const QString &name)
     return *videoConstraints(name, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s);
 }
 
-/// Only the larger number of the bound has an effect.
 qint64 longestSide(const VideoDimensionsConstraints &dimension)
 {
     return std::max(dimension.maximum()->width, dimension.maximum()->height);

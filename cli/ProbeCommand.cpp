@@ -39,8 +39,8 @@ QString streamText(const JSON &stream)
     if (const QString rate = stream[u"sample_rate"_s].stringValue(); !rate.isEmpty())
         parts << rate + u" Hz"_s;
     if (const auto channels = stream[u"channels"_s].integer())
-        parts << formatted(localized(QT_TRANSLATE_NOOP3(
-                               "Localizable", "%d ch", "Number of sound channels, abbreviated")),
+        parts << formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "%d ch", "Number of sound channels, abbreviated"),
             { *channels });
     parts.removeAll(QString());
     return printable(parts.join(u", "_s));

@@ -35,7 +35,6 @@ struct Fatal {
     struct sigaction previous;
 };
 
-// All that the handler needs lies here, ready before the crash.
 std::array<Fatal, 6> fatals{ { { SIGSEGV, "SIGSEGV (bad memory access)", {} },
     { SIGBUS, "SIGBUS (bad memory access)", {} }, { SIGILL, "SIGILL (trap stop)", {} },
     { SIGFPE, "SIGFPE (arithmetic)", {} }, { SIGABRT, "SIGABRT (abort)", {} },

@@ -3,14 +3,12 @@
 
 #include <QString>
 
-/// Leaves a report when the program crashes: the reason, the stack, the program's version and the
-/// system, and nothing else. The process then ends as it would have without a report, with the same
-/// signal.
+/// Leaves a report when the program crashes: reason, stack, version and system, nothing else. The
+/// process then ends with the same signal as without a report.
 namespace CrashReporter {
 
-/// Watches for crashes, uncaught exceptions and trap stops from now on. Needs no application
-/// object. Thread: the main one, before others run. A stack that overflows leaves a report on this
-/// thread only. Errors: a folder that can't be made means no reports.
+/// Watches for crashes, uncaught exceptions and trap stops. A stack that overflows leaves a report
+/// on this thread only. Thread: main, before others run. Errors: no folder, no reports.
 void start();
 
 /// Where the reports lie, readable by the user alone.

@@ -31,7 +31,6 @@ QByteArray contents(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(reportLimit) : QByteArray();
 }
 
-// Gives a report's file the name that tells its state, and returns the new path.
 QString marked(const QString &path, const QString &state)
 {
     const QFileInfo file(path);

@@ -7,17 +7,14 @@
 
 #include <functional>
 
-/// Sends texts to the service that takes crash reports.
-/// Thread: the main one.
+/// Sends texts to the service that takes crash reports. Thread: main.
 class CrashService : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    /// Whether anything may be sent at all: an address is built in, the user has not asked to be
-    /// left alone.
+    /// An address is built in, and the user has not asked to be left alone.
     [[nodiscard]] static bool isConfigured();
-    /// The user's standing answer that everything may be sent.
     [[nodiscard]] static bool mayAlwaysSend();
     static void setMayAlwaysSend();
 

@@ -3,8 +3,7 @@
 
 #include <cstdint>
 
-/// Writes text with write(2) alone, as a signal handler must: no memory, no locks.
-/// Errors: what can't be written is left out.
+/// Writes with write(2) alone, as a signal handler must. Errors: what can't be written is left out.
 class ReportWriter {
 public:
     explicit ReportWriter(int descriptor);

@@ -6,16 +6,14 @@
 #include <QObject>
 #include <QString>
 
-/// Tells the crash service that a session starts and, when the next one does, how this one ended.
-/// Each has a random number of its own. Nothing is sent or stored unless the user has agreed to
-/// everything being sent. Thread: the main one.
+/// Tells the crash service that a session starts and how the one before ended. Nothing is sent or
+/// stored unless the user has agreed to everything being sent. Thread: main.
 class SessionEvents : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    /// Once, when the program starts; the clean end is noted when the application object is about
-    /// to quit.
+    /// Once, at the start; the clean end is noted when the application is about to quit.
     void begin();
 
 private:

@@ -3,8 +3,6 @@
 
 class ReportWriter;
 
-/// Writes the stack of the crash that a signal handler was called for, a line a frame, innermost
-/// first: the program file or library by name alone, plus the offset in it that addr2line takes.
-/// `context` is the handler's third argument.
-/// Thread: the crashed one, inside the handler; takes no memory.
+/// Writes the stack of a crash, innermost frame first: the program's or library's name and the
+/// offset that addr2line takes. `context` is the signal handler's third argument. Takes no memory.
 void writeStack(ReportWriter &report, void *context);

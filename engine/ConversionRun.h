@@ -9,7 +9,6 @@
 
 class Task;
 
-/// What one conversion is asked to do.
 struct ConversionJob {
     QString path;
     QString destPath;
@@ -17,12 +16,11 @@ struct ConversionJob {
     JSON conversionInfo = {};
 };
 
-/// The complete argument list of the tool for a conversion.
-/// Thread: any.
+/// The complete argument list of the tool for a conversion. Thread: any.
 [[nodiscard]] QStringList conversionArguments(const ConversionJob &job);
 
-/// One run of the tool from launch to clean-up: follows its output, judges its end, removes what it
-/// must not leave behind. Thread: one, the run's own; `errorHandler` is posted to the main thread.
+/// One run of the tool: follows its output, judges its end, removes what must not stay. Thread: the
+/// run's own; `errorHandler` is posted to the main thread.
 class ConversionRun {
 public:
     ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,

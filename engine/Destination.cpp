@@ -22,7 +22,6 @@ bool mayWrite(const QString &path, int mode)
     return ::access(QFile::encodeName(path).constData(), mode) == 0;
 }
 
-/// A folder, a device or a link that leads nowhere stands there.
 std::optional<Outcome> obstacleAt(const QString &path)
 {
     const QFileInfo file(path);

@@ -8,12 +8,9 @@
 #include <functional>
 #include <optional>
 
-/// Where a result is to stand, and what it must not replace.
 struct Destination {
     QString path = {};
-    /// Videos that are to be converted.
     QStringList sources = {};
-    /// Results of the same run, this one's path among them or not.
     QStringList otherResults = {};
     bool overwrite = false;
 };

@@ -5,13 +5,11 @@
 
 #include <optional>
 
-/// Finds the "Duration:" line in output that keeps growing. Equals a search over the whole text
-/// after each block, but searches and keeps no line twice. Thread: one at a time.
+/// Finds the "Duration:" line in output that keeps growing, as a search over all of it would, but
+/// searches no line twice. Thread: one at a time.
 class DurationScanner {
 public:
-    /// Takes the next block of output.
     void append(const QString &block);
-    /// The length in seconds, once it is known.
     [[nodiscard]] std::optional<qint64> duration();
 
 private:

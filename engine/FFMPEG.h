@@ -17,9 +17,8 @@ struct Outcome;
 /// Whether a probe takes a cover picture, which costs a second run of a tool.
 enum class Cover { Taken, LeftOut };
 
-/// Examines and converts videos, each time by one run of a tool in the application's bundle.
-/// Thread: call on the main thread; every call returns at once. All handlers run on the main
-/// thread.
+/// Examines and converts videos, each time by one run of a tool of the bundle. Thread: main, the
+/// handlers too; every call returns at once.
 class FFMPEG {
 public:
     /// `cover` is a null image when no frame could be taken; `duration` is the text to show.
@@ -33,16 +32,14 @@ public:
     /// Describes a video. Exactly one of the handlers runs.
     static void collectMovieInfo(const QString &path, std::function<void()> errorHandler,
         const InfoHandler &completionHandler);
-    /// The same, with the reason of a refusal, and without a cover where that is left out. The
-    /// cover alone needs `ffmpeg`.
+    /// The same, with the reason of a refusal. Only the cover needs `ffmpeg`.
     static void collectMovieInfo(const QString &path,
         const std::function<void(const Outcome &)> &errorHandler,
         const InfoHandler &completionHandler, Cover cover = Cover::Taken);
 
-    /// Converts a probed video. The progress object is indeterminate until the tool reports the
-    /// length. Cancelling it stops the tool and removes the partial output. Errors: `errorHandler`
-    /// runs at most once; a tool that can't be launched cancels the progress object instead. A
-    /// destination that must not be replaced is refused: nothing is launched, nothing is removed.
+    /// Converts a probed video. Cancelling the progress object stops the tool and removes the
+    /// partial output. Errors: `errorHandler` runs at most once; a tool that can't be launched
+    /// cancels the progress object instead. A refused destination is left alone.
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
         const VideoConstraints &constraints, const JSON &conversionInfo,
         ConversionErrorHandler errorHandler);

@@ -3,7 +3,6 @@
 
 #include <QString>
 
-/// Why a video was refused, or how its conversion ended.
 enum class Reason {
     Done,
     // The source
@@ -55,7 +54,6 @@ enum class Reason {
     Cancelled,
 };
 
-/// Groups of reasons, as an exit code or a window tells them apart.
 enum class OutcomeKind {
     Done,
     InputRefused,
@@ -67,19 +65,16 @@ enum class OutcomeKind {
     Cancelled,
 };
 
-/// How the work on one video ended.
 struct Outcome {
     Reason reason = Reason::Done;
     /// Fills the sentence: a program's path, an encoder's or muxer's name, or the tool's own words.
     QString detail = {};
-    /// Where an incomplete result ends.
     qint64 seconds = 0;
 
     bool operator==(const Outcome &) const = default;
     [[nodiscard]] bool isDone() const { return reason == Reason::Done; }
 };
 
-/// Thread: any.
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);

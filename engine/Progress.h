@@ -12,15 +12,14 @@
 #include <utility>
 #include <vector>
 
-/// How far a run is, and the way to stop it.
-/// Units: whole seconds of media; the total is negative while the length is unknown.
-/// Thread: any. Observers run on the thread that writes, without a lock held; the cancellation
-/// handler runs on the thread that cancels, or at once when it is set after that.
+/// How far a run is, and the way to stop it. Units: whole seconds of media; the total is negative
+/// while the length is unknown. Thread: any. Observers run on the thread that writes, the
+/// cancellation handler on the one that cancels, both without a lock held.
 class Progress {
 public:
     enum class Kind { Unspecified, File };
     enum class Key { FractionCompleted, CompletedUnitCount };
-    /// Identifies an observer; the address of anything that outlives the registration.
+    /// The address of anything that outlives the registration.
     using Context = const void *;
     using Observer = std::function<void(Key)>;
 
@@ -34,12 +33,10 @@ public:
     void setTotalUnitCount(qint64 count);
     [[nodiscard]] qint64 completedUnitCount() const { return read(m_completedUnitCount); }
     void setCompletedUnitCount(qint64 count);
-    /// Completed divided by total; 0 while the total is unknown or 0.
     [[nodiscard]] double fractionCompleted() const;
     [[nodiscard]] bool isIndeterminate() const { return totalUnitCount() < 0; }
 
     [[nodiscard]] bool isCancelled() const { return read(m_cancellation.happened); }
-    /// Cancels; the handler runs the first time.
     void cancel() { fire(m_cancellation); }
     void setCancellationHandler(std::function<void()> handler)
     {
@@ -48,12 +45,10 @@ public:
 
     void addObserver(Key key, Context context, Observer observer);
     void removeObserver(Key key, Context context);
-    /// Number of registered observers, all keys together.
     [[nodiscard]] std::size_t observerCount() const;
 
     /// The run is over for good: its tool is gone and its destination kept or removed.
     [[nodiscard]] bool isEnded() const { return read(m_end.happened); }
-    /// Marks the end. Called once, by the run.
     void end() { fire(m_end); }
     /// Runs at the end on the run's thread, or at once when the run has ended already.
     void setEndHandler(std::function<void()> handler) { setHandler(m_end, std::move(handler)); }

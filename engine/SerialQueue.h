@@ -6,8 +6,8 @@
 #include <functional>
 #include <memory>
 
-/// Runs blocks one after the other on background threads, also when nobody holds the queue any
-/// more. Different queues run side by side. Thread: any.
+/// Runs blocks one after the other in the background, also when nobody holds the queue any more.
+/// Thread: any.
 class SerialQueue {
 public:
     explicit SerialQueue(QString label);

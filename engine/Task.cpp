@@ -23,7 +23,6 @@ constexpr auto floodLimit = qsizetype{ 64 } * 1024 * 1024;
 std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
 std::atomic<bool> readingStopped = false;
 
-// Runs in the child between fork and exec.
 void dieWithParent([[maybe_unused]] pid_t parent)
 {
 #ifdef Q_OS_LINUX

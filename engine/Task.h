@@ -10,23 +10,19 @@
 
 #include <chrono>
 
-/// Raised by Task::launch.
 struct LaunchException {
     QString name;
     QString reason;
 };
 
-/// What Task::tryLaunch makes of a launch path that does not exist or can't be executed.
 struct LaunchError {
     QString domain;
     int code = 0;
     QString localizedDescription;
 };
 
-/// One run of a tool of the bundle. Its standard output and standard error arrive in one stream of
-/// bytes; it inherits environment, folder and standard input, runs in a sandbox, and dies with this
-/// program, however that ends. Thread: one; a task is made, used and destroyed on the thread of its
-/// run.
+/// One run of a tool of the bundle, with standard output and standard error in one stream. It runs
+/// in a sandbox and dies with this program, however that ends. Thread: the run's.
 class Task {
 public:
     /// Name of the exception for a launch path that does not exist or can't be executed.
@@ -38,30 +34,25 @@ public:
 
     void setLaunchPath(const QString &path);
     void setArguments(const QStringList &arguments);
-    /// Grants the tool the files that it needs; see Sandbox.
     void setAccess(const ToolAccess &access);
 
-    /// Errors: throws LaunchException.
     virtual void launch();
-    /// Launches under a guard. False exactly when an error was produced: for the exception named
-    /// invalidArgument. An exception of another name goes on; a thrown object of another kind is
-    /// swallowed and counts as success.
+    /// Launches under a guard. False exactly for the exception named invalidArgument, which becomes
+    /// the error. Another LaunchException goes on; any other thrown object counts as success.
     bool tryLaunch(LaunchError *error = nullptr);
 
     /// True until the exit has been noticed after the last output was read.
     [[nodiscard]] bool isRunning() const;
     /// The next output; waits a moment for it. Empty when the tool is silent or has ended.
     [[nodiscard]] QByteArray availableData();
-    /// All output until the tool ends. A tool that floods, is silent beyond the limit, or outlives
-    /// stopReading() is ended.
+    /// All output until the tool ends. Ends a tool that floods or is silent for too long.
     [[nodiscard]] QByteArray readDataToEndOfFile();
     /// Ends the tool and waits for its end: SIGTERM, after three seconds SIGKILL. Drops its output.
     void terminate();
-    /// Exit status; never 0 for a tool that died by a signal.
+    /// Never 0 for a tool that died by a signal.
     [[nodiscard]] int terminationStatus() const;
     void closeFile();
 
-    /// The tool has printed nothing for longer than the limit.
     [[nodiscard]] bool isSilentForTooLong() const;
     /// Units: seconds a tool may be silent; process-wide, 300 at first.
     static void setSilenceLimit(std::chrono::seconds limit);

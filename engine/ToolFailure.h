@@ -5,6 +5,5 @@
 
 #include <QByteArray>
 
-/// Why a run of the tool failed, read from its last lines.
-/// Thread: any.
+/// Why a run of the tool failed, read from its last lines. Thread: any.
 [[nodiscard]] Outcome toolFailure(const QByteArray &output);

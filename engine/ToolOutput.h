@@ -6,7 +6,6 @@
 
 #include <optional>
 
-/// Reads what the tools print.
 /// Thread: any.
 namespace ToolOutput {
 
@@ -16,16 +15,14 @@ namespace ToolOutput {
 /// the position.
 [[nodiscard]] const QRegularExpression &regexprProgress();
 
-/// Whole seconds of the first "hours:minutes:seconds" in a text; the fraction is dropped. Absent
-/// without one. Errors: a number of seconds beyond 64 bits stops the program.
+/// Whole seconds of the first "hours:minutes:seconds" in a text. Errors: a number of seconds beyond
+/// 64 bits stops the program.
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
-/// Position in the last progress report of a block, in seconds.
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
-/// The tool reports that it could not write the end of its result, on a full disk for example; some
-/// versions still end with status 0. The names of the files are not taken for the tool's words.
+/// The tool could not write the end of its result; some versions still end with status 0. The
+/// files' names are not taken for the tool's words.
 [[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);
-/// A block of output as text. When it can't be decoded as a whole, because the tool cut a tag in
-/// the middle of a character, only the broken lines are lost.
+/// A block of output as text. When the tool cut a character, only its line is lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
 
 }

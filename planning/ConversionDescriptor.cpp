@@ -23,8 +23,7 @@ QStringList mapArguments(const ChosenStream &stream)
     return { u"-map"_s, u"0:"_s + QString::number(stream.index) };
 }
 
-/// The longer side becomes the bound, the tool makes the other one even. Empty when the picture
-/// fits.
+/// The longer side becomes the bound, the tool makes the other one even.
 QStringList scalingArguments(const JSON &video, const VideoDimensionsConstraints &constraints)
 {
     const std::optional<qint64> width = video[u"width"_s].integer();

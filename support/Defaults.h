@@ -5,8 +5,7 @@
 #include <QVariant>
 #include <QVariantMap>
 
-/// The user's settings store under a layer of registered defaults, which are never written to disk
-/// and are consulted only when the user's store has no value. Thread: any.
+/// The user's settings over registered defaults, which are never written to disk. Thread: any.
 namespace Defaults {
 
 void registerDefaults(const QVariantMap &defaults);

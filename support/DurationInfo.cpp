@@ -15,18 +15,17 @@ DurationInfo::DurationInfo(qint64 seconds)
 QString DurationInfo::toString() const
 {
     if (m_days >= 1)
-        return formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%dd %dh %dm %ds",
-                             "format string for days/hours/minutes/seconds")),
+        return formatted(QT_TRANSLATE_NOOP3("Localizable", "%dd %dh %dm %ds",
+                             "format string for days/hours/minutes/seconds"),
             { m_days, m_hours, m_minutes, m_seconds });
     if (m_hours >= 1)
-        return formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%dh %dm %ds",
-                             "format string for hours/minutes/seconds")),
+        return formatted(QT_TRANSLATE_NOOP3("Localizable", "%dh %dm %ds",
+                             "format string for hours/minutes/seconds"),
             { m_hours, m_minutes, m_seconds });
     if (m_minutes >= 1)
-        return formatted(localized(QT_TRANSLATE_NOOP3(
-                             "Localizable", "%dm %ds", "format string for minutes/seconds")),
+        return formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "%dm %ds", "format string for minutes/seconds"),
             { m_minutes, m_seconds });
     return formatted(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "%ds", "format string for seconds")),
-        { m_seconds });
+        QT_TRANSLATE_NOOP3("Localizable", "%ds", "format string for seconds"), { m_seconds });
 }

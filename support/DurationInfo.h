@@ -3,9 +3,8 @@
 
 #include <QString>
 
-/// A duration split for display.
-/// Units: hours are the total hours, not those left over after the days; minutes and seconds are
-/// within 0 to 59. Thread: any.
+/// A duration split for display. Units: hours are the total hours, not those left over after the
+/// days. Thread: any.
 class DurationInfo {
 public:
     explicit DurationInfo(qint64 seconds);

@@ -47,3 +47,8 @@ QString formatted(const QString &format, const std::vector<FormatArgument> &argu
     result += QStringView(format).mid(copied);
     return result;
 }
+
+QString formatted(const LocalizedText &format, const std::vector<FormatArgument> &arguments)
+{
+    return formatted(localized(format), arguments);
+}

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Localized.h"
+
 #include <QString>
 
 #include <variant>
@@ -8,10 +10,10 @@
 
 using FormatArgument = std::variant<qint64, QString>;
 
-/// Fills the directives of a format that may come from a translator or be composed at run time.
-/// Numbers get the digits of the user's locale. Knows %d, %i, %u and %s, %@ with flags, widths and
-/// length letters (which change nothing), positions as in %2$d, and %%. Any argument suits any
-/// directive; a directive without an argument prints nothing; an unknown one stays as it stands.
-/// Thread: any.
+/// Fills %d, %i, %u, %s and %@ of a format, also with flags, widths, length letters and positions
+/// as in %2$d. Numbers get the digits of the user's locale. A directive without an argument prints
+/// nothing; an unknown one stays. Thread: any.
 [[nodiscard]] QString formatted(
     const QString &format, const std::vector<FormatArgument> &arguments);
+[[nodiscard]] QString formatted(
+    const LocalizedText &format, const std::vector<FormatArgument> &arguments);

@@ -3,8 +3,8 @@
 
 #include <QObject>
 
-/// The wish to stop: Ctrl-C, Ctrl-\, SIGTERM, a terminal that was closed, or a reader of the output
-/// that has gone. One object per program, on the main thread.
+/// The wish to stop: a signal, a closed terminal, or a reader of the output that has gone. One
+/// object per program, on the main thread.
 class Interruption : public QObject {
     Q_OBJECT
 

@@ -7,8 +7,7 @@
 #include <optional>
 #include <vector>
 
-/// A read-only JSON value with lenient access: a missing member, a wrong type or bytes that are no
-/// JSON read as null. Thread: any.
+/// A read-only JSON value: a missing member, a wrong type or no JSON read as null. Thread: any.
 class JSON {
 public:
     JSON() = default;
@@ -16,13 +15,9 @@ public:
     /// The value that the bytes describe; null when they are not JSON.
     static JSON parse(const QByteArray &bytes);
 
-    /// Member of an object; null when there is none.
     [[nodiscard]] JSON operator[](const QString &key) const;
-    /// Elements of an array; empty for anything else.
     [[nodiscard]] std::vector<JSON> array() const;
-    /// The value if it is text.
     [[nodiscard]] std::optional<QString> string() const;
-    /// Text, or a number's decimal text, or "true" or "false"; empty otherwise.
     [[nodiscard]] QString stringValue() const;
     /// The value if it is a number, cut toward zero; absent outside the signed 64-bit range.
     [[nodiscard]] std::optional<qint64> integer() const;

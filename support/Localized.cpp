@@ -3,11 +3,12 @@
 
 #include <QLocale>
 
-QString localized(const LocalizedText &text)
+QString localized(const LocalizedText &text) { return localized(text, text.key); }
+
+QString localized(const LocalizedText &text, const char *english)
 {
-    const QString key = QString::fromUtf8(text.key);
     const QString translation = QCoreApplication::translate("Localizable", text.key, text.comment);
-    return text.fallback && translation == key ? QString::fromUtf8(text.fallback) : translation;
+    return translation == QString::fromUtf8(text.key) ? QString::fromUtf8(english) : translation;
 }
 
 std::optional<QString> languageCode()

@@ -4,9 +4,8 @@
 #include <chrono>
 #include <functional>
 
-/// Work for the application object's thread, run there in the order of posting, never inline.
-/// Thread: any.
-/// Errors: work posted without an application object, or not yet run when it goes, is dropped.
+/// Work for the main thread, in the order of posting, never inline. Thread: any. Errors: work
+/// without an application object is dropped.
 namespace MainQueue {
 
 void post(std::function<void()> block);

@@ -6,27 +6,23 @@
 
 #include <optional>
 
-/// Path arithmetic on text alone; the disk is never asked. "/" separates; repeated and trailing
-/// separators do not count. Thread: any.
+/// Path arithmetic on text alone; the disk is never asked. Thread: any.
 namespace Path {
 
 /// "/tmp/a.mov" and "/tmp/a.mov/" give "a.mov"; "/" gives "/"; empty text gives empty text.
 [[nodiscard]] QString lastPathComponent(const QString &path);
-/// Without the dot. A name whose only dot leads it has none: ".mov" gives empty text, ".a.mov"
-/// gives "mov".
+/// Without the dot: ".mov" gives empty text, ".a.mov" gives "mov".
 [[nodiscard]] QString pathExtension(const QString &path);
 /// "/tmp/a.mov" gives "/tmp", "/tmp" gives "/", "a.mov" gives empty text.
 [[nodiscard]] QString stringByDeletingLastPathComponent(const QString &path);
-/// Drops one extension and any trailing separator: "/tmp/a.b.mov" gives "/tmp/a.b", "/tmp/" gives
-/// "/tmp".
+/// Drops one extension: "/tmp/a.b.mov" gives "/tmp/a.b", "/tmp/" gives "/tmp".
 [[nodiscard]] QString stringByDeletingPathExtension(const QString &path);
 /// A separator at either end counts as a component "/"; empty components are left out.
 [[nodiscard]] QStringList pathComponents(const QString &path);
 /// Joins with exactly one separator; an empty path gives the component alone.
 [[nodiscard]] QString stringByAppendingPathComponent(const QString &path, const QString &component);
-/// "/tmp/a" and "mov" give "/tmp/a.mov"; trailing separators are dropped first.
-/// Errors: absent for an empty extension or one with a separator, and for a path without a name to
-/// extend (empty, "/", or a name that starts with a tilde).
+/// "/tmp/a" and "mov" give "/tmp/a.mov". Errors: absent for an empty extension or one with a
+/// separator, and for a path without a name to extend.
 [[nodiscard]] std::optional<QString> stringByAppendingPathExtension(
     const QString &path, const QString &extension);
 

@@ -3,27 +3,27 @@
 
 #include "support/Defaults.h"
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// In the order of PreferencesKeys.
+constexpr std::array names{ "IsFirstRun"_L1, "FirstLaunch"_L1 };
+
+}
 
 std::optional<PreferencesKeys> preferencesKey(QStringView rawValue)
 {
-    if (rawValue == u"IsFirstRun")
-        return PreferencesKeys::IsFirstRun;
-    if (rawValue == u"FirstLaunch")
-        return PreferencesKeys::FirstLaunch;
-    return std::nullopt;
+    const auto *const found = std::find(names.begin(), names.end(), rawValue);
+    return found == names.end()
+        ? std::nullopt
+        : std::optional(static_cast<PreferencesKeys>(found - names.begin()));
 }
 
-QString rawValue(PreferencesKeys key)
-{
-    switch (key) {
-    case PreferencesKeys::IsFirstRun:
-        return u"IsFirstRun"_s;
-    case PreferencesKeys::FirstLaunch:
-        return u"FirstLaunch"_s;
-    }
-    Q_UNREACHABLE();
-}
+QString rawValue(PreferencesKeys key) { return names.at(static_cast<std::size_t>(key)); }
 
 void Preferences::registerDefaults()
 {

@@ -10,15 +10,13 @@ class QNetworkAccessManager;
 class QNetworkReply;
 class QUrl;
 
-/// What one answer may cost, redirections included.
 struct FetchLimits {
     qint64 bytes;
     std::chrono::milliseconds time;
 };
 
-/// Reads a web address into a device, within limits. Follows at most five redirections, never to a
-/// less safe scheme. Thread: the one it was made on. Errors: an answer that is too long, too slow,
-/// or not a success ends with finished(false).
+/// Reads a web address into a device, within limits and five redirections, never to a less safe
+/// scheme. Errors: anything but a complete success ends with finished(false). Thread: its own.
 class Fetch : public QObject {
     Q_OBJECT
 public:
@@ -29,7 +27,6 @@ public:
     Q_DISABLE_COPY_MOVE(Fetch)
 
 Q_SIGNALS:
-    /// The total is -1 while unknown.
     void progressed(qint64 received, qint64 total);
     /// Once, never from within the constructor.
     void finished(bool complete);

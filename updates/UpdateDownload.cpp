@@ -18,7 +18,6 @@ QString fileKind(const QUrl &url)
     return match.hasMatch() ? match.captured(1) : u"download"_s;
 }
 
-// A new file in the folder that is nobody else's.
 bool openNew(QFile &file, const QString &folder, const QString &name, const QString &kind)
 {
     QDir().mkpath(folder);

@@ -9,7 +9,7 @@
 #include <QTemporaryFile>
 
 /// Fetches the file of one item and, only when its signature verifies, puts it into a folder under
-/// a name of our own that never replaces anything. Thread: the main one.
+/// a name that never replaces anything. Thread: main.
 class UpdateDownload : public QObject {
     Q_OBJECT
 public:
@@ -24,7 +24,6 @@ public:
     void start();
 
 Q_SIGNALS:
-    /// The total is -1 while unknown.
     void progressed(qint64 received, qint64 total);
     void saved(const QString &path);
     /// Nothing was kept. `forged`: the file arrived, but is not what the vendor signed.

@@ -15,7 +15,6 @@ class UpdateDownload;
 class UpdaterDelegate;
 
 struct UpdaterSettings {
-    /// The running program's.
     QString version;
     /// Base64 of the Ed25519 public key; without one nothing is ever downloaded.
     QString publicKey{};
@@ -23,7 +22,6 @@ struct UpdaterSettings {
     FetchLimits feedLimits{ qint64{ 1024 } * 1024, std::chrono::seconds(30) };
     FetchLimits fileLimits{ qint64{ 512 } * 1024 * 1024, std::chrono::minutes(60) };
 
-    /// What this build was configured with.
     [[nodiscard]] static UpdaterSettings configured();
 };
 
@@ -31,24 +29,18 @@ struct UpdateCheck {
     enum class Outcome {
         Available,
         UpToDate,
-        /// This build has no feed.
         NotConfigured,
-        /// The feed could not be read.
         Failed,
         /// The feed announces newer versions, but nothing that the vendor signed.
         Untrusted,
     };
     Outcome outcome = Outcome::Failed;
-    /// Asked for by the user, who awaits an answer whatever it is.
     bool byUser = false;
-    /// When one is available.
     AppcastItem item{};
-    /// The announcement is signed, so the item may be downloaded.
     bool isDownloadable = false;
 };
 
-/// Looks for newer versions of the program, on the user's command and once a day.
-/// Thread: the main one.
+/// Looks for newer versions, on the user's command and once a day. Thread: main.
 class Updater : public QObject {
     Q_OBJECT
 public:
@@ -60,10 +52,8 @@ public:
     void setDelegate(const UpdaterDelegate *delegate) { m_delegate = delegate; }
     [[nodiscard]] const UpdaterSettings &settings() const { return m_settings; }
 
-    /// The menu's command.
     void checkForUpdates();
-    /// Checks when a day has passed since the last check, and looks again every hour while the
-    /// program runs. Does nothing in builds without a feed.
+    /// Checks when a day has passed since the last check, and looks again every hour.
     void checkInBackground();
     /// A download of an item that was announced as downloadable; the caller starts it and owns it.
     [[nodiscard]] std::unique_ptr<UpdateDownload> download(const AppcastItem &item) const;

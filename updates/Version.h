@@ -8,14 +8,12 @@
 #include <compare>
 #include <optional>
 
-/// A version such as "1.10.2", "2.0-rc.1" or "3.0b2", in the order of release: numbers by value,
-/// missing ones as 0, and a pre-release before its release.
+/// A version such as "1.10.2", "2.0-rc.1" or "3.0b2"; a pre-release comes before its release.
 class Version {
 public:
     Version() = default;
 
-    /// Absent when the text is no version; a leading "v" and build details after "+" are
-    /// overlooked.
+    /// Absent when the text is no version; a leading "v" and build details are overlooked.
     [[nodiscard]] static std::optional<Version> parse(const QString &text);
 
     friend std::strong_ordering operator<=>(const Version &left, const Version &right);

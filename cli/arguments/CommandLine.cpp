@@ -33,7 +33,6 @@ struct OptionRow {
     QLatin1StringView name;
     QLatin1StringView letter;
     bool hasValue;
-    /// Verbs that take it.
     std::array<bool, 4> takenBy;
 };
 
@@ -92,15 +91,15 @@ UsageText unknownEntry(const QString &name)
     for (const QString &entry : entryNames()) {
         if (entry.compare(name, Qt::CaseInsensitive) == 0)
             return usageError(
-                formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+                formatted(QT_TRANSLATE_NOOP3("Localizable",
                               "There is no output named \"%@\"; did you mean \"%@\"?",
-                              "Command line: wrong value of --to, and the nearest right one")),
+                              "Command line: wrong value of --to, and the nearest right one"),
                     { printable(name), entry }));
     }
     return usageError(
-        formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+        formatted(QT_TRANSLATE_NOOP3("Localizable",
                       "There is no output named \"%@\"; the command 'formats' lists them.",
-                      "Command line: wrong value of --to")),
+                      "Command line: wrong value of --to"),
             { printable(name) }));
 }
 
@@ -112,14 +111,14 @@ std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb ver
             continue;
         if (!row.takenBy.at(verbIndex))
             return usageError(
-                formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
-                              "Command line: a command and an option that does not belong to it")),
+                formatted(QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
+                              "Command line: a command and an option that does not belong to it"),
                     { QString(verbNames.at(verbIndex)), QString(row.name) }));
         const QStringList values = parser.values(row.name);
         if (row.hasValue && (values.size() > 1 || values.contains(QString())))
             return usageError(
-                formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
-                              "Command line: an option given twice or with an empty value")),
+                formatted(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
+                              "Command line: an option given twice or with an empty value"),
                     { QString(row.name) }));
     }
     return std::nullopt;
@@ -128,34 +127,28 @@ std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb ver
 QString wrongInputs(const CommandLine &line)
 {
     const auto count = line.inputs.size();
-    switch (line.verb) {
-    case Verb::Formats:
-        return count == 0 ? QString()
-                          : localized(QT_TRANSLATE_NOOP3("Localizable", "'formats' takes no files.",
-                              "Command line: wrong usage"));
-    case Verb::Probe:
-        return count == 1 ? QString()
-                          : localized(QT_TRANSLATE_NOOP3("Localizable",
-                              "'probe' takes exactly one file.", "Command line: wrong usage"));
-    case Verb::Plan:
-        return count == (line.info.isEmpty() ? 2 : 0)
-            ? QString()
-            : localized(QT_TRANSLATE_NOOP3("Localizable",
-                "'plan' takes either a video and an output file, or --info alone.",
-                "Command line: wrong usage"));
-    case Verb::Convert:
-        if (count == 0)
-            return localized(QT_TRANSLATE_NOOP3(
-                "Localizable", "There is no video to convert.", "Command line: wrong usage"));
-        if (line.output.isEmpty() == line.folder.isEmpty())
-            return localized(QT_TRANSLATE_NOOP3("Localizable",
-                "'convert' needs either --output or --folder.", "Command line: wrong usage"));
-        if (count > 1 && line.folder.isEmpty())
-            return localized(QT_TRANSLATE_NOOP3("Localizable",
-                "Several videos can't go to one output file; use --folder.",
-                "Command line: wrong usage"));
+    if (line.verb == Verb::Formats && count > 0)
+        return localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "'formats' takes no files.", "Command line: wrong usage"));
+    if (line.verb == Verb::Probe && count != 1)
+        return localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "'probe' takes exactly one file.", "Command line: wrong usage"));
+    if (line.verb == Verb::Plan && count != (line.info.isEmpty() ? 2 : 0))
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "'plan' takes either a video and an output file, or --info alone.",
+            "Command line: wrong usage"));
+    if (line.verb != Verb::Convert)
         return {};
-    }
+    if (count == 0)
+        return localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "There is no video to convert.", "Command line: wrong usage"));
+    if (line.output.isEmpty() == line.folder.isEmpty())
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "'convert' needs either --output or --folder.", "Command line: wrong usage"));
+    if (count > 1 && line.folder.isEmpty())
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "Several videos can't go to one output file; use --folder.",
+            "Command line: wrong usage"));
     return {};
 }
 
@@ -208,8 +201,8 @@ std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &argume
         return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
     if (!verb)
         return usageError(
-            formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
-                          "There is no command named \"%@\".", "Command line: wrong usage")),
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
+                          "Command line: wrong usage"),
                 { printable(name) }));
     return checkedLine(parser, *verb);
 }

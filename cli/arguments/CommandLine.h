@@ -12,7 +12,6 @@
 
 enum class Verb { Formats, Probe, Plan, Convert };
 
-/// What the program is asked to do; complete and consistent.
 struct CommandLine {
     Verb verb = Verb::Formats;
     bool json = false;
@@ -20,21 +19,17 @@ struct CommandLine {
     bool verbose = false;
     /// The entries named by --to; more than one only for "all".
     std::vector<VideoConstraints> entries;
-    /// Videos, as the user wrote them.
     QStringList inputs;
-    /// Result of the only video; empty when `folder` is given.
     QString output;
     QString folder;
     /// File with a saved media information, "-" for standard input.
     QString info;
 };
 
-/// A text to show instead: help, or what is wrong with the command line.
 struct UsageText {
     ExitCode code = ExitCode::Done;
     QString text;
 };
 
-/// Reads the program's arguments, the first being the program's own name. Needs an application
-/// object.
+/// Reads the program's arguments, the first being its own name.
 [[nodiscard]] std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &arguments);

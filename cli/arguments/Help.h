@@ -3,7 +3,6 @@
 
 #include "cli/arguments/CommandLine.h"
 
-/// Texts of --help.
 namespace Help {
 
 [[nodiscard]] QString general();

@@ -80,8 +80,8 @@ QString reportedSentence(const Outcome &outcome)
     QString sentence = printable(sentenceOf(outcome));
     if (kindOf(outcome) != OutcomeKind::Incomplete)
         return sentence;
-    return formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",
-                         "After: The converting progress was finished at 12s")),
+    return formatted(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",
+                         "After: The converting progress was finished at 12s"),
         { sentence });
 }
 

@@ -6,8 +6,7 @@
 #include <QJsonDocument>
 #include <QString>
 
-/// Standard output and standard error. A reader that has gone interrupts the program.
-/// Thread: any; a line is written whole.
+/// Standard output and standard error. A reader that has gone interrupts the program. Thread: any.
 namespace Output {
 
 void line(const QString &text);
@@ -16,7 +15,6 @@ void json(const QJsonDocument &document, QJsonDocument::JsonFormat format);
 void raw(const QString &text);
 void errorLine(const QString &text);
 void errorBytes(const QByteArray &bytes);
-/// The sentence as the command prints it.
 [[nodiscard]] QString reportedSentence(const Outcome &outcome);
 /// Says what went wrong with a file; returns what the program ends with.
 ExitCode failure(const QString &file, const Outcome &outcome);
@@ -24,7 +22,7 @@ ExitCode failure(const QString &file, const Outcome &outcome);
 /// Standard output could not be written, other than because its reader has gone.
 [[nodiscard]] bool hasFailed();
 
-/// Columns of the terminal at standard output; 0 when it is none that can move its cursor.
+/// 0 when standard output is no terminal that can move its cursor.
 [[nodiscard]] int terminalColumns();
 
 }

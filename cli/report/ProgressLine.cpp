@@ -61,14 +61,14 @@ QString progressText(const ProgressSample &sample)
     if (const auto percent = sample.percent())
         parts << QLocale().toString(*percent).rightJustified(3) + u'%';
     else
-        parts << formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%@ so far",
-                               "Time that a conversion of unknown length has taken")),
+        parts << formatted(QT_TRANSLATE_NOOP3("Localizable", "%@ so far",
+                               "Time that a conversion of unknown length has taken"),
             { DurationInfo(sample.elapsed / 1s).toString() });
     if (const auto speed = sample.speed())
         parts << QLocale().toString(*speed, 'f', *speed < 10 ? 1 : 0) + u'x';
     if (const auto left = sample.secondsLeft())
-        parts << formatted(localized(QT_TRANSLATE_NOOP3(
-                               "Localizable", "%@ left", "Time that a conversion still needs")),
+        parts << formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "%@ left", "Time that a conversion still needs"),
             { DurationInfo(*left).toString() });
     return parts.join(u"  "_s);
 }

@@ -3,15 +3,13 @@
 
 #include "cli/report/JsonReporter.h"
 #include "cli/report/Output.h"
-#include "cli/report/TerminalReporter.h"
+#include "cli/report/TextReporter.h"
 
 std::unique_ptr<Reporter> Reporter::suitable(bool json)
 {
     if (json)
         return std::make_unique<JsonReporter>();
-    if (Output::terminalColumns() > 0)
-        return std::make_unique<TerminalReporter>();
-    return std::make_unique<PlainReporter>();
+    return std::make_unique<TextReporter>();
 }
 
 void Reporter::printFailure(const ConversionItem &item, const Outcome &outcome)

@@ -7,27 +7,22 @@
 #include <chrono>
 #include <memory>
 
-/// Shows the user how conversions go.
-/// Thread: the main thread.
+/// Shows the user how conversions go. Thread: main.
 class Reporter {
 public:
     Reporter() = default;
     virtual ~Reporter() = default;
     Q_DISABLE_COPY_MOVE(Reporter)
 
-    /// The one that suits the output: JSON, a terminal, or anything else.
     [[nodiscard]] static std::unique_ptr<Reporter> suitable(bool json);
 
-    /// Time between two calls of progressed().
     [[nodiscard]] virtual std::chrono::milliseconds interval() const = 0;
     virtual void started(const ConversionItem &item) = 0;
     virtual void progressed(const ConversionItem &item, const ProgressSample &sample) = 0;
     virtual void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) = 0;
     virtual void failed(const ConversionItem &item, const Outcome &outcome) = 0;
-    /// After the last of several videos.
     virtual void summedUp(int converted, int all) = 0;
 
 protected:
-    /// Says on standard error what went wrong, with the file that it is about.
     static void printFailure(const ConversionItem &item, const Outcome &outcome);
 };

@@ -31,8 +31,8 @@ QString versionText()
     const QString version = Bundle::main()
                                 .infoString(u"CFBundleShortVersionString"_s)
                                 .value_or(Configuration::version());
-    return formatted(localized(QT_TRANSLATE_NOOP3(
-                         "Localizable", "Version %@", "about box, with the version number")),
+    return formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
         { version });
 }
 
@@ -51,8 +51,8 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &text)
 AboutWindow::AboutWindow()
 {
     setAttribute(Qt::WA_QuitOnClose, false);
-    setWindowTitle(formatted(localized(QT_TRANSLATE_NOOP3(
-                                 "Localizable", "About %@", "about box, with the program's name")),
+    setWindowTitle(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "About %@", "about box, with the program's name"),
         { programName() }));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 24);

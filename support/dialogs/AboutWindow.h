@@ -8,8 +8,7 @@
 class QLabel;
 class QPushButton;
 
-/// The about box: icon, name and version of the program, credits and a way to its web site. Closed,
-/// it is hidden only; open, it does not keep the program from ending with its main window.
+/// The about box. Open, it does not keep the program from ending with its main window.
 class AboutWindow : public QDialog {
     Q_OBJECT
 
@@ -20,7 +19,6 @@ public:
     void setCredits(const QString &credits);
     /// What the web-site button does. The button shows only when there are a handler and a site.
     void setOpenWebsiteHandler(const std::function<void()> &handler);
-    /// Shows the box and brings it to the front.
     void showWindow();
 
 private:

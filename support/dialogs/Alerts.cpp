@@ -63,16 +63,13 @@ void displayError(const QString &message, const QString &informativeText)
 
 bool displayQuestion(const QString &question)
 {
-    LocalizedText noText = QT_TRANSLATE_NOOP3("Localizable", "Alert.No", "");
-    noText.fallback = "No";
-    LocalizedText yesText = QT_TRANSLATE_NOOP3("Localizable", "Alert.Yes", "");
-    yesText.fallback = "Yes";
-
     QMessageBox box(QMessageBox::Information, {}, {}, QMessageBox::NoButton, parentWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(breakable(question));
-    QPushButton *no = box.addButton(localized(noText), QMessageBox::NoRole);
-    QPushButton *yes = box.addButton(localized(yesText), QMessageBox::YesRole);
+    QPushButton *no = box.addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Alert.No", ""), "No"), QMessageBox::NoRole);
+    QPushButton *yes = box.addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Alert.Yes", ""), "Yes"), QMessageBox::YesRole);
     box.setDefaultButton(no);
     box.setEscapeButton(no);
     box.exec();

@@ -3,10 +3,8 @@
 
 #include <QString>
 
-/// Alerts that stop the whole program until they are answered. All texts are shown as plain text.
-/// Thread: main.
+/// Alerts that stop the program until they are answered, in plain text.
 
-/// A warning with one button.
 void displayError(const QString &message, const QString &informativeText = {});
 /// True exactly when "Yes" was pressed; Return, Escape and closing the alert answer no.
 [[nodiscard]] bool displayQuestion(const QString &question);

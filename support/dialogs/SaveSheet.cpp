@@ -13,12 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString text(LocalizedText text, const char *english)
-{
-    text.fallback = english;
-    return localized(text);
-}
-
 QString withExtension(const QString &path, const QString &extension)
 {
     if (Path::pathExtension(path).compare(extension, Qt::CaseInsensitive) == 0)
@@ -30,16 +24,16 @@ bool mayUse(const QString &path, bool hasAsked)
 {
     const QString name = Path::lastPathComponent(path);
     if (QFileInfo(path).isDir()) {
-        displayError(formatted(
-            localized(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
-                "alert of the save panel, with the name of a folder")),
-            { name }));
+        displayError(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
+                          "alert of the save panel, with the name of a folder"),
+                { name }));
         return false;
     }
     return hasAsked || !QFileInfo::exists(path)
-        || displayQuestion(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
-                                         "“%@” already exists. Do you want to replace it?",
-                                         "question of the save panel, with the name of a file")),
+        || displayQuestion(formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
+                "question of the save panel, with the name of a file"),
             { name }));
 }
 
@@ -47,7 +41,8 @@ bool mayUse(const QString &path, bool hasAsked)
 
 SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QString extension)
     : QFileDialog(window,
-        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
+        localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
             "Convert"),
         folder)
     , m_extension(std::move(extension))
@@ -57,11 +52,12 @@ SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QStri
     setFileMode(AnyFile);
     setNameFilter(u"*."_s + m_extension);
     setLabelText(Accept,
-        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelPrompt", "prompt for save panel"),
+        localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelPrompt", "prompt for save panel"),
             "Convert"));
     setLabelText(FileName,
-        text(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
-                 "name label for save panel (<= 15 symbols)"),
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
+                      "name label for save panel (<= 15 symbols)"),
             "Result filename:"));
     selectFile(m_proposed);
 }

@@ -6,16 +6,15 @@
 
 class QLineEdit;
 
-/// File dialog for one result with one allowed extension; used through runSaveToSheet().
-/// Has no Q_OBJECT: the toolkit takes the desktop's own dialog only for its very own class.
+/// File dialog for one result with one extension; used through runSaveToSheet(). Has no Q_OBJECT:
+/// the toolkit takes the desktop's own dialog only for its very own class.
 class SaveSheet : public QFileDialog {
 public:
     SaveSheet(QWidget *window, const QString &folder, QString name, QString extension);
 
-    /// The confirmed path, once the dialog has been accepted.
     [[nodiscard]] QString path() const { return m_path; }
-    /// The path that a dialog of the desktop gave but the user did not want to replace, once it has
-    /// been rejected for that. Such a dialog has closed itself and can't be shown again.
+    /// What a dialog of the desktop gave but the user did not want to replace. Such a dialog has
+    /// closed itself and can't be shown again.
     [[nodiscard]] QString refusedPath() const { return m_refusedPath; }
 
 protected:

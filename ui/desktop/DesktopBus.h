@@ -7,8 +7,7 @@
 #include <chrono>
 #include <functional>
 
-/// Calls on D-Bus that nobody waits for. A missing bus or service is an error answer like any
-/// other. Thread: main.
+/// Calls on D-Bus that nobody waits for. A missing bus or service is an error answer.
 namespace DesktopBus {
 
 using Answer = std::function<void(const QDBusMessage &answer)>;
@@ -20,8 +19,7 @@ struct Method {
     QString name;
 };
 
-/// Calls a method; the answer comes later on the main thread, as an error message after the time
-/// limit.
+/// The answer comes later, as an error message after the time limit.
 void call(const QDBusConnection &bus, const Method &method, const QVariantList &arguments,
     const Answer &answer = {}, std::chrono::milliseconds limit = std::chrono::seconds(20));
 

@@ -3,9 +3,7 @@
 
 #include <QObject>
 
-/// One notification of the desktop, which the user may click.
-/// Thread: main; no call waits for the desktop.
-/// Errors: a desktop without notifications shows none.
+/// One notification of the desktop, which the user may click; none where there are none.
 class DesktopNotification : public QObject {
     Q_OBJECT
 
@@ -14,11 +12,9 @@ public:
 
     /// Shows two plain texts; a later notification takes the place of the earlier one.
     void show(const QString &title, const QString &text);
-    /// Takes the notification away.
     void close();
 
 Q_SIGNALS:
-    /// The user clicked the notification that was shown last.
     void activated();
 
 private Q_SLOTS:

@@ -26,8 +26,7 @@ void closeRequest(const QDBusObjectPath &request)
 
 }
 
-/// What the desktop gave. An answer that comes after the last owner left finds nobody and is given
-/// back at once.
+/// An answer that comes after the last owner left is given back at once.
 struct KeepAwake::Hold {
     QDBusObjectPath request;
     QDBusUnixFileDescriptor descriptor;

@@ -7,18 +7,16 @@
 
 class QLocalSocket;
 
-/// Makes later starts of the program, by the same user on the same display, hand their files to the
-/// one that runs. Thread: main. Errors: where no private place for the meeting exists or the
-/// running one does not answer, each start is on its own.
+/// Later starts of the program, by one user on one display, hand their files to the one that runs.
+/// Where that one does not answer, each start is on its own.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
     explicit SingleInstance(QObject *parent = nullptr);
 
-    /// True when a running instance took the files (none: it only shows itself); the caller then
-    /// ends. False when the caller goes on; from then on it takes the files of later starts. Waits
-    /// at most one second.
+    /// True when a running instance took the files; the caller then ends. Else this one takes the
+    /// files of later starts. Waits at most one second.
     [[nodiscard]] bool handOver(const QStringList &filePaths);
 
 Q_SIGNALS:

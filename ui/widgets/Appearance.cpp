@@ -2,12 +2,14 @@
 #include "ui/widgets/Appearance.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QStyle>
 #include <QVariant>
 #ifdef Q_OS_LINUX
+#include "ui/desktop/DesktopBus.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #endif
 
@@ -110,19 +112,17 @@ void Appearance::askDesktop()
         return;
     bus.connect(service, path, interface, u"SettingChanged"_s, this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
-    question << QString(appearanceSpace) << QString(schemeKey);
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-        const QDBusMessage answer = watcher->reply();
-        watcher->deleteLater();
-        if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
-            return;
-        // The portal wraps the value twice.
-        auto value = answer.arguments().constFirst().value<QDBusVariant>();
-        if (value.variant().canConvert<QDBusVariant>())
-            value = value.variant().value<QDBusVariant>();
-        settingChanged(appearanceSpace, schemeKey, value);
-    });
+    DesktopBus::call(bus, { service, path, interface, u"Read"_s },
+        { QString(appearanceSpace), QString(schemeKey) },
+        [self = QPointer(this)](const QDBusMessage &answer) {
+            if (!self || answer.type() != QDBusMessage::ReplyMessage
+                || answer.arguments().isEmpty())
+                return;
+            // The portal wraps the value twice.
+            auto value = answer.arguments().constFirst().value<QDBusVariant>();
+            if (value.variant().canConvert<QDBusVariant>())
+                value = value.variant().value<QDBusVariant>();
+            self->settingChanged(appearanceSpace, schemeKey, value);
+        });
 #endif
 }

@@ -6,14 +6,12 @@
 
 class QDBusVariant;
 
-/// Colours of the windows, light or dark as the desktop is, also when that changes while the
-/// program runs. Where the platform gives the program colours of its own, those stay. Thread: main;
-/// no call waits for the desktop.
+/// Colours of the windows, light or dark as the desktop is, also when that changes. Where the
+/// platform has colours of its own, those stay.
 class Appearance : public QObject {
     Q_OBJECT
 
 public:
-    /// Takes effect on all windows at once.
     Appearance();
 
     [[nodiscard]] static QPalette lightPalette();

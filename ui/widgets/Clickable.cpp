@@ -76,10 +76,14 @@ void Clickable::enable(QWidget *view)
     view->setAttribute(Qt::WA_Hover);
 }
 
-bool Clickable::isActivation(const QKeyEvent &event)
+bool Clickable::isPress(const QEvent &event)
 {
-    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return
-        || event.key() == Qt::Key_Enter;
+    if (event.type() == QEvent::MouseButtonPress)
+        return static_cast<const QMouseEvent &>(event).button() == Qt::LeftButton;
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 bool Clickable::changesLook(const QEvent &event)

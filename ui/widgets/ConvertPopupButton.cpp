@@ -61,7 +61,6 @@ void ConvertPopupButton::paintEvent(QPaintEvent *)
     paintIndicator(painter);
 }
 
-/// Arrow heads at the end of the line in reading direction.
 void ConvertPopupButton::paintIndicator(QPainter &painter)
 {
     const double arrow = fontMetrics().height() * 0.24;
@@ -74,11 +73,6 @@ void ConvertPopupButton::paintIndicator(QPainter &painter)
     const double titleCentre = m_cell.titleRectForBounds(rect()).center().y();
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     painter.translate(leftToRight ? width() - inset : inset, titleCentre);
-    const double offset = m_cell.pullsDown() ? -arrow / 2 : arrow;
-    const QPointF down[] = { { -arrow, offset }, { 0, offset + arrow }, { arrow, offset } };
+    const QPointF down[] = { { -arrow, -arrow / 2 }, { 0, arrow / 2 }, { arrow, -arrow / 2 } };
     painter.drawPolyline(down, 3);
-    if (!m_cell.pullsDown()) {
-        const QPointF up[] = { { -arrow, -offset }, { 0, -offset - arrow }, { arrow, -offset } };
-        painter.drawPolyline(up, 3);
-    }
 }

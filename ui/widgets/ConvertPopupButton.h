@@ -5,8 +5,7 @@
 
 #include <QPushButton>
 
-/// Opens the format menu; its face is drawn by its cell and never shows the chosen item.
-/// Thread: main.
+/// Opens the format menu; its face is drawn by its cell.
 class ConvertPopupButton : public QPushButton {
     Q_OBJECT
 

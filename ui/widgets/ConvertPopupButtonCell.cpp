@@ -8,14 +8,6 @@
 
 namespace {
 
-QString faceText()
-{
-    LocalizedText text
-        = QT_TRANSLATE_NOOP3("Localizable", "Convert.buttonTitle", "convert button title");
-    text.fallback = "Convert";
-    return localized(text);
-}
-
 QFont systemFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
@@ -26,7 +18,9 @@ QFont systemFont()
 }
 
 ConvertPopupButtonCell::ConvertPopupButtonCell(const QString &, bool pullsDown)
-    : m_overridenTitle(faceText())
+    : m_overridenTitle(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.buttonTitle", "convert button title"),
+            "Convert"))
     , m_pullsDown(pullsDown)
 {
 }

@@ -7,8 +7,7 @@
 
 #include <optional>
 
-/// The face of the convert button: the same word whatever menu item is chosen, a little above the
-/// middle. Units: points of the window. Thread: main.
+/// The face of the convert button: the same word whatever menu item is chosen. Units: points.
 class ConvertPopupButtonCell {
 public:
     /// The text is not shown. A pull-down cell's indicator points down, another's both ways.
@@ -17,7 +16,6 @@ public:
     /// The word in the user's language, fixed at construction.
     [[nodiscard]] const QString &overridenTitle() const { return m_overridenTitle; }
     [[nodiscard]] QString title() const { return m_overridenTitle; }
-    /// Changes nothing: the face keeps its word.
     void setTitle(const QString &) { }
     [[nodiscard]] bool pullsDown() const { return m_pullsDown; }
 

@@ -10,8 +10,7 @@ class QMimeData;
 [[nodiscard]] bool allowDragDrop(const QWidget *view);
 void setAllowDragDrop(QWidget *view, bool allow);
 
-/// The window's drop target. It gates drops by allowDragDrop() and hands them on; what they mean is
-/// not its business. Thread: main.
+/// The window's drop target: gates drops by allowDragDrop() and hands them on.
 class DropBox : public QFrame {
     Q_OBJECT
 
@@ -22,7 +21,7 @@ public:
     void registerForDraggedTypes(const QStringList &mimeTypes);
 
 Q_SIGNALS:
-    /// A drop that was allowed. The data lives only during the call.
+    /// The data lives only during the call.
     void performDragOperation(const QMimeData *data);
 
 protected:

@@ -4,7 +4,6 @@
 #include "ui/widgets/Clickable.h"
 
 #include <QEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
@@ -58,22 +57,12 @@ QSize ImageView::minimumSizeHint() const
     return sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? sizeHint() : QSize(1, 1);
 }
 
-void ImageView::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        Q_EMIT clicked();
-}
-
-void ImageView::keyPressEvent(QKeyEvent *event)
-{
-    if (Clickable::isActivation(*event))
-        Q_EMIT clicked();
-    else
-        QWidget::keyPressEvent(event);
-}
-
 bool ImageView::event(QEvent *event)
 {
+    if (isEnabled() && Clickable::isPress(*event)) {
+        Q_EMIT clicked();
+        return true;
+    }
     if (Clickable::changesLook(*event))
         update();
     if (event->type() == QEvent::FontChange)

@@ -8,7 +8,6 @@
 
 namespace {
 
-/// Fine enough to move by less than a pixel in any window.
 constexpr int steps = 10000;
 constexpr int busyFrameMilliseconds = 40;
 constexpr int busyFrames = 45;

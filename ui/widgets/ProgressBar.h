@@ -4,7 +4,6 @@
 #include <QProgressBar>
 
 /// A slim bar over a fraction of 0 to 1; busy while the length of the work is unknown.
-/// Thread: main.
 class ProgressBar : public QProgressBar {
     Q_OBJECT
 

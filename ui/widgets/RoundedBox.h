@@ -4,8 +4,7 @@
 #include <QColor>
 #include <QFrame>
 
-/// A box with round corners, filled with a colour of its own or that of lists and texts; a dashed
-/// outline invites drops. Thread: main.
+/// A box with round corners; a dashed outline invites drops.
 class RoundedBox : public QFrame {
     Q_OBJECT
     Q_PROPERTY(bool dashed READ isDashed WRITE setDashed)

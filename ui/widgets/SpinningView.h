@@ -5,8 +5,7 @@
 #include <QColor>
 #include <QWidget>
 
-/// Shows that work of unknown length goes on. Nothing is painted while it does not spin.
-/// Thread: main.
+/// Shows that work of unknown length goes on. Paints nothing while it does not spin.
 class SpinningView : public QWidget {
     Q_OBJECT
 
@@ -17,7 +16,6 @@ public:
     void setSpinning(bool spinning);
     [[nodiscard]] const QColor &spinColor() const { return m_spinColor; }
     void setSpinColor(const QColor &color);
-    /// The picture moves.
     [[nodiscard]] bool isAnimating() const { return m_timer.isActive(); }
 
     /// Called once when the view is about to be shown first; before that nothing moves.

@@ -4,7 +4,6 @@
 #include "ui/widgets/Clickable.h"
 
 #include <QEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -59,23 +58,12 @@ QSize TextField::minimumSizeHint() const
     return m_elided ? QSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height()) : hint;
 }
 
-void TextField::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        Q_EMIT clicked();
-    resetCursorRects();
-}
-
-void TextField::keyPressEvent(QKeyEvent *event)
-{
-    if (Clickable::isActivation(*event))
-        Q_EMIT clicked();
-    else
-        QLabel::keyPressEvent(event);
-}
-
 bool TextField::event(QEvent *event)
 {
+    if (isEnabled() && Clickable::isPress(*event)) {
+        Q_EMIT clicked();
+        return true;
+    }
     if (event->type() == QEvent::DynamicPropertyChange)
         resetCursorRects();
     if (Clickable::changesLook(*event))

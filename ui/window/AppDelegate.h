@@ -20,8 +20,7 @@ namespace Ui {
 class MainWindow;
 }
 
-/// Owns the single window and its state: connects its controls with the intake of files, the
-/// conversion and the closing, and shows what they report. Thread: main.
+/// Owns the window and its state, and connects its controls with intake, conversion and closing.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -34,18 +33,15 @@ public:
 
     [[nodiscard]] QMainWindow *window() { return &m_window; }
     [[nodiscard]] WindowUIState uiState() const { return m_uiState; }
-    /// Every assignment applies the state to the whole window.
     void setUiState(WindowUIState state);
     [[nodiscard]] QString selectedFileExt() const;
     [[nodiscard]] QString processingFilePath() const;
     [[nodiscard]] QString resultFilePath() const;
-    /// Everything that the tool of the last conversion printed.
     [[nodiscard]] QByteArray lastToolOutput() const;
 
     void applicationDidFinishLaunching();
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
-    /// Files that came from anywhere but the open panel; taken only while drops are. Only the first
-    /// counts.
+    /// Files from anywhere but the open panel; taken only while drops are. Only the first counts.
     void takeFiles(const QStringList &paths);
     void rawFormatMenuItemPressed(const QAction *item);
 

@@ -34,8 +34,8 @@ bool confirmsCancel()
             "Cancel progress alert message text")));
 }
 
-/// The engine's message is absent when the tool failed: then the outcome says why. As a part of a
-/// format, percent signs of the tool's own words count twice.
+/// Without the engine's message the outcome says why. It becomes part of a format: percent signs
+/// count twice.
 std::optional<QString> messageOf(const std::optional<QString> &errmsg, const Outcome &outcome)
 {
     return errmsg ? errmsg : sentenceOf(outcome).replace(u'%', u"%%"_s);

@@ -13,13 +13,11 @@
 class FileIntake;
 class QAction;
 
-/// Leads from the choice of an output to its result: asks for the destination, runs the conversion
-/// and follows it to its end. Thread: main.
+/// Leads from the choice of an output to its result.
 class ConversionFlow : public QObject {
     Q_OBJECT
 
 public:
-    /// What the user picked in the format menu.
     struct Choice {
         VideoConstraints constraints;
         QString ext;
@@ -33,28 +31,20 @@ public:
     /// Asks, then cancels the conversion that is shown. True when it is cancelled.
     bool cancelIfConfirmed();
     void cancelLastBytesIfConfirmed();
-    /// Reveals the result in the file browser.
     void openFolder() const;
 
-    /// Full path of the last conversion's result.
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
-    /// Everything that the tool of the last conversion printed.
     [[nodiscard]] QByteArray lastToolOutput() const;
-    /// The window follows a conversion.
     [[nodiscard]] bool isShown() const { return m_progress != nullptr; }
     /// A tool runs, also while it writes its last bytes or its partial result is removed.
     [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
-    /// A conversion ended, and its failure has been read.
     [[nodiscard]] bool isOver() const { return m_alerts == 0 && m_run && m_run->isEnded(); }
 
 Q_SIGNALS:
-    /// A negative fraction while the length is unknown.
     void progressed(double fraction);
     void finished();
-    /// Emitted before the alert with this message is shown. Not current: the window already shows
-    /// another video.
+    /// Emitted before the alert is shown. Not current: the window already shows another video.
     void failed(const QString &message, bool isCurrent);
-    /// By the user, or because the tool could not be launched.
     void cancelled(const Outcome &outcome);
     /// The tool is gone and its failure, if any, has been read.
     void ended();

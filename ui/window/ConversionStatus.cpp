@@ -71,8 +71,8 @@ void ConversionStatus::showPercent(int percent)
     m_percent = percent;
     m_launcher.show(m_fraction);
     m_window->setWindowTitle(
-        formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%d%% – %@",
-                      "window title while converting: percentage, program name")),
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%% – %@",
+                      "window title while converting: percentage, program name"),
             { qint64(percent), m_title }));
     showTimeLeft();
 }
@@ -84,10 +84,10 @@ void ConversionStatus::showTimeLeft()
     m_timeLeft.add(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
     const auto left = m_timeLeft.estimate();
     const QString text = left
-        ? formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%d%%, about %@ left",
-                        "percentage converted and time left, such as 1m 30s")),
+        ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%, about %@ left",
+                        "percentage converted and time left, such as 1m 30s"),
             { qint64(m_percent), DurationInfo(left->count()).toString() })
-        : formatted(localized(QT_TRANSLATE_NOOP3("Localizable", "%d%%", "percentage converted")),
+        : formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%", "percentage converted"),
             { qint64(m_percent) });
     if (text != m_timeLeftLabel->text())
         m_timeLeftLabel->setText(text);

@@ -13,8 +13,8 @@
 
 class QLabel;
 
-/// What tells of a conversion outside of the bar: the window's title, the task bar, the time left,
-/// a notification; and what keeps the machine awake for it. Thread: main.
+/// Tells of a conversion outside of the bar: title, task bar, time left, notification; and keeps
+/// the machine awake for it.
 class ConversionStatus : public QObject {
     Q_OBJECT
 
@@ -22,10 +22,8 @@ public:
     /// The label shows the percentage and the time left.
     ConversionStatus(QWidget *window, QLabel *timeLeftLabel);
 
-    /// The window has gone from one state into another one.
     void stateChanged(WindowUIState from, WindowUIState to);
-    /// A fraction of 0 to 1, negative while the length is unknown. Cheap enough for thousands of
-    /// calls a second.
+    /// A fraction of 0 to 1, negative while the length is unknown.
     void setFraction(double fraction);
     /// Tells the user, unless the window is in front.
     void notify(const QString &title, const QString &text);

@@ -13,22 +13,18 @@ class QMimeData;
 class QWidget;
 struct Outcome;
 
-/// Takes one file in, by drop, paste, command line or the open panel, and has it examined.
-/// Thread: main.
+/// Takes one file in, from wherever it comes, and has it examined.
 class FileIntake : public QObject {
     Q_OBJECT
 
 public:
-    /// `window` owns the open panel.
     explicit FileIntake(QWidget *window);
 
     /// Files are taken only while this is set; further ones of several are left out.
     void setOpen(bool open) { m_isOpen = open; }
-    /// Files that came from anywhere but the open panel.
     void takeFiles(const QStringList &paths);
     void performDragOperation(const QMimeData *data);
     void paste();
-    /// Asks for a file.
     void buttonPress();
     void processFile(const QString &path);
 
@@ -36,7 +32,6 @@ public:
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
     [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
     [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
-    /// Counts the files that were taken in.
     [[nodiscard]] int count() const { return m_count; }
 
 Q_SIGNALS:

@@ -3,8 +3,7 @@
 
 #include <QString>
 
-/// The name without extension that the save sheet proposes: the source's, at most 25 characters.
-/// Where that would be the source itself, with the next free number behind it. Thread: any; looks
-/// at the disk.
+/// What the save sheet proposes, without extension: the source's name, at most 25 characters,
+/// numbered where that would be the source itself. Looks at the disk.
 [[nodiscard]] QString proposedName(
     const QString &sourcePath, const QString &folder, const QString &ext);

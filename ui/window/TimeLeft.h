@@ -5,17 +5,14 @@
 #include <deque>
 #include <optional>
 
-/// Estimates how long a run will still take from how far it came when. Says nothing until the
-/// estimate is steady.
+/// Estimates how long a run will still take. Says nothing until the estimate is steady.
 class TimeLeft {
 public:
     using Duration = std::chrono::milliseconds;
 
-    /// Notes the fraction of 0 to 1 reached after a time since the start. Times don't decrease; a
-    /// fraction that falls starts the estimate anew.
+    /// Notes the fraction of 0 to 1 reached; one that falls starts the estimate anew.
     void add(Duration elapsed, double fraction);
-    /// The estimate, rounded as far as it can be relied on; absent while it is not steady and at
-    /// the end.
+    /// Rounded as far as it can be relied on; absent while it is not steady and at the end.
     [[nodiscard]] std::optional<std::chrono::seconds> estimate() const;
 
 private:

@@ -47,7 +47,6 @@ constexpr Row rows[] = {
     {Aspect::DropsAllowed, OUTLET(dropAcceptor),                  {yes,  no,     yes,     no,       yes}},
 };
 
-// The control to go on with, and the outlet that tells the state, by state.
 constexpr std::array<Outlet, 5> primaryControls{
     OUTLET(openFromFolderLabel), OUTLET(dropAcceptor), OUTLET(convertToButton), OUTLET(cancelProgressButton), OUTLET(openFolderImageView)};
 constexpr std::array<Outlet, 5> spokenOutlets{

@@ -24,9 +24,8 @@ QString outcomeText(UpdateCheck::Outcome outcome, const QString &version)
     case UpdateCheck::Outcome::Available:
         break;
     case UpdateCheck::Outcome::UpToDate:
-        return formatted(
-            localized(QT_TRANSLATE_NOOP3("Localizable",
-                "You have the newest version of Video Converter, %@.", "update check")),
+        return formatted(QT_TRANSLATE_NOOP3("Localizable",
+                             "You have the newest version of Video Converter, %@.", "update check"),
             { version });
     case UpdateCheck::Outcome::NotConfigured:
         return localized(QT_TRANSLATE_NOOP3(
@@ -97,9 +96,9 @@ void UpdateDialogs::showAvailable(const UpdateCheck &check)
         localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")));
     dialog->setMinimumWidth(440);
     auto *layout = new QVBoxLayout(dialog);
-    layout->addWidget(plainLabel(formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
-                                               "Video Converter %1$@ is available. You have %2$@.",
-                                               "update dialog: new, own version")),
+    layout->addWidget(plainLabel(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "Video Converter %1$@ is available. You have %2$@.",
+            "update dialog: new, own version"),
         { check.item.displayVersion, m_updater.settings().version })));
     if (!check.item.notes.isEmpty())
         layout->addWidget(notesView(check.item.notes));
@@ -135,9 +134,9 @@ void UpdateDialogs::startDownload(const AppcastItem &item)
     m_progress->setMinimumDuration(0);
     m_progress->setMinimumWidth(320);
     m_progress->setRange(0, 0);
-    m_progress->setLabelText(formatted(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Downloading version %@", "update download")),
-        { item.displayVersion }));
+    m_progress->setLabelText(
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "Downloading version %@", "update download"),
+            { item.displayVersion }));
     m_download = m_updater.download(item);
     connect(m_download.get(), &UpdateDownload::progressed, this, &UpdateDialogs::showProgress);
     connect(m_download.get(), &UpdateDownload::saved, this, &UpdateDialogs::showSaved);
@@ -161,9 +160,9 @@ void UpdateDialogs::showSaved(const QString &path)
     m_download.release()->deleteLater();
     const QFileInfo file(path);
     QMessageBox *box = showMessage(
-        formatted(localized(QT_TRANSLATE_NOOP3("Localizable",
+        formatted(QT_TRANSLATE_NOOP3("Localizable",
                       "The update is in your downloads folder as “%@”. Open it to install it.",
-                      "update download")),
+                      "update download"),
             { file.fileName() }));
     const auto *open = box->addButton(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Open Folder", "update download, button")),

@@ -15,12 +15,10 @@ class QProgressDialog;
 class QWidget;
 
 /// Shows what the updater finds, downloads on the user's word, and opens nothing by itself.
-/// Thread: the main one.
 class UpdateDialogs : public QObject {
     Q_OBJECT
 public:
-    /// `window` is the parent of the dialogs, `site` the vendor's web site or empty; both others
-    /// outlive this object.
+    /// `site` is the vendor's web site or empty; updater and window outlive this object.
     UpdateDialogs(Updater &updater, QWidget *window, QUrl site, QObject *parent = nullptr);
 
 private:
