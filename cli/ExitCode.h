@@ -3,6 +3,8 @@
 
 #include "engine/Outcome.h"
 
+#include <array>
+
 /// How the program ends. A cancelled program ends with 128 and the number of the signal instead.
 enum class ExitCode : int {
     Done = 0,
@@ -16,20 +18,9 @@ enum class ExitCode : int {
 
 [[nodiscard]] constexpr ExitCode exitCodeOf(OutcomeKind kind)
 {
-    switch (kind) {
-    case OutcomeKind::Done:
-        return ExitCode::Done;
-    case OutcomeKind::InputRefused:
-        return ExitCode::InputRefused;
-    case OutcomeKind::DestinationRefused:
-        return ExitCode::DestinationRefused;
-    case OutcomeKind::ToolMissing:
-        return ExitCode::ToolsMissing;
-    case OutcomeKind::Failed:
-    case OutcomeKind::Incomplete:
-        return ExitCode::ConversionFailed;
-    case OutcomeKind::Cancelled:
-        return ExitCode::Cancelled;
-    }
-    return ExitCode::ConversionFailed;
+    using enum ExitCode;
+    // In the order of the kinds.
+    constexpr std::array codes{ Done, InputRefused, DestinationRefused, ToolsMissing,
+        ConversionFailed, ConversionFailed, Cancelled };
+    return codes.at(static_cast<std::size_t>(kind));
 }

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-/// Sends texts to the service that takes crash reports. Thread: main.
+/// Thread: main.
 class CrashService : public QObject {
     Q_OBJECT
 public:

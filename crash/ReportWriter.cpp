@@ -22,20 +22,7 @@ ReportWriter &ReportWriter::text(const char *text)
     return *this;
 }
 
-ReportWriter &ReportWriter::decimal(std::uintmax_t number)
-{
-    this->number(number, 10);
-    return *this;
-}
-
-ReportWriter &ReportWriter::hex(std::uintmax_t number)
-{
-    text("0x");
-    this->number(number, 16);
-    return *this;
-}
-
-void ReportWriter::number(std::uintmax_t number, unsigned base)
+ReportWriter &ReportWriter::number(std::uintmax_t number, unsigned base)
 {
     char digits[24];
     char *start = digits + sizeof digits - 1;
@@ -44,5 +31,5 @@ void ReportWriter::number(std::uintmax_t number, unsigned base)
         *--start = "0123456789abcdef"[number % base];
         number /= base;
     } while (number > 0);
-    text(start);
+    return text(start);
 }

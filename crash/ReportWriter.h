@@ -9,11 +9,11 @@ public:
     explicit ReportWriter(int descriptor);
 
     ReportWriter &text(const char *text);
-    ReportWriter &decimal(std::uintmax_t number);
-    ReportWriter &hex(std::uintmax_t number);
+    ReportWriter &decimal(std::uintmax_t number) { return this->number(number, 10); }
+    ReportWriter &hex(std::uintmax_t number) { return text("0x").number(number, 16); }
 
 private:
-    void number(std::uintmax_t number, unsigned base);
+    ReportWriter &number(std::uintmax_t number, unsigned base);
 
     int m_descriptor;
 };

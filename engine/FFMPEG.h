@@ -43,7 +43,7 @@ public:
     static std::shared_ptr<Progress> convertFile(const QString &path, const QString &destPath,
         const VideoConstraints &constraints, const JSON &conversionInfo,
         ConversionErrorHandler errorHandler);
-    /// Ends running probes and waits for every conversion. Called once, before the program ends.
+    /// Ends probes and waits for conversions. Called once, before the program ends.
     static void shutDown();
 
 private:

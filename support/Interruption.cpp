@@ -55,10 +55,8 @@ Interruption::Interruption()
         Q_EMIT arrived();
     });
     ::signal(SIGPIPE, SIG_IGN);
-    watch(SIGINT);
-    watch(SIGTERM);
-    // As nohup leaves the one, and a script the other in what it runs in the background.
-    for (const int signalNumber : { SIGHUP, SIGQUIT }) {
+    // Ignored ones stay so: nohup and a script's background jobs leave them like that.
+    for (const int signalNumber : { SIGINT, SIGTERM, SIGHUP, SIGQUIT }) {
         if (!isIgnored(signalNumber))
             watch(signalNumber);
     }

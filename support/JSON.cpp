@@ -70,20 +70,11 @@ std::optional<QString> JSON::string() const
 
 QString JSON::stringValue() const
 {
-    switch (m_value.type()) {
-    case QJsonValue::String:
-        return m_value.toString();
-    case QJsonValue::Double:
+    if (m_value.isDouble())
         return m_value.toVariant().toString();
-    case QJsonValue::Bool:
+    if (m_value.isBool())
         return m_value.toBool() ? u"true"_s : u"false"_s;
-    case QJsonValue::Null:
-    case QJsonValue::Array:
-    case QJsonValue::Object:
-    case QJsonValue::Undefined:
-        break;
-    }
-    return {};
+    return m_value.toString();
 }
 
 std::optional<qint64> JSON::integer() const

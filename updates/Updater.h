@@ -48,7 +48,7 @@ public:
     ~Updater() override;
     Q_DISABLE_COPY_MOVE(Updater)
 
-    /// Asked for the feed's address before each check; outlives the updater.
+    /// Asked before each check; outlives the updater.
     void setDelegate(const UpdaterDelegate *delegate) { m_delegate = delegate; }
     [[nodiscard]] const UpdaterSettings &settings() const { return m_settings; }
 

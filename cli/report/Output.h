@@ -11,7 +11,6 @@ namespace Output {
 
 void line(const QString &text);
 void json(const QJsonDocument &document, QJsonDocument::JsonFormat format);
-/// As it stands, without an end of line.
 void raw(const QString &text);
 void errorLine(const QString &text);
 void errorBytes(const QByteArray &bytes);

@@ -5,5 +5,5 @@
 
 class QWidget;
 
-/// Shows a report and asks whether it may be sent; closing the window means no.
+/// Closing the window means no.
 [[nodiscard]] SendReport askToSendReport(QWidget *parent, const QString &report);

@@ -36,9 +36,10 @@ QString versionText()
         { version });
 }
 
-QLabel *addLabel(QVBoxLayout *layout, const QString &text)
+QLabel *addLabel(QVBoxLayout *layout, const QString &objectName, const QString &text = {})
 {
     auto *label = new QLabel(text);
+    label->setObjectName(objectName);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
@@ -59,23 +60,20 @@ AboutWindow::AboutWindow()
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addStrut(narrowest);
 
-    auto *icon = addLabel(layout, {});
+    auto *icon = addLabel(layout, u"icon"_s);
     icon->setPixmap(QApplication::windowIcon().pixmap(iconSize));
     icon->setHidden(QApplication::windowIcon().isNull());
 
-    QLabel *name = addLabel(layout, programName());
-    name->setObjectName(u"programName"_s);
+    QLabel *name = addLabel(layout, u"programName"_s, programName());
     QFont font = name->font();
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setBold(true);
     name->setFont(font);
 
-    QLabel *version = addLabel(layout, versionText());
-    version->setObjectName(u"version"_s);
+    QLabel *version = addLabel(layout, u"version"_s, versionText());
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    m_credits = addLabel(layout, {});
-    m_credits->setObjectName(u"credits"_s);
+    m_credits = addLabel(layout, u"credits"_s);
     m_credits->hide();
 
     m_website = new QPushButton(

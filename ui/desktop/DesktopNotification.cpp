@@ -16,9 +16,8 @@ const QString path = u"/org/freedesktop/Notifications"_s;
 void call(
     const QString &method, const QVariantList &arguments, const DesktopBus::Answer &answer = {})
 {
-    DesktopBus::call(QDBusConnection::sessionBus(),
-        { .service = service, .path = path, .interface = service, .name = method }, arguments,
-        answer);
+    DesktopBus::call(
+        QDBusConnection::sessionBus(), { service, path, service, method }, arguments, answer);
 }
 
 }

@@ -3,7 +3,6 @@
 
 #include <QString>
 
-/// The desktop's file browser. Without one nothing happens.
 namespace FileBrowser {
 
 void reveal(const QString &filePath);

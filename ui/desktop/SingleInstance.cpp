@@ -27,7 +27,7 @@ constexpr auto longestWait = 900ms;
 constexpr auto longestSilence = 5s;
 const QByteArray taken = "taken\n"_ba;
 
-/// Where the instances of one user on one display meet; empty when they can't.
+/// Empty when instances can't meet.
 QString meetingPlace()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);

@@ -44,7 +44,6 @@ public:
     }
 };
 
-/// A spinner is there only while it spins.
 class SpinnerInterface : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;

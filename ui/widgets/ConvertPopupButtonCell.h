@@ -13,7 +13,6 @@ public:
     /// The text is not shown. A pull-down cell's indicator points down, another's both ways.
     ConvertPopupButtonCell(const QString &text, bool pullsDown);
 
-    /// The word in the user's language, fixed at construction.
     [[nodiscard]] const QString &overridenTitle() const { return m_overridenTitle; }
     [[nodiscard]] QString title() const { return m_overridenTitle; }
     void setTitle(const QString &) { }

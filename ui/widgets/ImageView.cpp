@@ -41,12 +41,6 @@ void ImageView::setArtwork(const QString &resource)
     update();
 }
 
-void ImageView::setTinted(bool tinted)
-{
-    m_tinted = tinted;
-    update();
-}
-
 QSize ImageView::sizeHint() const
 {
     return (m_artworkSize * (fontMetrics().height() / referenceTextHeight)).toSize();

@@ -10,7 +10,7 @@
 class ImageView : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString artwork READ artwork WRITE setArtwork)
-    Q_PROPERTY(bool tinted READ isTinted WRITE setTinted)
+    Q_PROPERTY(bool tinted MEMBER m_tinted)
 
 public:
     explicit ImageView(QWidget *parent = nullptr);
@@ -20,8 +20,6 @@ public:
     /// Resource path of an SVG drawing, which shows when there is no image.
     [[nodiscard]] const QString &artwork() const { return m_artwork; }
     void setArtwork(const QString &resource);
-    [[nodiscard]] bool isTinted() const { return m_tinted; }
-    void setTinted(bool tinted);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

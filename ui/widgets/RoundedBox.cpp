@@ -3,18 +3,6 @@
 
 #include <QPainter>
 
-void RoundedBox::setDashed(bool dashed)
-{
-    m_dashed = dashed;
-    update();
-}
-
-void RoundedBox::setFill(const QColor &fill)
-{
-    m_fill = fill;
-    update();
-}
-
 void RoundedBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

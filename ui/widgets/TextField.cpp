@@ -32,12 +32,6 @@ TextField::TextField(QWidget *parent)
     setTextFormat(Qt::PlainText);
 }
 
-void TextField::setElided(bool elided)
-{
-    m_elided = elided;
-    updateGeometry();
-}
-
 void TextField::setDimmed(bool dimmed)
 {
     m_dimmed = dimmed;

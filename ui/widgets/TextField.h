@@ -7,14 +7,12 @@
 /// the dynamic property "_cursor" with the value "pointingHandCursor" shows that.
 class TextField : public QLabel {
     Q_OBJECT
-    Q_PROPERTY(bool elided READ isElided WRITE setElided)
+    Q_PROPERTY(bool elided MEMBER m_elided)
     Q_PROPERTY(bool dimmed READ isDimmed WRITE setDimmed)
 
 public:
     explicit TextField(QWidget *parent = nullptr);
 
-    [[nodiscard]] bool isElided() const { return m_elided; }
-    void setElided(bool elided);
     [[nodiscard]] bool isDimmed() const { return m_dimmed; }
     void setDimmed(bool dimmed);
 

@@ -69,11 +69,6 @@ void styleTexts(const Ui::MainWindow &outlets)
         heading->setFont(headingFont);
 }
 
-void giveRoom(QPushButton *button, int line)
-{
-    button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
-}
-
 }
 
 AppDelegate::AppDelegate()
@@ -92,7 +87,8 @@ AppDelegate::AppDelegate()
     const int line = m_window.fontMetrics().height();
     m_window.resize(
         QSize(line * 36, line * 31).boundedTo(m_window.screen()->availableSize() * 0.9));
-    giveRoom(m_outlets->startOverButton, line);
+    m_outlets->startOverButton->setMinimumSize(
+        m_outlets->startOverButton->sizeHint() + QSize(line, line / 2));
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     Clickable::enable(m_outlets->openFromFolderLabel);
     Clickable::enable(m_outlets->openFolderImageView);

@@ -63,7 +63,6 @@ private:
     QMainWindow &m_window;
     const FileIntake &m_intake;
     QString m_resultFilePath;
-    /// Its address marks this object's observers.
     int m_convertObservationContext = 0;
     static constexpr std::array overalProgressObservedKeys{ Progress::Key::FractionCompleted,
         Progress::Key::CompletedUnitCount };

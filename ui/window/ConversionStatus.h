@@ -19,7 +19,6 @@ class ConversionStatus : public QObject {
     Q_OBJECT
 
 public:
-    /// The label shows the percentage and the time left.
     ConversionStatus(QWidget *window, QLabel *timeLeftLabel);
 
     void stateChanged(WindowUIState from, WindowUIState to);

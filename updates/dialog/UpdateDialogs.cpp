@@ -16,30 +16,23 @@
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
+#include <array>
+
 namespace {
 
-QString outcomeText(UpdateCheck::Outcome outcome, const QString &version)
-{
-    switch (outcome) {
-    case UpdateCheck::Outcome::Available:
-        break;
-    case UpdateCheck::Outcome::UpToDate:
-        return formatted(QT_TRANSLATE_NOOP3("Localizable",
-                             "You have the newest version of Video Converter, %@.", "update check"),
-            { version });
-    case UpdateCheck::Outcome::NotConfigured:
-        return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "Updates are not available in this build.", "update check"));
-    case UpdateCheck::Outcome::Failed:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "The list of updates could not be read. Please try again later.", "update check"));
-    case UpdateCheck::Outcome::Untrusted:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "An update was announced, but not by the makers of Video Converter. It is not offered.",
-            "update check: wrong signature"));
-    }
-    return {};
-}
+// In the order of the outcomes; %@ stands for the own version.
+constexpr std::array outcomeTexts{
+    LocalizedText{ "", "" },
+    LocalizedText QT_TRANSLATE_NOOP3(
+        "Localizable", "You have the newest version of Video Converter, %@.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3(
+        "Localizable", "Updates are not available in this build.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The list of updates could not be read. Please try again later.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "An update was announced, but not by the makers of Video Converter. It is not offered.",
+        "update check: wrong signature"),
+};
 
 QLabel *plainLabel(const QString &text)
 {
@@ -83,7 +76,8 @@ void UpdateDialogs::showCheck(const UpdateCheck &check)
     if (check.outcome == UpdateCheck::Outcome::Available)
         showAvailable(check);
     else
-        showMessage(outcomeText(check.outcome, m_updater.settings().version));
+        showMessage(formatted(outcomeTexts.at(static_cast<std::size_t>(check.outcome)),
+            { m_updater.settings().version }));
 }
 
 void UpdateDialogs::showAvailable(const UpdateCheck &check)
