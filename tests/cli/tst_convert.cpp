@@ -14,12 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 // A video of 100 s, converted in about 2 s.
 constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|output|reports:100:20000";
-
-}
 
 /// Conversions that go well, and what is told of them.
 class TestConvert : public QObject {
@@ -43,10 +39,6 @@ private Q_SLOTS:
             const QString name = event[u"event"_s].toString();
             if (!names.endsWith(name))
                 names << name;
-            if (name == "failed"_L1)
-                QCOMPARE(event[u"code"_s].toInt(), 3);
-            if (name == "summary"_L1)
-                QCOMPARE(event[u"converted"_s].toInt(), 1);
             if (name != "progress"_L1)
                 continue;
             QVERIFY(event[u"seconds"_s].toInteger() > last);
@@ -56,6 +48,8 @@ private Q_SLOTS:
         }
         QCOMPARE(names.join(u' '), u"failed started progress converted summary"_s);
         QVERIFY(last > 0);
+        QVERIFY2(finished.out.contains(u"\"code\":3,"_s), qPrintable(finished.out));
+        QVERIFY2(finished.out.contains(u"\"converted\":1,"_s), qPrintable(finished.out));
     }
 
     void terminal_showsABar()
@@ -70,14 +64,9 @@ private Q_SLOTS:
         QByteArray screen(65536, '\0');
         screen.resize(std::max<ssize_t>(0, ::read(master, screen.data(), 65536)));
         ::close(master);
-        const QList<QByteArray> frames = screen.split('\r');
-        QVERIFY2(frames.size() > 5, screen.constData());
-        QVERIFY2(std::ranges::any_of(frames,
-                     [](const QByteArray &frame) {
-                         return frame.contains("#-") && frame.contains("s left");
-                     }),
-            screen.constData());
-        QVERIFY2(screen.contains("\x1b[Kvideo.mov: converted to"), screen.constData());
+        QVERIFY2(screen.count('\r') > 5, screen.constData());
+        for (const char *part : { "#-", "s left", "\x1b[Kvideo.mov: converted to" })
+            QVERIFY2(screen.contains(part), screen.constData());
     }
 
     void verbose_showsTheToolsOutput()
@@ -87,11 +76,9 @@ private Q_SLOTS:
             R"(print:early words\n\xff\nlast words\n|exit:1)");
         QCOMPARE(m_command.run(convert).err, u"video.mov: The tool failed: last words\n"_s);
         const Finished verbose = m_command.run(convert + u"--verbose"_s);
-        QVERIFY2(verbose.err.contains(u"early words\n"_s), qPrintable(verbose.err));
+        QCOMPARE(verbose.err.count(u"early words\n"_s), 1);
         QVERIFY2(verbose.err.contains(u"last delta: "_s), qPrintable(verbose.err));
         QCOMPARE(verbose.out, QString());
-        ToolSwap::setScript(R"(print:plain words\nlast words\n|exit:1)");
-        QCOMPARE(m_command.run(convert + u"--verbose"_s).err.count(u"plain words"_s), 1);
     }
 
     void standardInput_isLeftAlone()

@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -51,9 +50,8 @@ private Q_SLOTS:
         QCOMPARE(object[u"seconds"_s].toInt(), 3);
         QCOMPARE(object[u"cover"_s][u"width"_s].toInt(), 320);
         QCOMPARE(object[u"info"_s][u"streams"_s][0][u"codec_name"_s].toString(), u"h264"_s);
-        const Finished text = m_command.run(u"probe"_s, { m_video });
-        QCOMPARE(text.exitCode, 0);
-        QVERIFY2(text.out.contains(u"0, video, h264, 320 x 240\n"_s), qPrintable(text.out));
+        const QString text = m_command.run(u"probe"_s, { m_video }).out;
+        QVERIFY2(text.contains(u"0, video, h264, 320 x 240\n"_s), qPrintable(text));
 
         Media::ffmpeg({ u"-i"_s, m_command.path(m_video), u"-vn"_s, m_command.path(u"a.wav"_s) });
         QVERIFY(objectOf(m_command.run(u"probe a.wav --json"_s))[u"cover"_s].isNull());
@@ -64,16 +62,14 @@ private Q_SLOTS:
         const QJsonObject object
             = objectOf(m_command.run(u"plan --to WebM --json"_s, { m_video, u"o.webm"_s }));
         QCOMPARE(object.keys(), QStringList{ u"WebM"_s });
-        const QString expected
-            = u"-hide_banner -loglevel verbose -y -i VIDEO -map 0:0 -vcodec libvpx -map 0:1 "
-              "-acodec libvorbis -ar 44100 -ac 1 -f webm "_s
-            + m_command.path(u"o.webm"_s);
         QStringList words = wordsOf(object[u"WebM"_s]);
         QCOMPARE(words.value(5), m_command.path(m_video));
         words[5] = u"VIDEO"_s;
-        QCOMPARE(words, expected.split(u' '));
-        QVERIFY(!m_command.exists(u"o.webm"_s));
-        QCOMPARE(m_command.run(u"plan --to WebM gone o.webm"_s).exitCode, 3);
+        QCOMPARE(words.join(u' '),
+            u"-hide_banner -loglevel verbose -y -i VIDEO -map 0:0 -vcodec libvpx -map 0:1 "
+            "-acodec libvorbis -ar 44100 -ac 1 -f webm "_s
+                + m_command.path(u"o.webm"_s));
+        QVERIFY(!QFile::exists(m_command.path(u"o.webm"_s)));
         QVERIFY(QFile::link(m_command.path(m_video), m_command.path(u"link.webm"_s)));
         QCOMPARE(m_command.run(u"plan --to WebM"_s, { m_video, u"link.webm"_s }).end(),
             u"4: link.webm: The result can't replace a video that is to be converted.\n"_s);
@@ -104,7 +100,6 @@ private Q_SLOTS:
                 { "as the tool printed it", video, scaled },
                 { "as probe printed it", R"({"cover":null,"info":)" + video + '}', scaled },
                 { "a list", "[1, 2]", "" },
-                { "info of another type", R"({"info":"x","streams":7})", "" },
                 { "deep", R"({"streams":)" + deep + '}', "" },
             });
     }

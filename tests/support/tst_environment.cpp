@@ -137,7 +137,7 @@ private Q_SLOTS:
             QVERIFY(kept >= before && kept <= QDateTime::currentDateTime());
             QTest::qWait(2);
             QCOMPARE(Preferences::firstLaunchDate(), kept);
-            QVERIFY2(settings().contains(u"FirstLaunch=@DateTime"_s), qPrintable(settings()));
+            QVERIFY2(settings().contains(u"@DateTime"_s), qPrintable(settings()));
         }
     }
 };
