@@ -2,12 +2,12 @@
 #include "planning/VideoConstraints.h"
 #include "tests/cli/Command.h"
 #include "tests/fixtures/Media.h"
-#include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTest>
 
 #include <unistd.h>
 
@@ -89,32 +89,25 @@ private Q_SLOTS:
         QCOMPARE(seen, wordsOf(object[u"GIF"_s]));
     }
 
-    void savedInformation_isPlanned_data()
+    void savedInformation_isPlanned()
     {
         const QByteArray video = R"({"streams":[{"codec_type":"video","codec_name":"h264",)"
                                  R"("width":1920,"height":1080}]})";
-        const QByteArray deep = QByteArray("[").repeated(500) + QByteArray("]").repeated(500);
-        const Utf8 scaled = "-vf scale=1280:-2 -map 0:0 -vcodec libx264 ";
-        addRows<QByteArray, Utf8>({ "info", "hd720" },
-            {
-                { "as the tool printed it", video, scaled },
-                { "as probe printed it", R"({"cover":null,"info":)" + video + '}', scaled },
-                { "a list", "[1, 2]", "" },
-                { "deep", R"({"streams":)" + deep + '}', "" },
-            });
-    }
-    void savedInformation_isPlanned()
-    {
-        QFETCH(const QByteArray, info);
-        QFETCH(const QString, hd720);
-        m_command.write(u"info.json"_s, info);
-        const Finished fromFile = m_command.run(u"plan --to all --json --info info.json"_s);
-        QCOMPARE(fromFile.end(), u"0: "_s);
-        QCOMPARE(m_command.run(u"plan --to all --json --info -"_s, {}, info).out, fromFile.out);
-        const QJsonObject object = objectOf(fromFile);
-        QCOMPARE(object.size(), 25);
-        QCOMPARE(
-            wordsOf(object[u"MP4 HD 720"_s]).join(u' '), hd720 + u"-strict experimental -f mp4"_s);
+        const QString scaled = u"-vf scale=1280:-2 -map 0:0 -vcodec libx264 "_s;
+        const QByteArray deep = QByteArray(500, '[') + QByteArray(500, ']');
+        for (const auto &[info, hd720] :
+            { std::pair(video, scaled), std::pair(R"({"cover":null,"info":)" + video + '}', scaled),
+                std::pair(QByteArray("[1, 2]"), QString()),
+                std::pair(R"({"streams":)" + deep + '}', QString()) }) {
+            m_command.write(u"info.json"_s, info);
+            const Finished fromFile = m_command.run(u"plan --to all --json --info info.json"_s);
+            QCOMPARE(fromFile.end(), u"0: "_s);
+            QCOMPARE(m_command.run(u"plan --to all --json --info -"_s, {}, info).out, fromFile.out);
+            const QJsonObject object = objectOf(fromFile);
+            QCOMPARE(object.size(), 25);
+            QCOMPARE(wordsOf(object[u"MP4 HD 720"_s]).join(u' '),
+                hd720 + u"-strict experimental -f mp4"_s);
+        }
     }
 
     // Else the next files that are opened would take their places, and get what is printed.
