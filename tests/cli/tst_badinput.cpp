@@ -28,7 +28,8 @@ private Q_SLOTS:
         Media::ffmpeg({ u"-i"_s, video, u"-vn"_s, m_command.path(u"sound.wav"_s) });
         Media::ffmpeg({ u"-i"_s, video, u"-an"_s, m_command.path(u"silent.mp4"_s) });
         m_command.prepare(u"mkdir out; mkfifo fifo.mp4; ln -s nowhere link.mp4; touch empty.mp4\n"
-                          "head -c 10000 video.mp4 > cut.mp4; head -c 60000 video.mkv > cut.mkv\n"
+                          "half() { head -c $(($(wc -c < $1) / 2)) $1; }\n"
+                          "half video.mp4 > cut.mp4; half video.mkv > cut.mkv\n"
                           "yes 'Once upon a time.' | head -n 500 > text.mp4"_s);
     }
 

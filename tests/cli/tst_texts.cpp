@@ -87,6 +87,7 @@ private Q_SLOTS:
         addRows<qint64, qint64, qint64, Utf8>({ "completed", "total", "milliseconds", "text" },
             {
                 { "length unknown", 0, -1, 61'500, "1m 1s so far" },
+                { "length of nothing", 0, 0, 2000, "2s so far" },
                 { "too early for a forecast", 10, 100, 900, " 10%" },
                 { "half", 50, 100, 10'000, " 50%  5.0x  10s left" },
                 { "slow", 1, 7200, 60'000, "  0%  0.0x  4d 119h 59m 0s left" },

@@ -97,9 +97,10 @@ private Q_SLOTS:
 
     void doNotTrack_isObeyed()
     {
-        for (const char *value : { "1", "true", "0", "" }) {
+        for (const auto &[value, obeyed] : { std::pair{ "1", true }, std::pair{ "true", true },
+                 std::pair{ "0", false }, std::pair{ "", false } }) {
             qputenv("DO_NOT_TRACK", value);
-            QCOMPARE(Configuration::doNotTrack(), qstrlen(value) > 0 && *value != '0');
+            QCOMPARE(Configuration::doNotTrack(), obeyed);
         }
         qunsetenv("DO_NOT_TRACK");
     }

@@ -17,8 +17,7 @@ private:
     {
         paths.clear();
         runSave(filename);
-        QVERIFY(paths.isEmpty());
-        QVERIFY(sheet());
+        QVERIFY(sheet() && paths.isEmpty());
         sheet()->activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), sheet());
     }
@@ -108,8 +107,7 @@ private Q_SLOTS:
         const Answering answering(Answering::no());
         type(u"video"_s);
         QCOMPARE(answering.text, u"“video.mp4” is a folder. Choose another name."_s);
-        QVERIFY(sheet()->isVisible());
-        QVERIFY(paths.isEmpty());
+        QVERIFY(sheet()->isVisible() && paths.isEmpty());
 
         type(u"sub"_s);
         QVERIFY(sheet()->isVisible());
@@ -154,8 +152,7 @@ private Q_SLOTS:
                 const Answering warning(&QMessageBox::close);
                 type(refused);
             }
-            QVERIFY(sheet()->isVisible());
-            QVERIFY(paths.isEmpty());
+            QVERIFY(sheet()->isVisible() && paths.isEmpty());
 
             type(chosen);
             QTRY_VERIFY(!sheet());
