@@ -70,8 +70,7 @@ private Q_SLOTS:
         QFETCH(const QString, message);
         m_command->prepare(
             u"mkdir readonly\n"
-            "for file in exists.mp4 readonly.mp4 readonly/exists.mp4; do printf precious > $file; "
-            "done\n"
+            "printf precious | tee exists.mp4 readonly.mp4 readonly/exists.mp4\n"
             "chmod a+w readonly/exists.mp4; chmod a=rx readonly; chmod a=r readonly.mp4\n"
             "ln -s video.mp4 symlink.mp4; ln video.mp4 hardlink.mp4\n"
             "ln -s nowhere/x dangling.mp4; ln -s exists.mp4 toexisting.mp4"_s);
