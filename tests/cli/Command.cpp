@@ -14,15 +14,6 @@ namespace {
 
 constexpr unsigned nobody = 65534;
 
-QString copiedProgram()
-{
-    QString copy = Bundle::main().bundlePath() + u"/Contents/MacOS/video-converter-cli"_s;
-    QFile::remove(copy);
-    if (!QFile::copy(QStringLiteral(VC_CLI_PROGRAM), copy))
-        qFatal("The program can't be copied to %s", qPrintable(copy));
-    return copy;
-}
-
 }
 
 Command::Command()
@@ -36,20 +27,24 @@ Command::Command()
 
 QString Command::program()
 {
-    static const QString program = copiedProgram();
+    static const QString program = [] {
+        const QString copy = Bundle::main().bundlePath() + u"/Contents/MacOS/video-converter-cli"_s;
+        QFile::remove(copy);
+        if (!QFile::copy(QStringLiteral(VC_CLI_PROGRAM), copy))
+            qFatal("The program can't be copied to %s", qPrintable(copy));
+        return copy;
+    }();
     return program;
 }
 
 QStringList Command::listing() const
 {
     QStringList entries;
-    QDirIterator all(m_folder.path(),
-        QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
+    QDirIterator all(path(), QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
         QDirIterator::Subdirectories);
     while (all.hasNext()) {
         const QFileInfo info(all.next());
-        const qint64 size = info.isFile() ? info.size() : -1;
-        entries << info.filePath().sliced(m_folder.path().size()) + u' ' + QString::number(size);
+        entries << info.filePath() + u' ' + QString::number(info.isFile() ? info.size() : -1);
     }
     entries.sort();
     return entries;
@@ -68,10 +63,13 @@ void Command::write(const QString &name, const QByteArray &bytes) const
         qFatal("%s can't be written", qPrintable(file.fileName()));
 }
 
-void Command::makeFolder(const QString &name) const
+void Command::prepare(const QString &script) const
 {
-    if (!QDir(m_folder.path()).mkdir(name))
-        qFatal("%s can't be made", qPrintable(name));
+    QProcess shell;
+    shell.setWorkingDirectory(path());
+    shell.start(u"sh"_s, { u"-ec"_s, script });
+    if (!shell.waitForFinished() || shell.exitCode() != 0)
+        qFatal("%s", shell.readAllStandardError().constData());
 }
 
 bool Command::dropPrivileges()

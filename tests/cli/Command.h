@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFile>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -30,12 +29,12 @@ public:
     [[nodiscard]] static QString program();
     /// A path in the folder.
     [[nodiscard]] QString path(const QString &name = {}) const { return m_folder.filePath(name); }
-    [[nodiscard]] bool exists(const QString &name) const { return QFile::exists(path(name)); }
     /// Names and sizes of all that is in the folder and below, links not followed.
     [[nodiscard]] QStringList listing() const;
     [[nodiscard]] QByteArray contents(const QString &name) const;
     void write(const QString &name, const QByteArray &bytes) const;
-    void makeFolder(const QString &name) const;
+    /// Runs a script of the shell in the folder.
+    void prepare(const QString &script) const;
 
     /// Further runs are those of a user whom permissions bind. False where that can't be had.
     [[nodiscard]] bool dropPrivileges();

@@ -4,8 +4,6 @@
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 /// Every bad video ends with its own message and code, leaves nothing behind and is left as it was.
@@ -16,11 +14,6 @@ class TestBadInput : public QObject {
     {
         return m_command.run(u"convert -o out/result --to"_s, { entry, u"--"_s, video });
     }
-    void cutInHalf(const QString &video, const QString &result) const
-    {
-        const QByteArray bytes = m_command.contents(video);
-        m_command.write(result, bytes.first(bytes.size() / 2));
-    }
 
     Command m_command;
 
@@ -28,20 +21,16 @@ private Q_SLOTS:
     void initTestCase()
     {
         const QString video = m_command.path(u"video.mp4"_s);
-        const QStringList mpeg4{ u"-c:v"_s, u"mpeg4"_s, u"-c:a"_s, u"aac"_s };
+        const QStringList mpeg4{ u"-c:v"_s, u"mpeg4"_s };
         Media::video(video, 2);
-        Media::video(m_command.path(u"short.mp4"_s), 1, u"160x120"_s,
-            mpeg4 + QStringList{ u"-t"_s, u"0.6"_s });
+        Media::video(m_command.path(u"short.mp4"_s), 1, u"160x120"_s, { u"-t"_s, u"0.6"_s });
         Media::video(m_command.path(u"video.mkv"_s), 4, u"160x120"_s, mpeg4);
         Media::ffmpeg({ u"-i"_s, video, u"-vn"_s, m_command.path(u"sound.wav"_s) });
         Media::ffmpeg({ u"-i"_s, video, u"-an"_s, m_command.path(u"silent.mp4"_s) });
-        cutInHalf(u"video.mp4"_s, u"cut.mp4"_s);
-        cutInHalf(u"video.mkv"_s, u"cut.mkv"_s);
-        m_command.write(u"empty.mp4"_s, {});
-        m_command.write(u"text.mp4"_s, QByteArray("Once upon a time.\n").repeated(500));
-        QFile::link(m_command.path(u"nowhere"_s), m_command.path(u"link.mp4"_s));
-        QVERIFY(::mkfifo(QFile::encodeName(m_command.path(u"fifo.mp4"_s)).constData(), 0600) == 0);
-        m_command.makeFolder(u"out"_s);
+        m_command.prepare(u"mkdir out; mkfifo fifo.mp4; ln -s nowhere link.mp4; touch empty.mp4\n"
+                          "half() { head -c $(($(wc -c < $1) / 2)) $1; }\n"
+                          "half video.mp4 > cut.mp4; half video.mkv > cut.mkv\n"
+                          "yes 'Once upon a time.' | head -n 500 > text.mp4"_s);
     }
 
     void video_isRefused_data()
@@ -50,10 +39,8 @@ private Q_SLOTS:
         addRows<Utf8, Utf8>({ "video", "message" },
             {
                 { "missing", "missing.mp4", "There is no such file." },
-                { "below a file", "video.mp4/x", "There is no such file." },
                 { "link to nothing", "link.mp4", "There is no such file." },
                 { "empty name", "", "This is a folder, not a video." },
-                { "folder", "out", "This is a folder, not a video." },
                 { "FIFO", "fifo.mp4", "This is a pipe or a device, not a file." },
                 { "device", "/dev/zero", "This is a pipe or a device, not a file." },
                 { "empty file", "empty.mp4", "The file is empty." },
@@ -70,8 +57,7 @@ private Q_SLOTS:
         const QStringList before = m_command.listing();
         QCOMPARE(convert(video).end(), end);
         const Finished probed = m_command.run(u"probe --json"_s, { video });
-        QCOMPARE(probed.end(), end);
-        QCOMPARE(probed.out, QString());
+        QCOMPARE(probed.end() + probed.out, end);
         QCOMPARE(m_command.listing(), before);
     }
 
@@ -88,35 +74,27 @@ private Q_SLOTS:
 
     void strangeTool_fails_data()
     {
-        addRows<Utf8, Utf8, int, Utf8>({ "tool", "script", "exitCode", "message" },
+        addRows<Utf8, Utf8, Utf8>({ "tool", "script", "end" },
             {
-                { "still growing", "ffprobe", R"({"format":{"duration":"2.0","size":"17"}})", 3,
-                    "The file is still being written, or only part of it could be read." },
-                { "no length", "ffprobe", R"({"format":{"duration":2,"size":"17"}})", 3,
-                    "The file does not say how long it plays." },
-                { "no size", "ffprobe", R"({"format":{"duration":"2.0"}})", 3,
-                    "The size of the file is unknown." },
-                { "no JSON", "ffprobe", "Segmentation fault", 3,
-                    "The file is not a video, or it is damaged or incomplete." },
-                { "not UTF-8", "ffmpeg", R"(print:\xff\xfe bad \xd0\nlast words\n|exit:1)", 1,
-                    "The tool failed: last words" },
-                { "flood", "ffmpeg", R"(flood:50000000|print:last words\n|exit:1)", 1,
-                    "The tool failed: last words" },
+                { "still growing", "ffprobe", R"(out:{"format":{"duration":"2.0","size":"17"}})",
+                    "3: video.mp4: The file is still being written, "
+                    "or only part of it could be read.\n" },
+                { "no length", "ffprobe", R"(out:{"format":{"size":"17"}})",
+                    "3: video.mp4: The file does not say how long it plays.\n" },
+                { "no size", "ffprobe", R"(out:{"format":{"duration":"2.0"}})",
+                    "3: video.mp4: The size of the file is unknown.\n" },
+                { "flood that is not UTF-8", "ffmpeg",
+                    R"(output|flood:50000000|print:\xff bad \xd0\nlast words\n|exit:1)",
+                    "1: video.mp4: The tool failed: last words\n" },
             });
     }
     void strangeTool_fails()
     {
         QFETCH(const QString, tool);
         QFETCH(const QString, script);
-        QFETCH(const int, exitCode);
-        QFETCH(const QString, message);
         const QStringList before = m_command.listing();
-        const QByteArray begin = tool == "ffprobe"_L1
-            ? "out:"
-            : R"(output|print:  Duration: 00:01:40.00, start: 0\n|)";
-        const ToolSwap swap(tool, ToolSwap::With::FakeTool, begin + script.toUtf8());
-        QCOMPARE(convert(u"video.mp4"_s).end(),
-            QString::number(exitCode) + u": video.mp4: "_s + message + u'\n');
+        const ToolSwap swap(tool, ToolSwap::With::FakeTool, script.toUtf8());
+        QTEST(convert(u"video.mp4"_s).end(), "end");
         QCOMPARE(m_command.listing(), before);
     }
 
@@ -139,29 +117,25 @@ private Q_SLOTS:
 
     void missingTool_isReported_data()
     {
-        using With = ToolSwap::With;
-        addRows<Utf8, With>({ "tool", "replacement" },
+        addRows<ToolSwap::With>({ "replacement" },
             {
-                { "no ffmpeg", "ffmpeg", With::Nothing },
-                { "no ffprobe", "ffprobe", With::Nothing },
-                { "ffmpeg is no program", "ffmpeg", With::UnexecutableFile },
+                { "ffmpeg", ToolSwap::With::UnexecutableFile },
+                { "ffprobe", ToolSwap::With::Nothing },
             });
     }
     void missingTool_isReported()
     {
-        QFETCH(const QString, tool);
         QFETCH(const ToolSwap::With, replacement);
+        const QString tool = QString::fromUtf8(QTest::currentDataTag());
         m_command.write(u"precious"_s, "precious");
         const QStringList before = m_command.listing();
         const ToolSwap swap(tool, replacement);
         // Only ffprobe is needed without a conversion.
-        const int expected = tool == u"ffprobe"_s ? 5 : 0;
-        QCOMPARE(m_command.run(u"plan --to MP4 video.mp4 out.mp4"_s).exitCode, expected);
-        QCOMPARE(m_command.run(u"probe --json video.mp4"_s).exitCode, expected);
-        const Finished converted
-            = m_command.run(u"convert --to MP4 --overwrite video.mp4 -o precious"_s);
-        QCOMPARE(converted.exitCode, 5);
-        QVERIFY2(converted.err.contains(u"/Contents/ffmpeg/"_s + tool), qPrintable(converted.err));
+        QCOMPARE(m_command.run(u"probe --json video.mp4"_s).exitCode, tool == "ffprobe"_L1 ? 5 : 0);
+        const QString end
+            = m_command.run(u"convert --to MP4 --overwrite video.mp4 -o precious"_s).end();
+        QVERIFY2(end.startsWith(u"5: "_s) && end.contains(u"/Contents/ffmpeg/"_s + tool),
+            qPrintable(end));
         QCOMPARE(m_command.listing(), before);
         QCOMPARE(m_command.contents(u"precious"_s), "precious");
     }

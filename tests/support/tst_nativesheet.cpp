@@ -1,110 +1,59 @@
 // SPDX-License-Identifier: MIT
 #include "SheetTest.h"
+#include "tests/ui/desktop/DesktopStandIn.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusInterface>
-#include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusPendingCall>
+#include <QDBusVariant>
 #include <QLibraryInfo>
-#include <QSocketNotifier>
+#include <QThread>
 #include <QUrl>
-
-#include <sys/socket.h>
-#include <unistd.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
-/// The desktop's dialog service, which runs file dialogs in a process of its own. It keeps what it
-/// is asked and answers when it is told to.
-class Portal : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
-    Q_PROPERTY(uint version MEMBER m_version CONSTANT)
+namespace {
 
-public:
-    static int run(int argc, char *argv[], int connectedToTest)
-    {
-        const QCoreApplication app(argc, argv);
-        Portal portal;
-        auto bus = QDBusConnection::sessionBus();
-        bus.registerObject(objectPath, &portal,
-            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties);
-        bus.registerService(service);
-        const bool isReported = ::write(connectedToTest, "r", 1) == 1;
-        const QSocketNotifier testsEnd(connectedToTest, QSocketNotifier::Read);
-        connect(&testsEnd, &QSocketNotifier::activated, &app, &QCoreApplication::quit);
-        return isReported ? QCoreApplication::exec() : 1;
-    }
+const QString service = u"org.freedesktop.portal.Desktop"_s;
+const QString request = u"/request"_s;
 
-    static inline const QString service = u"org.freedesktop.portal.Desktop"_s;
-    static inline const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
-
-public Q_SLOTS:
-    QDBusObjectPath SaveFile(const QString & /*parentWindow*/, const QString &title,
-        const QVariantMap &options, const QDBusMessage &message)
-    {
-        m_caller = message.service();
-        m_call = options;
-        m_call.insert(u"title"_s, title);
-        return QDBusObjectPath(m_request);
-    }
-
-    /// What the last dialog was asked with, once.
-    QVariantMap TakeCall() { return std::exchange(m_call, {}); }
-
-    /// No address means that the user cancelled.
-    void Answer(const QString &url) const
-    {
-        auto signal = QDBusMessage::createTargetedSignal(
-            m_caller, m_request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        signal << (url.isEmpty() ? 1U : 0U) << QVariantMap{ { u"uris"_s, QStringList{ url } } };
-        QDBusConnection::sessionBus().send(signal);
-    }
-
-private:
-    const uint m_version = 3;
-    const QString m_request = u"/request"_s;
-    QString m_caller;
-    QVariantMap m_call;
-};
+}
 
 /// Sheets drawn by the desktop's dialog service.
 class TestNativeSheet : public SheetTest {
     Q_OBJECT
 
 private:
-    static QVariant portal(const QString &method, const QVariantList &arguments = {})
+    void awaitDialog(const QString &name)
     {
-        QDBusInterface chooser(Portal::service, Portal::objectPath,
-            u"org.freedesktop.portal.FileChooser"_s, QDBusConnection::sessionBus());
-        return chooser.callWithArgumentList(QDBus::Block, method, arguments).arguments().value(0);
+        ++m_dialogs;
+        QTRY_COMPARE(m_desktop.calls(u"SaveFile"_s).size(), m_dialogs);
+        m_call = m_desktop.calls(u"SaveFile"_s).constLast();
+        QCOMPARE(m_call.arguments().at(1).toString(), u"Convert"_s);
+        const auto options = qdbus_cast<QVariantMap>(m_call.arguments().at(2));
+        QCOMPARE(options[u"accept_label"_s].toString(), u"Convert"_s);
+        QCOMPARE(options[u"current_name"_s].toString(), name);
+        // The dialog hears its answer only after it has read the reply to its request. That comes
+        // before the reply to a later call.
+        const QDBusPendingCall later = QDBusConnection::sessionBus().asyncCall(
+            QDBusMessage::createMethodCall(service, u"/"_s, {}, u"Later"_s));
+        QTRY_VERIFY(later.isFinished());
+        QCoreApplication::processEvents();
     }
 
     /// Without a name the user cancels.
-    void answer(const QString &name) const
+    void answer(const QString &name)
     {
-        const QUrl url = name.isEmpty() ? QUrl() : QUrl::fromLocalFile(path(name));
-        portal(u"Answer"_s, { url.toString(QUrl::FullyEncoded) });
+        QDBusMessage response = QDBusMessage::createTargetedSignal(
+            m_call.service(), request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        const QString url = QUrl::fromLocalFile(path(name)).toString(QUrl::FullyEncoded);
+        response << (name.isEmpty() ? 1U : 0U) << QVariantMap{ { u"uris"_s, QStringList(url) } };
+        m_desktop.send(response);
     }
 
-    // The dialog hears its answer only after it has read the reply to its request; so let it.
-    static void awaitDialog(const QString &name)
-    {
-        QVariantMap call;
-        QVERIFY(QTest::qWaitFor([&] {
-            call = qdbus_cast<QVariantMap>(portal(u"TakeCall"_s));
-            return !call.isEmpty();
-        }));
-        QCOMPARE(call.value(u"title"_s).toString(), u"Convert"_s);
-        QCOMPARE(call.value(u"accept_label"_s).toString(), u"Convert"_s);
-        QCOMPARE(call.value(u"current_name"_s).toString(), name);
-        for (int i = 0; i < 3; ++i) {
-            portal(u"TakeCall"_s);
-            QCoreApplication::processEvents();
-        }
-    }
+    DesktopStandIn m_desktop;
+    QDBusMessage m_call;
+    qsizetype m_dialogs = 0;
 
 private Q_SLOTS:
     void initTestCase()
@@ -112,6 +61,8 @@ private Q_SLOTS:
         const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
         if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
             QSKIP("The toolkit's theme for the desktop portal is not installed");
+        m_desktop.answer(u"SaveFile"_s, { QVariant::fromValue(QDBusObjectPath(request)) });
+        QVERIFY(m_desktop.offer(service));
     }
 
     void init()
@@ -133,12 +84,10 @@ private Q_SLOTS:
 
     void appendedExtension_isAskedAbout()
     {
-        {
-            const Answering refusal(Answering::keys({ Qt::Key_Return }));
-            answer(u"video"_s);
-            QTRY_VERIFY(refusal.wasShown);
-        }
+        const Answering refusal(Answering::no());
+        answer(u"video"_s);
         awaitDialog(u"video.mp4"_s);
+        QVERIFY(refusal.wasShown);
         QVERIFY(paths.isEmpty());
 
         const Answering agreement(Answering::yes());
@@ -158,21 +107,21 @@ private Q_SLOTS:
 
 int main(int argc, char *argv[])
 {
-    // The service has to be there before the desktop's theme is loaded, and ends with this process.
-    int ends[2];
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0)
-        return 1;
-    if (::fork() == 0) {
-        ::close(ends[0]);
-        return Portal::run(argc, argv, ends[1]);
-    }
-    ::close(ends[1]);
-    char ready = 0;
-    if (::read(ends[0], &ready, 1) != 1)
-        return 1;
-
+    // The desktop's theme asks for the service's version while it is loaded, and does not go on
+    // without an answer. So another thread gives it.
+    auto *early = new DesktopStandIn;
+    early->answer(u"Get"_s, { QVariant::fromValue(QDBusVariant(3U)) });
+    if (!early->offer(service))
+        qFatal("No desktop");
+    QThread thread;
+    early->moveToThread(&thread);
+    QObject::connect(&thread, &QThread::finished, early, &QObject::deleteLater);
+    thread.start();
     qputenv("QT_QPA_PLATFORMTHEME", "xdgdesktopportal");
     const QApplication app(argc, argv);
+    thread.quit();
+    thread.wait();
+
     TestNativeSheet test;
     return QTest::qExec(&test, argc, argv);
 }

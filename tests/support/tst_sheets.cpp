@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SheetTest.h"
 
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -14,9 +15,9 @@ class TestSheets : public SheetTest {
 private:
     void save(const QString &filename)
     {
+        paths.clear();
         runSave(filename);
-        QVERIFY(paths.isEmpty());
-        QVERIFY(sheet());
+        QVERIFY(sheet() && paths.isEmpty());
         sheet()->activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), sheet());
     }
@@ -26,14 +27,6 @@ private:
     [[nodiscard]] QLineEdit *nameField() const
     {
         return sheet()->findChild<QLineEdit *>(u"fileNameEdit"_s);
-    }
-
-    [[nodiscard]] QPushButton *acceptButton() const
-    {
-        for (QPushButton *button : sheet()->findChildren<QPushButton *>())
-            if (button->isDefault())
-                return button;
-        return nullptr;
     }
 
     void type(const QString &name) const
@@ -56,13 +49,16 @@ private Q_SLOTS:
     void saveSheet_looksAsItShould()
     {
         save(u"a'b\"c 100%d"_s);
+        const auto *buttons = sheet()->findChild<QDialogButtonBox *>();
+        QPushButton *accept = buttons->button(QDialogButtonBox::Save);
+        QVERIFY(accept->isDefault());
+        QCOMPARE(accept->text().remove(u'&'), u"Convert"_s);
         QCOMPARE(sheet()->windowModality(), Qt::WindowModal);
         QCOMPARE(sheet()->windowTitle(), u"Convert"_s);
-        QCOMPARE(acceptButton()->text().remove(u'&'), u"Convert"_s);
         QCOMPARE(sheet()->labelText(QFileDialog::FileName), u"Result filename:"_s);
         QCOMPARE(nameField()->text(), u"a'b\"c 100%d.mp4"_s);
 
-        QTest::mouseClick(acceptButton(), Qt::LeftButton);
+        QTest::mouseClick(accept, Qt::LeftButton);
         QTRY_VERIFY(!sheet());
         QCOMPARE(paths, QStringList{ path(u"a'b\"c 100%d.mp4"_s) });
     }
@@ -70,13 +66,11 @@ private Q_SLOTS:
     void result_bearsTheExtension()
     {
         const std::pair<QString, QString> names[]{ { u"video"_s, u"video.mp4"_s },
-            { u"video.mp4"_s, u"video.mp4"_s }, { u"VIDEO.MP4"_s, u"VIDEO.MP4"_s },
-            { u"video.mov"_s, u"video.mov.mp4"_s }, { u"Holiday 2.5"_s, u"Holiday 2.5.mp4"_s },
+            { u"VIDEO.MP4"_s, u"VIDEO.MP4"_s }, { u"video.mov"_s, u"video.mov.mp4"_s },
             { u"video."_s, u"video.mp4"_s }, { u".mp4"_s, u".mp4.mp4"_s },
-            { u"a \"b\" c"_s, u"a \"b\" c.mp4"_s }, { u"~video"_s, u"~video.mp4"_s },
-            { u"-i.mp4"_s, u"-i.mp4"_s }, { u"🎬"_s, u"🎬.mp4"_s }, { u"sub/../x"_s, u"x.mp4"_s } };
+            { u"a \"b\" c"_s, u"a \"b\" c.mp4"_s }, { u"~🎬"_s, u"~🎬.mp4"_s },
+            { u"sub/../x"_s, u"x.mp4"_s } };
         for (const auto &[typed, result] : names) {
-            paths.clear();
             save(u"proposed"_s);
             type(typed);
             QTRY_VERIFY(!sheet());
@@ -84,52 +78,36 @@ private Q_SLOTS:
         }
     }
 
-    void existingFile_isReplacedOnlyIfAgreed_data()
-    {
-        QTest::addColumn<QString>("existing");
-        QTest::newRow("video.mp4") << u"video.mp4"_s;
-        QTest::newRow("video.mov") << u"video.mov.mp4"_s;
-        QTest::newRow("<b>x<b>%d") << u"<b>x<b>%d.mp4"_s;
-    }
-
     void existingFile_isReplacedOnlyIfAgreed()
     {
-        QFETCH(QString, existing);
-        const QString typed = QString::fromUtf8(QTest::currentDataTag());
-        write(existing);
-        save(u"proposed"_s);
-        {
-            const Answering refusal([&](QMessageBox &box) {
-                QVERIFY2(box.text().contains(existing), qPrintable(box.text()));
-                QCOMPARE(box.textFormat(), Qt::PlainText);
-                QTest::keyClick(box.focusWidget(), Qt::Key_Return);
-            });
+        for (const QString &typed : { u"video.mov"_s, u"<b>x<b>%d"_s }) {
+            const QString existing = typed + u".mp4"_s;
+            write(existing);
+            save(u"proposed"_s);
+            const Answering refusal(Answering::no());
             type(typed);
-            QVERIFY(refusal.wasShown);
-        }
-        QVERIFY(sheet()->isVisible());
-        QCOMPARE(nameField()->text(), typed);
-        QVERIFY(paths.isEmpty());
+            QCOMPARE(
+                refusal.text, u"“%1” already exists. Do you want to replace it?"_s.arg(existing));
+            QVERIFY(sheet()->isVisible());
+            QCOMPARE(nameField()->text(), typed);
+            QVERIFY(paths.isEmpty());
 
-        const Answering agreement(Answering::yes());
-        type(typed);
-        QVERIFY(agreement.wasShown);
-        QTRY_VERIFY(!sheet());
-        QCOMPARE(paths, QStringList{ path(existing) });
+            const Answering agreement(Answering::yes());
+            type(typed);
+            QVERIFY(agreement.wasShown);
+            QTRY_VERIFY(!sheet());
+            QCOMPARE(paths, QStringList{ path(existing) });
+        }
     }
 
     void folder_isEnteredNotReplaced()
     {
         QVERIFY(QDir(folder->path()).mkdir(u"video.mp4"_s));
         save(u"video"_s);
-        const Answering answering([](QMessageBox &box) {
-            QVERIFY2(box.text().contains(u"video.mp4"), qPrintable(box.text()));
-            QTest::keyClick(box.focusWidget(), Qt::Key_Return);
-        });
+        const Answering answering(Answering::no());
         type(u"video"_s);
-        QVERIFY(answering.wasShown);
-        QVERIFY(sheet()->isVisible());
-        QVERIFY(paths.isEmpty());
+        QCOMPARE(answering.text, u"“video.mp4” is a folder. Choose another name."_s);
+        QVERIFY(sheet()->isVisible() && paths.isEmpty());
 
         type(u"sub"_s);
         QVERIFY(sheet()->isVisible());
@@ -148,7 +126,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!sheet());
         QCOMPARE(saveFolder(folder->path()), path(u"sub"_s));
 
-        paths.clear();
         save(u"video"_s);
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));
         QTest::keyClick(sheet(), Qt::Key_Escape);
@@ -169,15 +146,13 @@ private Q_SLOTS:
             runChooseSheet(window.get(), files, [this](const QString &given) { paths += given; });
             QCOMPARE(sheet()->windowModality(), Qt::WindowModal);
             QCOMPARE(sheet()->directory().path(), folder->path());
-            QVERIFY(!sheet()->testOption(QFileDialog::ReadOnly));
             sheet()->activateWindow();
             QTRY_COMPARE(QApplication::activeWindow(), sheet());
             {
                 const Answering warning(&QMessageBox::close);
                 type(refused);
             }
-            QVERIFY(sheet()->isVisible());
-            QVERIFY(paths.isEmpty());
+            QVERIFY(sheet()->isVisible() && paths.isEmpty());
 
             type(chosen);
             QTRY_VERIFY(!sheet());

@@ -35,14 +35,6 @@ QString readings(const QByteArray &value)
         .join(u" | "_s);
 }
 
-/// A group of the first match, the same for a pattern as text and compiled.
-QString found(const QString &text, const QString &pattern, int index = 1)
-{
-    const auto expression = Pattern::compiled(pattern, Pattern::lineOptions);
-    const QString group = Pattern::matchPattern(text, pattern, index);
-    return Pattern::matchRegex(text, expression, index) == group ? group : u"not the same"_s;
-}
-
 }
 
 /// Functions from values to values.
@@ -52,62 +44,32 @@ class TestValues : public QObject {
 private Q_SLOTS:
     void path_hasPieces()
     {
-        QCOMPARE(pieces(u"/tmp/scratch.tiff"_s), u"scratch.tiff | tiff | /tmp | /tmp/scratch"_s);
-        QCOMPARE(pieces(u"/tmp/scratch"_s), u"scratch |  | /tmp | /tmp/scratch"_s);
-        QCOMPARE(pieces(u"/tmp/"_s), u"tmp |  | / | /tmp"_s);
+        QCOMPARE(pieces(u"/tmp/a.b.tiff"_s), u"a.b.tiff | tiff | /tmp | /tmp/a.b"_s);
         QCOMPARE(pieces(u"///"_s), u"/ |  | / | /"_s);
         QCOMPARE(pieces(u""_s), u" |  |  | "_s);
-        QCOMPARE(pieces(u"scratch.bundle//"_s), u"scratch.bundle | bundle |  | scratch"_s);
-        QCOMPARE(pieces(u"scratch..tiff"_s), u"scratch..tiff | tiff |  | scratch."_s);
-        QCOMPARE(pieces(u"a.b.mov"_s), u"a.b.mov | mov |  | a.b"_s);
+        QCOMPARE(pieces(u"scratch..bundle//"_s), u"scratch..bundle | bundle |  | scratch."_s);
         QCOMPARE(pieces(u"/a.b/.tiff"_s), u".tiff |  | /a.b | /a.b/.tiff"_s);
-        QCOMPARE(pieces(u".scratch.tiff"_s), u".scratch.tiff | tiff |  | .scratch"_s);
-        QCOMPARE(pieces(u"a.d/b"_s), u"b |  | a.d | a.d/b"_s);
-        QCOMPARE(pieces(u"closing."_s), u"closing. |  |  | closing"_s);
-        QCOMPARE(pieces(u"//a//b.c"_s), u"b.c | c | //a | //a//b"_s);
-        QCOMPARE(pieces(u"/🎬\n.mov"_s), u"🎬\n.mov | mov | / | /🎬\n"_s);
+        QCOMPARE(pieces(u"a.d/closing."_s), u"closing. |  | a.d | a.d/closing"_s);
+        QCOMPARE(pieces(u"//a//🎬\n.c"_s), u"🎬\n.c | c | //a | //a//🎬\n"_s);
     }
 
-    void path_isSplitAndJoined()
+    void path_isJoined()
     {
-        QCOMPARE(Path::pathComponents({}), QStringList());
-        QCOMPARE(Path::pathComponents(u"//"_s), QStringList{ u"/"_s });
-        QCOMPARE(Path::pathComponents(u"a//b.c"_s).join(u'|'), u"a|b.c"_s);
-        QCOMPARE(Path::pathComponents(u"/a/"_s).join(u'|'), u"/|a|/"_s);
-
         const auto joined = Path::stringByAppendingPathComponent;
         QCOMPARE(joined(u"/tmp//"_s, u"//a.b/"_s), u"/tmp/a.b"_s);
         QCOMPARE(joined(u"/"_s, u"a"_s), u"/a"_s);
         QCOMPARE(joined(u"/tmp"_s, u"//"_s), u"/tmp"_s);
-        QCOMPARE(joined({}, u"a"_s), u"a"_s);
-        QCOMPARE(joined({}, {}), QString());
-
-        const auto extended = Path::stringByAppendingPathExtension;
-        QCOMPARE(extended(u"/tmp/scratch."_s, u"tiff"_s), u"/tmp/scratch..tiff"_s);
-        QCOMPARE(extended(u"/tmp/"_s, u"tiff"_s), u"/tmp.tiff"_s);
-        QCOMPARE(extended(u"~/a"_s, u"mov"_s), u"~/a.mov"_s);
-        for (const QString &path : { u""_s, u"//"_s, u"~a"_s })
-            QCOMPARE(extended(path, u"mov"_s), std::nullopt);
-        for (const QString &extension : { u""_s, u"b/c"_s })
-            QCOMPARE(extended(u"a"_s, extension), std::nullopt);
     }
 
     void json_readsLeniently()
     {
         QCOMPARE(readings(R"("h264")"), u"h264 | h264 | - | 0"_s);
-        QCOMPARE(readings(R"("48000")"), u"48000 | 48000 | - | 48000"_s);
         QCOMPARE(readings(R"(" -12.9 kb")"), u" -12.9 kb |  -12.9 kb | - | -12"_s);
-        QCOMPARE(readings(R"("1e3")"), u"1e3 | 1e3 | - | 1000"_s);
         QCOMPARE(readings(R"("9223372036854775807")").section(u'|', 3), u" 9223372036854775807"_s);
         QCOMPARE(readings(R"("1e99")"), u"1e99 | 1e99 | - | 0"_s);
-        QCOMPARE(readings(R"("")"), u" |  | - | 0"_s);
         QCOMPARE(readings("0"), u"- | 0 | 0 | 0"_s);
-        QCOMPARE(readings("29.97"), u"- | 29.97 | 29 | 29"_s);
-        QCOMPARE(readings("-1.9"), u"- | -1.9 | -1 | -1"_s);
-        for (const char *number : { "9007199254740993", "9223372036854775807" })
-            QCOMPARE(readings(number),
-                QString::fromLatin1("- | " + QByteArrayList(3, number).join(" | ")));
-        QCOMPARE(readings("1e300"), u"- | 1e+300 | - | 0"_s);
+        QCOMPARE(readings("-29.97"), u"- | -29.97 | -29 | -29"_s);
+        QCOMPARE(readings("9223372036854775807").section(u'|', 3), u" 9223372036854775807"_s);
         QCOMPARE(readings("9223372036854775808").section(u'|', 2), u" - | 0"_s);
         QCOMPARE(readings("true"), u"- | true | - | 1"_s);
         for (const char *other : { "null", "[1]", R"({"a":1})" })
@@ -116,21 +78,17 @@ private Q_SLOTS:
 
     void length_differsFromCharacters()
     {
-        const auto counts = [](const QString &text) {
-            return std::pair(Text::length(text), Text::characterCount(text));
-        };
-        QCOMPARE(counts({}), std::pair(qint64{ 0 }, qsizetype{ 0 }));
-        QCOMPARE(counts(u"a\r\nb\n\r"_s), std::pair(qint64{ 6 }, qsizetype{ 5 }));
-        QCOMPARE(counts(u"e\u0301\r\n"_s), std::pair(qint64{ 4 }, qsizetype{ 2 }));
-        QCOMPARE(counts(u"🇩🇪🇫🇷"_s), std::pair(qint64{ 8 }, qsizetype{ 2 }));
+        const QString text = u"\r\ne\u0301\r\n🇩🇪"_s;
+        QCOMPARE(Text::length(text), 10);
+        QCOMPARE(Text::characterCount(text), 4);
+        QCOMPARE(Text::characterCount(u"a\r\nb\n\r"), 5);
+        QCOMPARE(Text::characterCount({}), 0);
     }
 
     void longText_isCapped()
     {
         QCOMPARE(Text::max(QString(25, u'a'), 25), QString(25, u'a'));
         QCOMPARE(Text::max(QString(26, u'a'), 25), QString(24, u'a') + u'…');
-        QCOMPARE(Text::max(u"ab"_s, 1), u"…"_s);
-        QCOMPARE(Text::max({}, 1), QString());
         const QString accents = u"e\u0301"_s.repeated(26);
         QCOMPARE(Text::max(accents.first(50), 25), accents.first(50));
         QCOMPARE(Text::max(accents, 25), accents.first(48) + u'…');
@@ -138,31 +96,25 @@ private Q_SLOTS:
 
     void number_isReadOrZero()
     {
-        for (const auto read : { Text::asInt, Text::asInt64 }) {
-            QCOMPARE(read(u"-7"), -7);
-            QCOMPARE(read(u"+007"), 7);
-            QCOMPARE(read(u"9223372036854775807"), largest);
-            QCOMPARE(read(u"-9223372036854775808"), smallest);
-            for (const QString &text : { u""_s, u"+"_s, u"+-7"_s, u" 42"_s, u"42 "_s, u"42.0"_s,
-                     u"4k"_s, u"0x10"_s, u"9223372036854775808"_s, u"٣"_s, u"1,000"_s })
-                QCOMPARE(read(text), 0);
-        }
+        QCOMPARE(Text::asInt(u"+007"), 7);
+        QCOMPARE(Text::asInt64(u"9223372036854775807"), largest);
+        QCOMPARE(Text::asInt64(u"-9223372036854775808"), smallest);
+        for (const QString &text : { u""_s, u"+"_s, u"+-7"_s, u" 42"_s, u"42.0"_s, u"4k"_s,
+                 u"9223372036854775808"_s, u"٣"_s, u"1,000"_s })
+            QCOMPARE(Text::asInt64(text), 0);
     }
 
     void pattern_findsGroup()
     {
         const QString line = u"  Duration: 00:01:02.50, start: 0.000"_s;
-        QCOMPARE(found(line, u"Duration: (.*?), start:"_s), u"00:01:02.50"_s);
-        QCOMPARE(found(line, u"Dur.*?:"_s, 0), u"Duration:"_s);
-        QCOMPARE(found(u"a1 a2"_s, u"a(.)"_s), u"1"_s);
-        for (const QString &pattern : { u"("_s, u"(x)"_s, u"(duration)"_s, u"(x)?start"_s })
-            QCOMPARE(found(line, pattern), QString());
-        QCOMPARE(found(u"x\nab"_s, u"^a(.)"_s), u"b"_s);
-        QCOMPARE(found(u"x\rab\rx"_s, u"^a(.)$"_s), u"b"_s);
-        QCOMPARE(found(u"a\n\r\u2028b"_s, u"a(.*)b"_s), u"\n\r\u2028"_s);
+        QCOMPARE(Pattern::matchPattern(line, u"Duration: (.*?), start:"_s, 1), u"00:01:02.50"_s);
+        for (const QString &pattern : { u"("_s, u"(duration)"_s, u"(x)?start"_s })
+            QCOMPARE(Pattern::matchPattern(line, pattern, 1), QString());
+        QCOMPARE(Pattern::matchPattern(u"x\rab\rac"_s, u"^a(.)$"_s, 1), u"b"_s);
+        QCOMPARE(Pattern::matchPattern(u"a\n\r\u2028b"_s, u"a(.*)b"_s, 1), u"\n\r\u2028"_s);
         // Four characters in seven units: only the first four units are searched.
-        QCOMPARE(found(u"🎬🎬🎬b"_s, u"(b)"_s), QString());
-        QCOMPARE(found(u"ab🎬🎬🎬"_s, u"a(b)"_s), u"b"_s);
+        QCOMPARE(Pattern::matchPattern(u"🎬🎬🎬b"_s, u"(b)"_s, 1), QString());
+        QCOMPARE(Pattern::matchPattern(u"ab🎬🎬🎬"_s, u"a(b)"_s, 1), u"b"_s);
 
         const QRegularExpression lineStart = Pattern::compiled(u"^b.*"_s);
         QCOMPARE(Pattern::matchRegex(u"a\nb"_s, lineStart, 0), QString());
@@ -172,16 +124,13 @@ private Q_SLOTS:
     void directives_areFilled()
     {
         const std::vector<FormatArgument> pair{ 5, u"x"_s };
-        QCOMPARE(formatted(u"%@ of %d"_s, pair), u"5 of x"_s);
         QCOMPARE(formatted(u"%ld%03d%-5.2s"_s, { 1, 2, u"long"_s }), u"12long"_s);
         QCOMPARE(formatted(u"%u"_s, { smallest }), u"-9223372036854775808"_s);
         QCOMPARE(formatted(u"%2$@ %1$d %2$s"_s, pair), u"x 5 x"_s);
-        QCOMPARE(formatted(u"%2$@ %d"_s, pair), u"x 5"_s);
         QCOMPARE(formatted(u"%d%% %%d %%%d"_s, pair), u"5% %d %x"_s);
         QCOMPARE(formatted(u"%d-%@-%s-%9$d-%0$d"_s, pair), u"5-x---"_s);
-        QCOMPARE(formatted(u"%s%n%d"_s, {}), u"%n"_s);
         for (const QString &text :
-            { u""_s, u"100% %n %f %*d %y"_s, u"%1$ %- %l"_s, u"%99999999999d %99999999999$d"_s })
+            { u"100% %n %f %*d %1$ %l"_s, u"%99999999999d %99999999999$d"_s })
             QCOMPARE(formatted(text, pair), text);
         QCOMPARE(formatted(u"%@ %@"_s, { u"%@%n%d"_s, u"100%d.mp4"_s }), u"%@%n%d 100%d.mp4"_s);
     }
@@ -190,13 +139,10 @@ private Q_SLOTS:
     {
         const auto shown = [](qint64 seconds) { return DurationInfo(seconds).toString(); };
         QCOMPARE(shown(59), u"59s"_s);
-        QCOMPARE(shown(60), u"1m 0s"_s);
         QCOMPARE(shown(3600), u"1h 0m 0s"_s);
-        QCOMPARE(shown(86399), u"23h 59m 59s"_s);
         QCOMPARE(shown(90061), u"1d 25h 1m 1s"_s);
-        QCOMPARE(shown(-65), u"-5s"_s);
         QCOMPARE(shown(largest), u"106751991167300d 2562047788015215h 30m 7s"_s);
-        QCOMPARE(DurationInfo(-65).minutes(), -1);
+        QCOMPARE(shown(-65), u"-5s"_s);
     }
 };
 
