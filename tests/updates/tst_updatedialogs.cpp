@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "LoopbackServer.h"
-#include "updates/UpdaterDelegate.h"
 #include "updates/dialog/UpdateDialogs.h"
 
-#include <QApplication>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
 class tst_UpdateDialogs : public QObject {
     Q_OBJECT
+
 public Q_SLOTS:
     void openAddress(const QUrl &url) { m_opened.append(url); }
 
@@ -25,26 +22,19 @@ private:
 private Q_SLOTS:
     void offer_withoutKeyLeadsToTheSite()
     {
-        LoopbackServer server;
-        server.answers["/update.xml"].body
-            = "<rss "
-              "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/"
-              "sparkle'><item><description>"
-              "&lt;script>x()&lt;/script>&lt;ul>&lt;li>&lt;b>Faster&lt;/b> st\u202eart&lt;li>See "
-              "http://evil.example/&lt;/ul></description>"
-              "<enclosure url='http://a/b' sparkle:version='9.0'/></item></rss>";
-        qputenv("VIDEO_CONVERTER_FEED_URL", server.address(u"/update.xml"_s).toLatin1());
-        QDesktopServices::setUrlHandler(u"https"_s, this, "openAddress");
-        QDesktopServices::setUrlHandler(u"http"_s, this, "openAddress");
-
-        const UpdaterDelegate delegate;
+        for (const QString &scheme : { u"http"_s, u"https"_s })
+            QDesktopServices::setUrlHandler(scheme, this, "openAddress");
         Updater updater({ .version = u"1.0.0"_s });
-        updater.setDelegate(&delegate);
         QWidget window;
         const UpdateDialogs dialogs(updater, &window, QUrl(u"https://example.org/"_s));
-        updater.checkForUpdates();
-        QTRY_VERIFY(window.findChild<QDialog *>());
+        AppcastItem item;
+        item.displayVersion = u"9.0"_s;
+        item.notes = u"<script>x()</script><ul><li><b>Faster</b> st\u202eart<li>See "
+                     "http://evil.example/</ul>"_s;
+        Q_EMIT updater.checked({ .outcome = UpdateCheck::Outcome::Available, .item = item });
+
         auto *dialog = window.findChild<QDialog *>();
+        QVERIFY(dialog);
         QCOMPARE(dialog->findChild<QLabel *>()->text(),
             u"Video Converter 9.0 is available. You have 1.0.0."_s);
         QCOMPARE(dialog->findChild<QPlainTextEdit *>()->toPlainText(),
@@ -55,8 +45,6 @@ private Q_SLOTS:
         QVERIFY(site != buttons.end());
         QTest::mouseClick(*site, Qt::LeftButton);
         QCOMPARE(m_opened, QList<QUrl>{ QUrl(u"https://example.org/"_s) });
-        QDesktopServices::unsetUrlHandler(u"https"_s);
-        QDesktopServices::unsetUrlHandler(u"http"_s);
     }
 };
 
