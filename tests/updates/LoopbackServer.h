@@ -63,8 +63,12 @@ private:
 
     static void answer(QTcpSocket &socket, const Answer &answer)
     {
-        socket.write("HTTP/1.1 " + answer.status + "\r\nConnection: close\r\n" + answer.headers
-            + "\r\n" + answer.body);
+        QByteArray head
+            = "HTTP/1.1 " + answer.status + "\r\nConnection: close\r\n" + answer.headers;
+        // A closed connection without a length is taken for a lost one: the client asks again.
+        if (!answer.isEndless)
+            head += "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n";
+        socket.write(head + "\r\n" + answer.body);
         if (!answer.isEndless) {
             socket.disconnectFromHost();
             return;

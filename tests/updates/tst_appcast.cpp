@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -91,6 +93,34 @@ private Q_SLOTS:
                      "<!DOCTYPE rss [<!ENTITY x SYSTEM 'file:///etc/passwd'>]><rss>&x;</rss>"),
              })
             QVERIFY2(!parseAppcast(xml, u"linux"_s), xml.constData());
+    }
+
+    void versions_areOrderedByRelease()
+    {
+        const QStringList ascending
+            = u"0.9.9 1.0-alpha 1.0-alpha.2 1.0-alpha.10 1.0b1 1.0-beta 1.0-rc.1 1.0 1.0.0.1 "
+              "1.0.9 1.0.10 1.2-rc1 1.2 1.10 2 10.0 999999999"_s.split(u' ');
+        QStringList sorted = ascending;
+        std::ranges::reverse(sorted);
+        std::ranges::sort(sorted, {}, [](const QString &text) { return *Version::parse(text); });
+        QCOMPARE(sorted, ascending);
+    }
+
+    void versions_knowEqualSpellings()
+    {
+        const std::pair<QString, QString> spellings[]{ { u"1"_s, u"1.0.0"_s },
+            { u"1.02"_s, u"1.2"_s }, { u"v1.2"_s, u"1.2"_s }, { u"1.2+deb12"_s, u"1.2+git"_s },
+            { u"1.2-rc1"_s, u"1.2~RC.1"_s } };
+        for (const auto &[left, right] : spellings)
+            QVERIFY2(Version::parse(left) == Version::parse(right), qPrintable(left));
+    }
+
+    void versions_areNoOtherTexts()
+    {
+        for (const char *text :
+            { "", " 1.0", "1.0\n", "latest", "1..0", "1.", "-1.0", "../1.0", "1.0/../../x", "1.0-",
+                "1.99999999999999999999", "1.0.0.0.0.0.0.0.0", "1.0<b>", "\u0661.\u0662" })
+            QVERIFY2(!Version::parse(QString::fromUtf8(text)), text);
     }
 };
 
