@@ -77,11 +77,12 @@ private Q_SLOTS:
         const auto [head, path, body] = m_collector->requests.constFirst();
         QVERIFY2(head.startsWith("POST /collect HTTP/1.1\r\n"), head.constData());
         QVERIFY2(head.contains("Content-Type: application/json"), head.constData());
-        const QByteArray sent
-            = R"({"an":"ToviVideoConverter.s2.Mac","av":"1.0","cd":"","cid":"ID",)"
-              R"("ea":"size","ec":"adding_video","el":"é\"\n>40","ev":"5","t":"event","tid":")"
-            + Configuration::trackingId().toUtf8() + R"(","ul":"de","v":1})";
-        QCOMPARE(body, sent);
+        const QJsonObject expected{ { u"v"_s, 1 }, { u"t"_s, u"event"_s }, { u"cid"_s, u"ID"_s },
+            { u"tid"_s, Configuration::trackingId() }, { u"an"_s, u"ToviVideoConverter.s2.Mac"_s },
+            { u"av"_s, u"1.0"_s }, { u"ul"_s, u"de"_s }, { u"cd"_s, u""_s },
+            { u"ec"_s, u"adding_video"_s }, { u"ea"_s, u"size"_s }, { u"el"_s, u"é\"\n>40"_s },
+            { u"ev"_s, u"5"_s } };
+        QCOMPARE(body, QJsonDocument(expected).toJson(QJsonDocument::Compact));
         QCOMPARE(m_lines, QStringList());
     }
 

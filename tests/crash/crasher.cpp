@@ -39,13 +39,7 @@ void crashTrap()
 void crashException() { throw std::runtime_error("/home/user/Secret Video.mp4"); }
 
 // Ends in bad memory, or at the end of the stack when that comes first.
-int crashDeep(int depth)
-{
-    if (depth > 0)
-        return crashDeep(depth - 1) + 1;
-    crashSegv();
-    return 0;
-}
+int crashDeep(int depth) { return depth > 0 ? crashDeep(depth - 1) + 1 : (crashSegv(), 0); }
 
 void crashThreads()
 {

@@ -175,8 +175,6 @@ private Q_SLOTS:
         QFETCH(QString, button);
         QTimer::singleShot(0, this, [button] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return; // The test then hangs in the question and is ended.
             for (QAbstractButton *each : box->buttons()) {
                 if (each->text() == button)
                     return each->click();

@@ -6,7 +6,6 @@
 #include <QJsonObject>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
 
 /// A web server on this machine that gives fixed answers, well-behaved or not, and keeps what it
 /// was sent.
@@ -16,7 +15,7 @@ public:
         QByteArray status = "200 OK";
         QByteArray body{};
         QByteArray headers{};
-        /// Sends a few bytes now and then and never ends.
+        /// Leaves the rest to be waited for.
         bool isEndless = false;
     };
     struct Request {
@@ -58,23 +57,12 @@ private:
         socket.readAll();
         const QByteArray path = request.split(' ').value(1);
         requests.append({ request.first(head), path, request.mid(head + 4) });
-        answer(socket, answers.value(path, { .status = "404 Not Found" }));
-    }
-
-    static void answer(QTcpSocket &socket, const Answer &answer)
-    {
-        QByteArray head
-            = "HTTP/1.1 " + answer.status + "\r\nConnection: close\r\n" + answer.headers;
+        const Answer answer = answers.value(path, { .status = "404 Not Found" });
         // A closed connection without a length is taken for a lost one: the client asks again.
+        const qsizetype promised = answer.body.size() + (answer.isEndless ? 1 : 0);
+        socket.write("HTTP/1.1 " + answer.status + "\r\nConnection: close\r\nContent-Length: "
+            + QByteArray::number(promised) + "\r\n" + answer.headers + "\r\n" + answer.body);
         if (!answer.isEndless)
-            head += "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n";
-        socket.write(head + "\r\n" + answer.body);
-        if (!answer.isEndless) {
             socket.disconnectFromHost();
-            return;
-        }
-        auto *timer = new QTimer(&socket);
-        QObject::connect(timer, &QTimer::timeout, &socket, [&socket] { socket.write(" "); });
-        timer->start(20);
     }
 };
