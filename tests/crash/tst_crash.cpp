@@ -2,7 +2,6 @@
 #include "tests/fixtures/Rows.h"
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -72,7 +71,6 @@ private Q_SLOTS:
     {
         addRows<int, Utf8, Utf8>({ "status", "reason", "function" },
             { { "segv", 128 + SIGSEGV, "SIGSEGV", "crashSegv()" },
-                { "abort", 128 + SIGABRT, "SIGABRT", "main" },
                 { "trap", 128 + SIGILL, "SIGILL (trap stop)", "crashTrap()" },
                 { "fpe", 128 + SIGFPE, "SIGFPE", "main" },
                 { "exception", 128 + SIGABRT, "SIGABRT", "crashException()" },

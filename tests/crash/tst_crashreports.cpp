@@ -15,6 +15,7 @@
 #include <QNetworkProxyFactory>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -36,15 +37,6 @@ private:
     static QString files()
     {
         return QDir(CrashReporter::folder()).entryList(QDir::Files, QDir::Name).join(u' ');
-    }
-
-    /// What the service was sent.
-    QByteArrayList sent() const
-    {
-        QByteArrayList bodies;
-        for (const LoopbackServer::Request &request : m_server->requests)
-            bodies.append(request.body);
-        return bodies;
     }
 
     /// Runs the question with one answer for all, and counts how often it was asked.
@@ -103,9 +95,9 @@ private Q_SLOTS:
         leaveReport(2);
         QTEST(ask(answer), "asked");
         QTRY_COMPARE(files(), left);
-        QByteArrayList bodies = sent();
-        std::ranges::sort(bodies);
-        QCOMPARE(bodies, (QByteArrayList{ "report 1", "report 2" }.mid(0, uploads)));
+        QCOMPARE(m_server->requests.size(), uploads);
+        for (int number = 1; number <= uploads; ++number)
+            QVERIFY(m_server->wasSent("report " + QByteArray::number(number)));
         QCOMPARE(ask(SendReport::Yes), 0);
         QCOMPARE(
             Defaults::value(u"CrashReportsAlwaysSend"_s).toBool(), answer == SendReport::Always);
@@ -156,11 +148,11 @@ private Q_SLOTS:
             QTRY_VERIFY(!m_server->requests.isEmpty());
             if (event == "clean end")
                 Q_EMIT qApp->aboutToQuit({});
-            const QByteArray start = sent().last();
+            const QByteArray start = m_server->requests.last().body;
             SessionEvents second;
             second.begin();
             const QByteArray end = QByteArray(start).replace("Event: start", "Event: " + event);
-            QTRY_VERIFY2(sent().contains(end), sent().last().constData());
+            QTRY_VERIFY2(m_server->wasSent(end), end.constData());
         }
     }
 

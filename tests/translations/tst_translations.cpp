@@ -35,8 +35,8 @@ QStringList sources(const QString &path, QStringList &faults)
         u"<source>(.*?)</source>.*?<translation(.*?)</translation>"_s,
         QRegularExpression::DotMatchesEverythingOption);
     QFile file(path);
-    const bool isOpen = file.open(QIODevice::ReadOnly);
-    const QString table = isOpen ? QString::fromUtf8(file.readAll()) : QString();
+    file.open(QIODevice::ReadOnly);
+    const QString table = QString::fromUtf8(file.readAll());
     QStringList texts;
     for (const QRegularExpressionMatch &match : message.globalMatch(table)) {
         const QString source = match.captured(1);

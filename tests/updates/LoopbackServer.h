@@ -7,6 +7,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <algorithm>
+
 /// A web server on this machine that gives fixed answers, well-behaved or not, and keeps what it
 /// was sent.
 class LoopbackServer : public QTcpServer {
@@ -40,6 +42,11 @@ public:
     [[nodiscard]] QString address(const QString &path) const
     {
         return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path);
+    }
+
+    [[nodiscard]] bool wasSent(const QByteArray &body) const
+    {
+        return std::ranges::find(requests, body, &Request::body) != requests.end();
     }
 
     QHash<QByteArray, Answer> answers;
