@@ -5,139 +5,98 @@
 #include <QCoreApplication>
 
 #include <atomic>
+#include <barrier>
 #include <climits>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <dlfcn.h>
 #include <link.h>
-#include <mutex>
 #include <stdexcept>
 #include <string_view>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
-#include <utility>
-#include <vector>
+#include <unordered_map>
 
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the C library's own name
 extern "C" void *__libc_malloc(std::size_t size);
 
-using namespace std::string_view_literals;
-
 namespace {
 
 std::atomic<int *> nowhere = nullptr;
-std::atomic_bool crashInMalloc = false;
-std::mutex mallocMutex;
+std::atomic_bool hasCrashed = false;
 
-[[gnu::noinline]] void crashSegv() { *nowhere = 1; }
+void crashSegv()
+{
+    hasCrashed = true;
+    *nowhere = 1;
+}
 
-[[gnu::noinline]] void crashAbort() { std::abort(); }
-
-[[gnu::noinline]] void crashTrap()
+void crashTrap()
 {
     volatile int number = INT_MAX;
     number = number + 1;
 }
 
-[[gnu::noinline]] void crashFpe()
-{
-    volatile int zero = 0;
-    zero = INT_MAX / zero; // NOLINT(clang-analyzer-core.DivideZero)
-}
+void crashException() { throw std::runtime_error("/home/user/Secret Video.mp4"); }
 
-[[gnu::noinline]] void crashException() { throw std::runtime_error("/home/user/Secret Video.mp4"); }
+// Ends in bad memory, or at the end of the stack when that comes first.
+int crashDeep(int depth) { return depth > 0 ? crashDeep(depth - 1) + 1 : (crashSegv(), 0); }
 
-[[gnu::noinline]] int crashStack(int depth)
+void crashThreads()
 {
-    volatile char filling[4096] = {};
-    filling[0] = static_cast<char>(depth);
-    return depth < INT_MAX ? crashStack(depth + 1) + filling[0] : 0;
-}
-
-// Its long report leaves the other threads time to crash while it is written.
-[[gnu::noinline]] int crashDeep(int depth)
-{
-    if (depth == 0)
-        crashSegv();
-    return depth == 0 ? 0 : crashDeep(depth - 1) + 1;
-}
-
-[[gnu::noinline]] void crashThreads()
-{
-    constexpr int count = 4;
-    std::atomic_int ready = 0;
-    const auto crash = [&ready] {
-        ++ready;
-        while (ready < count) { }
-        crashDeep(200);
+    std::barrier barrier(4);
+    const auto crash = [&barrier] {
+        barrier.arrive_and_wait();
+        crashDeep(200); // A long report leaves the others time to crash meanwhile.
     };
-    std::vector<std::jthread> threads;
-    threads.reserve(count);
-    for (int thread = 0; thread < count; ++thread)
-        threads.emplace_back(crash);
-}
-
-[[gnu::noinline]] void crashMalloc()
-{
-    crashInMalloc = true;
-    std::free(std::malloc(10));
+    const std::jthread threads[]{ std::jthread(crash), std::jthread(crash), std::jthread(crash),
+        std::jthread(crash) };
 }
 
 // Another thread holds for ever what the unwinder waits for.
-[[gnu::noinline]] void crashLocked()
+void crashLocked()
 {
     static std::atomic_bool isLocked = false;
     const auto lock = [](dl_phdr_info *, std::size_t, void *) {
         isLocked = true;
         return ::pause();
     };
-    std::thread([lock] { ::dl_iterate_phdr(lock, nullptr); }).detach();
+    const std::jthread holder(::dl_iterate_phdr, lock, nullptr);
     while (!isLocked) { }
     crashSegv();
 }
 
 // The crash of a child between fork and exec is not the program's.
-[[gnu::noinline]] void crashChild()
+void crashChild()
 {
-    const pid_t child = ::fork();
-    if (child == 0)
+    if (::fork() == 0)
         crashSegv();
     int status = 0;
-    ::waitpid(child, &status, 0);
+    ::wait(&status);
     ::_exit(WIFSIGNALED(status) ? 7 : 0);
 }
 
 }
 
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-// An allocator whose lock is held when the crash comes: whoever asks it for memory then waits for
-// ever.
+// As if the crash had come while the allocator's lock was held.
 extern "C" void *malloc(std::size_t size)
 {
-    const std::lock_guard lock(mallocMutex);
-    if (crashInMalloc)
-        crashSegv();
+    while (hasCrashed) { }
     return __libc_malloc(size);
 }
 #endif
 
 int main(int argc, char **argv)
 {
-    if (argc > 1 && argv[1] == "earlier"sv)
+    const std::string_view way = argv[1];
+    if (way == "earlier")
         ::signal(SIGSEGV, [](int) { ::_exit(9); });
     CrashReporter::start();
     const QCoreApplication application(argc, argv);
-    const std::pair<std::string_view, void (*)()> ways[] = { { "segv", crashSegv },
-        { "abort", crashAbort }, { "trap", crashTrap }, { "fpe", crashFpe },
-        { "exception", crashException }, { "stack", [] { crashStack(0); } },
-        { "threads", crashThreads }, { "malloc", crashMalloc }, { "locked", crashLocked },
-        { "child", crashChild }, { "earlier", crashSegv } };
-    for (const auto &[name, crash] : ways) {
-        if (argc > 1 && name == argv[1])
-            crash();
-    }
-    return 0;
+    const std::unordered_map<std::string_view, void (*)()> ways{ { "segv", crashSegv },
+        { "trap", crashTrap }, { "fpe", [] { ::raise(SIGFPE); } }, { "exception", crashException },
+        { "stack", [] { crashDeep(INT_MAX); } }, { "threads", crashThreads },
+        { "locked", crashLocked }, { "child", crashChild }, { "earlier", crashSegv } };
+    ways.at(way)();
 }

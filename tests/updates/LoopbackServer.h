@@ -2,21 +2,31 @@
 #pragma once
 
 #include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
-#include <QUrl>
 
-/// A web server on this machine that gives fixed answers, well-behaved or not, and keeps the bodies
-/// it was sent.
+#include <algorithm>
+
+/// A web server on this machine that gives fixed answers, well-behaved or not, and keeps what it
+/// was sent.
 class LoopbackServer : public QTcpServer {
 public:
     struct Answer {
         QByteArray status = "200 OK";
         QByteArray body{};
         QByteArray headers{};
-        /// Sends a few bytes now and then and never ends.
+        /// Leaves the rest to be waited for.
         bool isEndless = false;
+    };
+    struct Request {
+        QByteArray head;
+        QByteArray path;
+        QByteArray body;
+
+        /// The body of a usage event.
+        [[nodiscard]] QJsonObject hit() const { return QJsonDocument::fromJson(body).object(); }
     };
 
     LoopbackServer()
@@ -34,50 +44,32 @@ public:
         return QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path);
     }
 
+    [[nodiscard]] bool wasSent(const QByteArray &body) const
+    {
+        return std::ranges::find(requests, body, &Request::body) != requests.end();
+    }
+
     QHash<QByteArray, Answer> answers;
-    QList<QByteArray> paths;
-    QList<QByteArray> bodies;
+    QList<Request> requests;
 
 private:
     void read(QTcpSocket &socket)
     {
-        QByteArray &request = m_requests[&socket];
-        request += socket.readAll();
+        const QByteArray request = socket.peek(socket.bytesAvailable());
         const qsizetype head = request.indexOf("\r\n\r\n");
-        if (head < 0)
+        const qsizetype field = request.toLower().indexOf("content-length: ");
+        const qsizetype length = field < 0 ? 0 : request.mid(field + 16).split('\r')[0].toInt();
+        if (head < 0 || request.size() < head + 4 + length)
             return;
-        const qsizetype field = request.toLower().indexOf("content-length:");
-        const qsizetype length = field < 0
-            ? 0
-            : request.mid(field + 15, 12).split('\r').first().trimmed().toLongLong();
-        if (request.size() < head + 4 + length)
-            return;
-        const QByteArray complete = m_requests.take(&socket);
-        reply(socket, complete.first(head), complete.mid(head + 4));
+        socket.readAll();
+        const QByteArray path = request.split(' ').value(1);
+        requests.append({ request.first(head), path, request.mid(head + 4) });
+        const Answer answer = answers.value(path, { .status = "404 Not Found" });
+        // A closed connection without a length is taken for a lost one: the client asks again.
+        const qsizetype promised = answer.body.size() + (answer.isEndless ? 1 : 0);
+        socket.write("HTTP/1.1 " + answer.status + "\r\nConnection: close\r\nContent-Length: "
+            + QByteArray::number(promised) + "\r\n" + answer.headers + "\r\n" + answer.body);
+        if (!answer.isEndless)
+            socket.disconnectFromHost();
     }
-
-    virtual void reply(QTcpSocket &socket, const QByteArray &head, const QByteArray &body)
-    {
-        const QByteArray path = head.split(' ').value(1);
-        paths.append(path);
-        bodies.append(body);
-        answer(socket, answers.value(path, { .status = "404 Not Found" }));
-    }
-
-    static void answer(QTcpSocket &socket, const Answer &answer)
-    {
-        socket.write("HTTP/1.1 " + answer.status + "\r\nConnection: close\r\n" + answer.headers);
-        if (answer.isEndless) {
-            socket.write("\r\n" + answer.body);
-            auto *timer = new QTimer(&socket);
-            QObject::connect(timer, &QTimer::timeout, &socket, [&socket] { socket.write(" "); });
-            timer->start(20);
-            return;
-        }
-        socket.write(
-            "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
-        socket.disconnectFromHost();
-    }
-
-    QHash<QTcpSocket *, QByteArray> m_requests;
 };

@@ -5,13 +5,16 @@
 #include "updates/UpdateDownload.h"
 #include "updates/Updater.h"
 #include "updates/UpdaterDelegate.h"
+#include "updates/dialog/UpdateDialogs.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QLabel>
 #include <QNetworkProxyFactory>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 #include <QTest>
 
 #include <sodium.h>
@@ -19,16 +22,11 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Answer = LoopbackServer::Answer;
-using Outcome = UpdateCheck::Outcome;
 
 namespace {
 
 struct Keys {
-    explicit Keys(char letter)
-    {
-        const QByteArray seed(crypto_sign_SEEDBYTES, letter);
-        crypto_sign_seed_keypair(data(publicKey), data(secretKey), data(seed));
-    }
+    Keys() { crypto_sign_keypair(data(publicKey), data(secretKey)); }
 
     static unsigned char *data(const QByteArray &bytes)
     {
@@ -61,15 +59,6 @@ Answer redirection(const QByteArray &address)
     return { .status = "302 Found", .headers = "Location: " + address + "\r\n" };
 }
 
-QByteArray ownFile(const QByteArray &contents)
-{
-    static QTemporaryFile file;
-    file.open();
-    file.write(contents);
-    file.flush();
-    return file.fileName().toLatin1();
-}
-
 }
 
 class tst_Updater : public QObject {
@@ -84,90 +73,74 @@ private:
             + "' sparkle:versionSignature='" + versionSignature.toBase64() + "'/></item>";
     }
 
-    QByteArray signedItem(const QByteArray &version) const
+    QByteArray good(const QByteArray &version) const
     {
         const QByteArray signature = m_keys.sign(package);
         return item(version, signature, m_keys.sign(signature + version));
     }
 
-    UpdateCheck checkNow()
+    void makeUpdater()
     {
-        Updater updater(m_settings);
-        updater.setDelegate(&m_delegate);
-        QSignalSpy spy(&updater, &Updater::checked);
-        updater.checkForUpdates();
-        if (spy.isEmpty() && !spy.wait(5000))
-            qFatal("no answer");
-        return spy.first().first().value<UpdateCheck>();
+        m_updater = std::make_unique<Updater>(m_settings);
+        m_updater->setDelegate(&m_delegate);
+        m_checks = std::make_unique<QSignalSpy>(m_updater.get(), &Updater::checked);
     }
 
-    Keys m_keys{ 's' };
+    UpdateCheck checkNow()
+    {
+        makeUpdater();
+        m_updater->checkForUpdates();
+        if (m_checks->isEmpty() && !m_checks->wait(5000))
+            qFatal("no answer");
+        return m_checks->first().first().value<UpdateCheck>();
+    }
+
+    Keys m_keys;
     LoopbackServer m_server;
     QTemporaryDir m_folder;
     UpdaterSettings m_settings;
     UpdaterDelegate m_delegate;
+    std::unique_ptr<Updater> m_updater;
+    std::unique_ptr<QSignalSpy> m_checks;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(sodium_init() >= 0);
-        QNetworkProxyFactory::setUseSystemConfiguration(false);
-    }
-
     void init()
     {
-        m_server.answers.clear();
-        m_server.paths.clear();
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
+        m_server.answers = { { "/update.xml", feed(good("1.6")) } };
+        m_server.requests.clear();
         m_settings = { .version = u"1.5"_s,
             .publicKey = QString::fromLatin1(m_keys.publicKey.toBase64()),
             .downloadFolder = m_folder.filePath(u"Downloads"_s) };
-        QDir(m_settings.downloadFolder).removeRecursively();
         qputenv("VIDEO_CONVERTER_FEED_URL", m_server.address(u"/update.xml"_s).toLatin1());
         Defaults::remove(u"LastUpdateCheck"_s);
     }
 
     void check_judgesTheFeed_data()
     {
-        QTest::addColumn<Answer>("answer");
-        QTest::addColumn<Outcome>("outcome");
-        QTest::addColumn<QString>("offered");
-        const auto row = [](const char *name, const Answer &answer, Outcome outcome,
-                             const QString &offered = {}) {
-            QTest::newRow(name) << answer << outcome << offered;
-        };
-        row("newer", feed(signedItem("1.6")), Outcome::Available, u"1.6"_s);
-        row("newest of many", feed(signedItem("1.6") + signedItem("1.10") + signedItem("1.10-rc1")),
-            Outcome::Available, u"1.10"_s);
-        row("same", feed(signedItem("1.5.0")), Outcome::UpToDate);
-        row("older, rightly signed", feed(signedItem("1.4") + signedItem("0.9")),
-            Outcome::UpToDate);
-        row("pre-release of this", feed(signedItem("1.5-rc1")), Outcome::UpToDate);
-        row("nothing", feed({}), Outcome::UpToDate);
-
+        using enum UpdateCheck::Outcome;
         const QByteArray right = m_keys.sign(package);
-        row("unsigned", feed(item("1.6", {}, {})), Outcome::Untrusted);
-        row("version unsigned", feed(item("1.6", right, {})), Outcome::Untrusted);
-        row("old file as a new one", feed(item("1.6", right, m_keys.sign(right + "1.4"))),
-            Outcome::Untrusted);
-        row("version of another file",
-            feed(item("1.6", right, m_keys.sign(m_keys.sign("other") + "1.6"))),
-            Outcome::Untrusted);
-        row("another key", feed(item("1.6", right, Keys('x').sign(right + "1.6"))),
-            Outcome::Untrusted);
-        row("signed older, unsigned newer", feed(signedItem("1.6") + item("1.7", right, right)),
-            Outcome::Available, u"1.6"_s);
-
-        row("malformed", { .body = "<rss><item>" }, Outcome::Failed);
-        row("entity bomb", { .body = "<!DOCTYPE rss [<!ENTITY a 'aa'>]><rss>&a;</rss>" },
-            Outcome::Failed);
-        row("huge", { .body = "<rss>" + QByteArray(2 << 20, ' ') + "</rss>" }, Outcome::Failed);
-        row("never ends", { .body = "<rss>", .isEndless = true }, Outcome::Failed);
-        row("missing", { .status = "404 Not Found", .body = "<rss/>" }, Outcome::Failed);
-        row("redirected in a circle", redirection("/update.xml"), Outcome::Failed);
-        row("redirected to a file", redirection("file://" + ownFile("<rss/>")), Outcome::Failed);
-        row("redirected to data", redirection("data:text/xml,<rss/>"), Outcome::Failed);
-        row("compressed", { .body = "\x1f\x8b\x08", .headers = "Content-Encoding: gzip\r\n" },
-            Outcome::Failed);
+        const auto signedAs
+            = [&](const QByteArray &signature) { return feed(item("1.6", right, signature)); };
+        addRows<Answer, UpdateCheck::Outcome>({ "answer", "outcome" },
+            {
+                { "newest", feed(good("1.9") + good("1.10") + good("1.10-rc1")), Available },
+                { "newer unsigned", feed(good("1.10") + item("1.11", right, right)), Available },
+                { "nothing newer", feed(good("1.5.0") + good("1.5-rc1")), UpToDate },
+                { "nothing", feed({}), UpToDate },
+                { "unsigned", feed(item("1.6", {}, {})), Untrusted },
+                { "version unsigned", signedAs({}), Untrusted },
+                { "old file as a new one", signedAs(m_keys.sign(right + "1.4")), Untrusted },
+                { "for another file", signedAs(m_keys.sign(m_keys.sign("other") + "1.6")),
+                    Untrusted },
+                { "another key", signedAs(Keys().sign(right + "1.6")), Untrusted },
+                { "malformed", { .body = "<rss><item>" }, Failed },
+                { "huge", { .body = "<rss>" + QByteArray(2 << 20, ' ') + "</rss>" }, Failed },
+                { "never ends", { .body = "<rss>", .isEndless = true }, Failed },
+                { "missing", { .status = "404 Not Found", .body = "<rss/>" }, Failed },
+                { "redirected in a circle", redirection("/update.xml"), Failed },
+                { "redirected out of the web", redirection("data:text/xml,<rss/>"), Failed },
+            });
     }
     void check_judgesTheFeed()
     {
@@ -176,84 +149,74 @@ private Q_SLOTS:
         m_settings.feedLimits.time = 500ms;
         const UpdateCheck check = checkNow();
         QTEST(check.outcome, "outcome");
-        QTEST(check.item.versionText, "offered");
         QVERIFY(check.byUser);
-        QCOMPARE(check.isDownloadable, check.outcome == Outcome::Available);
+        const bool isAvailable = check.outcome == UpdateCheck::Outcome::Available;
+        QCOMPARE(check.isDownloadable, isAvailable);
+        QCOMPARE(check.item.versionText, isAvailable ? u"1.10"_s : QString());
         // Five redirections, and requests repeated on closed connections.
-        QVERIFY(m_server.paths.size() < 20);
+        QVERIFY(m_server.requests.size() < 20);
     }
 
-    void check_withoutKeyOffersNoDownload()
+    void check_needsKeyAndFeed()
     {
-        m_server.answers["/update.xml"] = feed(signedItem("1.6"));
         m_settings.publicKey.clear();
-        UpdateCheck check = checkNow();
-        QCOMPARE(check.outcome, Outcome::Available);
+        const UpdateCheck check = checkNow();
+        QCOMPARE(check.outcome, UpdateCheck::Outcome::Available);
         QVERIFY(!check.isDownloadable);
         m_settings.publicKey = u"rubbish"_s;
-        check = checkNow();
-        QCOMPARE(check.outcome, Outcome::Untrusted);
+        QCOMPARE(checkNow().outcome, UpdateCheck::Outcome::Untrusted);
+
+        m_updater->setDelegate(nullptr);
+        m_updater->checkForUpdates();
+        QCOMPARE(m_checks->last().first().value<UpdateCheck>().outcome,
+            UpdateCheck::Outcome::NotConfigured);
     }
 
-    void check_withoutFeedSaysSo()
+    void backgroundCheck_isDailyAndDiscreet_data()
     {
-        qunsetenv("VIDEO_CONVERTER_FEED_URL");
-        if (!m_delegate.feedURLStringForUpdater(nullptr).isEmpty())
-            QSKIP("this build has a feed");
-        QCOMPARE(checkNow().outcome, Outcome::NotConfigured);
+        addRows<qint64, Utf8, int, bool>({ "hoursAgo", "version", "requests", "isTold" },
+            { { "an hour ago", 1, "1.6", 0, false }, { "a day ago", 24, "1.6", 1, true },
+                { "in a far future", -10000, "1.6", 1, true },
+                { "no news", 24, "1.5", 1, false } });
     }
-
-    void backgroundCheck_isDaily_data()
-    {
-        addRows<qint64, bool>({ "hoursAgo", "isDue" },
-            { { "an hour ago", 1, false }, { "a day ago", 24, true },
-                { "in a far future", -10000, true } });
-    }
-    void backgroundCheck_isDaily()
+    void backgroundCheck_isDailyAndDiscreet()
     {
         QFETCH(qint64, hoursAgo);
-        QFETCH(bool, isDue);
-        m_server.answers["/update.xml"] = feed(signedItem("1.6"));
+        QFETCH(QString, version);
+        QFETCH(bool, isTold);
+        m_server.answers["/update.xml"] = feed(good(version.toLatin1()));
         Defaults::setValue(
             u"LastUpdateCheck"_s, QDateTime::currentDateTimeUtc().addSecs(-3600 * hoursAgo));
-        Updater updater(m_settings);
-        updater.setDelegate(&m_delegate);
-        QSignalSpy spy(&updater, &Updater::checked);
-        updater.checkInBackground();
-        QCOMPARE(spy.wait(isDue ? 5000 : 200), isDue);
-        updater.checkInBackground();
-        QVERIFY(!spy.wait(200));
-        QCOMPARE(m_server.paths.size(), isDue ? 1 : 0);
+        makeUpdater();
+        m_updater->checkInBackground();
+        QCOMPARE(m_checks->wait(isTold ? 5000 : 300), isTold);
+        m_updater->checkInBackground();
+        QVERIFY(!m_checks->wait(200));
+        QTEST(static_cast<int>(m_server.requests.size()), "requests");
     }
 
-    void backgroundCheck_isSilentUnlessSomethingIsNew()
+    void question_joinsACheckThatRuns()
     {
-        Updater updater(m_settings);
-        updater.setDelegate(&m_delegate);
-        QSignalSpy spy(&updater, &Updater::checked);
-        updater.checkInBackground();
-        QTRY_COMPARE(m_server.paths.size(), 1);
-        QVERIFY(!spy.wait(200));
-        // The user's question joins a check that runs and is answered.
-        Defaults::remove(u"LastUpdateCheck"_s);
-        updater.checkInBackground();
-        updater.checkForUpdates();
-        QVERIFY(spy.wait(5000));
-        QVERIFY(spy.first().first().value<UpdateCheck>().byUser);
-        QCOMPARE(m_server.paths.size(), 2);
+        m_server.answers.clear();
+        makeUpdater();
+        m_updater->checkInBackground();
+        m_updater->checkForUpdates();
+        QVERIFY(m_checks->wait(5000));
+        QVERIFY(m_checks->first().first().value<UpdateCheck>().byUser);
+        QCOMPARE(m_server.requests.size(), 1);
     }
 
     void download_keepsOnlyWhatWasSigned_data()
     {
         addRows<Answer, Utf8>({ "answer", "end" },
-            { { "rightly signed", { .body = package }, "saved" },
+            {
+                { "rightly signed", { .body = package }, "saved" },
                 { "redirected once", redirection("/moved"), "saved" },
                 { "one byte changed", { .body = "the new packagf" }, "forged" },
                 { "one byte more", { .body = QByteArray(package) + "\n" }, "forged" },
                 { "empty", {}, "failed" },
                 { "huge", { .body = QByteArray(2 << 20, 'x') }, "failed" },
-                { "never ends", { .body = package, .isEndless = true }, "failed" },
-                { "missing", { .status = "404 Not Found", .body = package }, "failed" } });
+            });
     }
     void download_keepsOnlyWhatWasSigned()
     {
@@ -262,41 +225,56 @@ private Q_SLOTS:
         m_settings.fileLimits = { .bytes = 1 << 20, .time = 500ms };
         m_server.answers["/new.deb"] = answer;
         m_server.answers["/moved"].body = package;
-        m_server.answers["/update.xml"] = feed(signedItem("1.6"));
+        const AppcastItem item = checkNow().item;
+        QDir folder(m_settings.downloadFolder);
+        folder.removeRecursively();
 
-        const auto download = Updater(m_settings).download(checkNow().item);
-        QSignalSpy saved(download.get(), &UpdateDownload::saved);
-        QSignalSpy failed(download.get(), &UpdateDownload::failed);
-        download->start();
-        QTRY_COMPARE(saved.size() + failed.size(), 1);
-        const QString actual = !saved.isEmpty() ? u"saved"_s
-            : failed[0][0].toBool()             ? u"forged"_s
-                                                : u"failed"_s;
-        QCOMPARE(actual, end);
-        const QDir folder(m_settings.downloadFolder);
-        QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden),
-            end == u"saved" ? QStringList{ u"VideoConverter-1.6.deb"_s } : QStringList());
+        // When the second file comes, the first one is the user's.
+        QStringList files;
+        for (const QString &name : { u"VideoConverter-1.6.deb"_s, u"VideoConverter-1.6 2.deb"_s }) {
+            const auto download = m_updater->download(item);
+            const QSignalSpy saved(download.get(), &UpdateDownload::saved);
+            const QSignalSpy failed(download.get(), &UpdateDownload::failed);
+            download->start();
+            QTRY_COMPARE(saved.size() + failed.size(), 1);
+            if (end == u"saved") {
+                files.prepend(name);
+                QCOMPARE(saved.value(0).value(0).toString(), folder.filePath(name));
+                QFile file(folder.filePath(name));
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                QCOMPARE(file.readAll(), QByteArray(package));
+            } else {
+                QVERIFY(saved.isEmpty());
+                QCOMPARE(failed[0][0].toBool(), end == u"forged");
+            }
+            folder.refresh();
+            QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), files);
+        }
     }
 
-    void download_replacesNothing()
+    void offer_isPlainTextAndNoDownloadWithoutKey()
     {
-        m_server.answers["/new.deb"].body = package;
-        m_server.answers["/update.xml"] = feed(signedItem("1.6"));
-        QDir().mkpath(m_settings.downloadFolder);
-        QFile mine(m_settings.downloadFolder + u"/VideoConverter-1.6.deb"_s);
-        QVERIFY(mine.open(QIODevice::WriteOnly));
+        m_settings.publicKey.clear();
+        makeUpdater();
+        QWidget window;
+        const UpdateDialogs dialogs(*m_updater, &window, QUrl(u"https://example.org/"_s));
+        AppcastItem item;
+        item.displayVersion = u"9.0"_s;
+        item.notes = u"<script>x()</script><ul><li><b>Faster</b> st\u202eart<li>See "
+                     "http://evil.example/</ul>"_s;
+        Q_EMIT m_updater->checked({ .outcome = UpdateCheck::Outcome::Available, .item = item });
 
-        const auto download = Updater(m_settings).download(checkNow().item);
-        QSignalSpy saved(download.get(), &UpdateDownload::saved);
-        download->start();
-        QVERIFY(saved.wait(5000));
-        QCOMPARE(mine.size(), 0);
-        QFile file(m_settings.downloadFolder + u"/VideoConverter-1.6 2.deb"_s);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray(package));
-        QCOMPARE(saved[0][0].toString(), file.fileName());
+        QCOMPARE(window.findChild<QLabel *>()->text(),
+            u"Video Converter 9.0 is available. You have 1.5."_s);
+        QCOMPARE(window.findChild<QPlainTextEdit *>()->toPlainText(),
+            u"Faster start\nSee http://evil.example/"_s);
+        QStringList buttons;
+        for (const QPushButton *button : window.findChildren<QPushButton *>())
+            buttons.append(button->text());
+        buttons.sort();
+        QCOMPARE(buttons, (QStringList{ u"Later"_s, u"Open Web Site"_s }));
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Updater)
+QTEST_MAIN(tst_Updater)
 #include "tst_updater.moc"
