@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "tests/fixtures/Rows.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/FileBrowser.h"
@@ -12,98 +11,55 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString fileManager = u"org.freedesktop.FileManager1"_s;
-const QString portal = u"org.freedesktop.portal.Desktop"_s;
-const QString notifications = u"org.freedesktop.Notifications"_s;
-const QString notificationsPath = u"/org/freedesktop/Notifications"_s;
-
-/// Stands for the program that opens folders.
-class FolderOpener : public QObject {
+/// What the window asks of the desktop. The usual course is part of a conversion's tests.
+class tst_desktop_services : public QObject {
     Q_OBJECT
 
-public:
-    FolderOpener() { QDesktopServices::setUrlHandler(u"file"_s, this, "open"); }
-    ~FolderOpener() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-    Q_DISABLE_COPY_MOVE(FolderOpener)
-
-    QStringList folders;
+private:
+    QStringList m_opened;
 
 public Q_SLOTS:
-    void open(const QUrl &url) { folders.append(url.toLocalFile()); }
-};
-
-}
-
-class TestDesktopServices : public QObject {
-    Q_OBJECT
+    /// Stands for the program that opens folders.
+    void open(const QUrl &url) { m_opened << url.toLocalFile(); }
 
 private Q_SLOTS:
-    void reveal_asksFileManagerForTheFile_data()
+    void reveal_needsNoFileManager()
     {
-        addRows<Utf8, Utf8>({ "path", "uri" },
-            { { "plain", "/videos/clip.mp4", "file:///videos/clip.mp4" },
-                { "percent", "/videos/100%d %41.mp4", "file:///videos/100%25d%20%2541.mp4" },
-                { "url letters", "/videos/a?b#c.mp4", "file:///videos/a%3Fb%23c.mp4" },
-                { "line end", "/videos/new\nline.mp4", "file:///videos/new%0Aline.mp4" },
-                { "two slashes", "//videos/clip.mp4", "file:///videos/clip.mp4" },
-                { "umlaut", "/videos/\u00fc.mp4", "file:///videos/%C3%BC.mp4" } });
-    }
-    void reveal_asksFileManagerForTheFile()
-    {
-        QFETCH(QString, path);
-        FolderOpener opener;
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(fileManager));
-        desktop.answer(u"ShowItems"_s, {});
-        FileBrowser::reveal(path);
-        QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
-        const QVariantList arguments = desktop.calls(u"ShowItems"_s).constFirst().arguments();
-        QTEST(arguments.value(0).toStringList().join(u' '), "uri");
-        QCOMPARE(opener.folders, QStringList());
-    }
-
-    void reveal_opensFolderWhenTheFileManagerFails()
-    {
-        FolderOpener opener;
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(fileManager));
+        const QString fileManager = u"org.freedesktop.FileManager1"_s;
+        QDesktopServices::setUrlHandler(u"file"_s, this, "open");
+        {
+            const DesktopStandIn desktop({ fileManager }, { { u"ShowItems"_s, {} } });
+            FileBrowser::reveal(u"//videos/a?b#\u00fc/100%d %41\n.mp4"_s);
+            QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
+            const QVariantList arguments = desktop.calls(u"ShowItems"_s).constFirst().arguments();
+            QCOMPARE(arguments.value(0).toStringList(),
+                QStringList(u"file:///videos/a%3Fb%23%C3%BC/100%25d%20%2541%0A.mp4"_s));
+        }
+        const DesktopStandIn desktop({ fileManager }, {});
         FileBrowser::reveal(u"/videos/100%d/clip.mp4"_s);
-        QTRY_COMPARE(opener.folders, QStringList(u"/videos/100%d"_s));
+        QTRY_COMPARE(m_opened, QStringList(u"/videos/100%d"_s));
+        QDesktopServices::unsetUrlHandler(u"file"_s);
     }
 
-    void keepAwake_releasesPortalRequest_data()
+    void keepAwake_releasesWhatComesTooLate()
     {
-        addRows<bool>({ "stoppedBeforeTheAnswer" },
-            { { "after the answer", false }, { "before the answer", true } });
-    }
-    void keepAwake_releasesPortalRequest()
-    {
-        QFETCH(bool, stoppedBeforeTheAnswer);
         const QString request = u"/org/freedesktop/portal/desktop/request/1/t"_s;
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(portal));
-        desktop.answer(u"Inhibit"_s, { QVariant::fromValue(QDBusObjectPath(request)) });
-        desktop.answer(u"Close"_s, {});
-        if (stoppedBeforeTheAnswer)
-            desktop.hold();
+        const DesktopStandIn desktop({ u"org.freedesktop.portal.Desktop"_s },
+            { { u"Inhibit"_s, { QVariant::fromValue(QDBusObjectPath(request)) } },
+                { u"Close"_s, {} } });
         KeepAwake awake;
         awake.start(u"Converting"_s);
-        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-        QCOMPARE(desktop.calls(u"Inhibit"_s).constFirst().arguments().value(1), QVariant(4U | 8U));
-        QVERIFY(desktop.calls(u"Close"_s).isEmpty());
+        // No answer arrives before the event loop runs.
         awake.stop();
-        desktop.release();
         QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
         QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), request);
+        QCOMPARE(desktop.calls(u"Inhibit"_s).constFirst().arguments().value(1), QVariant(4U | 8U));
     }
 
-    void notification_escapesTextAndReportsClick()
+    void notification_escapesTextAndReportsItsClick()
     {
-        DesktopStandIn desktop;
-        QVERIFY(desktop.offer(notifications));
-        desktop.answer(u"Notify"_s, { 42U });
+        DesktopStandIn desktop(
+            { u"org.freedesktop.Notifications"_s }, { { u"Notify"_s, { 42U } } });
         DesktopNotification notification;
         int clicks = 0;
         connect(&notification, &DesktopNotification::activated, this, [&clicks] { ++clicks; });
@@ -114,15 +70,9 @@ private Q_SLOTS:
             arguments.value(4).toString(), u"&lt;b&gt;100%d&lt;/b&gt; &amp; &quot;x&quot;.mp4"_s);
         QCOMPARE(arguments.value(5).toStringList().value(0), u"default"_s);
 
-        const auto click = [&desktop](uint id, const QString &action) {
-            QDBusMessage signal
-                = QDBusMessage::createSignal(notificationsPath, notifications, u"ActionInvoked"_s);
-            signal << id << action;
-            desktop.send(signal);
-        };
-        click(41, u"default"_s);
-        click(42, u"other"_s);
-        click(42, u"default"_s);
+        desktop.click(41);
+        desktop.click(42, u"other"_s);
+        desktop.click(42);
         QTRY_COMPARE(clicks, 1);
         notification.show(u"Done"_s, u"next.mp4"_s);
         QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 2);
@@ -130,5 +80,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDesktopServices)
+QTEST_MAIN(tst_desktop_services)
 #include "tst_desktop_services.moc"
