@@ -60,10 +60,10 @@ void User::answer(QFileDialog *sheet)
     ++sheets;
     auto *field = sheet->findChild<QLineEdit *>(u"fileNameEdit"_s);
     proposal = field->text();
-    if (names.isEmpty() && !acceptsProposal)
+    if (names.isEmpty())
         return QTest::keyClick(sheet, Qt::Key_Escape);
-    if (!acceptsProposal)
-        field->setText(names.takeFirst());
+    if (const QString name = names.takeFirst(); !name.isEmpty())
+        field->setText(name);
     QTest::keyClick(field, Qt::Key_Return);
 }
 
@@ -85,13 +85,10 @@ void User::choose(const QString &title) const
 bool User::drop(const QStringList &addresses) const
 {
     QMimeData data;
-    QList<QUrl> urls;
-    for (const QString &address : addresses)
-        urls << QUrl(address);
-    if (!urls.isEmpty())
-        data.setUrls(urls);
-    else
+    if (addresses.isEmpty())
         data.setText(u"only text"_s);
+    else
+        data.setUrls(QUrl::fromStringList(addresses));
     QWidget *target = view("dropAcceptor");
     const QPoint place = target->rect().center();
     QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});

@@ -7,7 +7,6 @@
 #include <QTimer>
 
 #include <functional>
-#include <optional>
 
 class QDialog;
 class QFileDialog;
@@ -27,11 +26,9 @@ public:
     bool saysYes = false;
     /// Before a message is answered.
     std::function<void()> whileReading;
-    /// Names typed into the coming file dialogs, in this order; without one the user presses
-    /// Escape.
+    /// Names typed into the coming file dialogs, in this order; an empty one stands for what the
+    /// dialog proposes. Without one the user presses Escape.
     QStringList names;
-    /// Presses Return in the coming file dialog without typing.
-    bool acceptsProposal = false;
     /// What the last save sheet proposed.
     QString proposal;
 

@@ -19,16 +19,16 @@
 
 #include <memory>
 
-constexpr char hundredSeconds[] = "print:Duration: 00:01:40.00, start: 0.000000\\n|output|";
-
 /// The real window with a video beside it, and a user who acts on both.
 class WindowTest : public QObject {
     Q_OBJECT
 
 protected:
+    QTemporaryDir m_sample;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<AppDelegate> m_delegate;
     std::unique_ptr<User> m_user;
+    std::unique_ptr<ToolSwap> m_swap;
     QString m_video;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -39,21 +39,24 @@ protected:
         return QTest::qWaitFor([&] { return m_delegate->uiState() == state; }, milliseconds);
     }
 
-    bool open(const QString &name)
+    bool open(const QString &name = QStringLiteral("video.mov"))
     {
         return m_user->drop({ url(name) }) && waitFor(WindowUIState::CoverIsSet);
     }
 
-    /// Starts converting the video with a tool that follows the script.
-    std::unique_ptr<ToolSwap> convertWith(const QByteArray &script)
+    /// Opens a video and converts it, until the window has this state, with a tool that follows the
+    /// script after it has told of a hundred seconds.
+    bool convert(const QByteArray &script, WindowUIState until = WindowUIState::Converting,
+        const QString &name = QStringLiteral("video.mov"))
     {
-        if (!open(QStringLiteral("video.mov")))
-            return nullptr;
-        auto swap = std::make_unique<ToolSwap>(
-            QStringLiteral("ffmpeg"), ToolSwap::With::FakeTool, script);
+        m_swap.reset();
+        if (!open(name))
+            return false;
+        m_swap = std::make_unique<ToolSwap>(QStringLiteral("ffmpeg"), ToolSwap::With::FakeTool,
+            "print:Duration: 00:01:40.00, start: 0.000000\\n|output|" + script);
         m_user->names << QStringLiteral("result");
         m_user->choose(QStringLiteral("MKV"));
-        return swap;
+        return waitFor(until);
     }
 
 private Q_SLOTS:
@@ -61,6 +64,7 @@ private Q_SLOTS:
     {
         Console::setSink([](const QString &) {});
         QApplication::setQuitOnLastWindowClosed(false);
+        Media::video(m_sample.filePath(QStringLiteral("video.mov")), 3);
     }
 
     void init()
@@ -69,13 +73,7 @@ private Q_SLOTS:
         Defaults::remove(QStringLiteral("LastSaveFolder"));
         Defaults::remove(QStringLiteral("LastOpenFolder"));
         m_video = path(QStringLiteral("video.mov"));
-        static const QByteArray video = [this] {
-            Media::video(m_video, 3);
-            QFile file(m_video);
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        }();
-        QFile file(m_video);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(video) > 0);
+        QVERIFY(QFile::copy(m_sample.filePath(QStringLiteral("video.mov")), m_video));
         m_delegate = std::make_unique<AppDelegate>();
         m_user = std::make_unique<User>(*m_delegate->window());
         m_delegate->applicationDidFinishLaunching();
@@ -86,6 +84,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
+        m_swap.reset();
         m_delegate.reset();
         m_user.reset();
         QTRY_COMPARE(Processes::children(), QStringList());
