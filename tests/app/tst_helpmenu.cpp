@@ -3,7 +3,6 @@
 #include "tests/ui/WindowTest.h"
 #include "updates/Updater.h"
 
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 
@@ -13,20 +12,13 @@ class tst_helpmenu : public WindowTest {
     Q_OBJECT
 
 private:
-    /// Opens the menu and clicks its command there; false when the command can't be clicked.
     bool click(const QString &title) const
     {
-        auto *menu = m_user->find<QMenu>("helpMenu");
+        auto *menu = find<QMenu>("helpMenu");
         menu->popup(QPoint(100, 100));
-        for (QAction *command : menu->actions()) {
-            if (command->text() != title)
-                continue;
-            const bool enabled = command->isEnabled();
-            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(command).center());
-            menu->hide();
-            return enabled;
-        }
-        return false;
+        const bool clicked = clickCommand(menu, title);
+        menu->hide();
+        return clicked;
     }
 
 private Q_SLOTS:

@@ -2,93 +2,87 @@
 #pragma once
 
 #include "engine/FFMPEG.h"
-#include "support/Console.h"
-#include "support/Defaults.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
-#include "tests/ui/User.h"
 #include "ui/window/AppDelegate.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
-/// The real window with a video beside it, and a user who acts on both.
+class QDialog;
+
+/// The real window with a video beside it, and a user who acts on both with mouse and keyboard.
 class WindowTest : public QObject {
     Q_OBJECT
 
 protected:
+    /// How the user answers the dialogs that come up, and what they said.
+    struct User {
+        /// Texts of the alerts and questions so far.
+        QStringList read;
+        /// Before a message is answered.
+        std::function<void()> whileReading;
+        /// Answers questions with Yes; otherwise they get what Return gives.
+        bool saysYes = false;
+        /// Number of file dialogs so far.
+        int sheets = 0;
+        /// Names typed into the coming file dialogs, in this order; an empty one stands for what
+        /// the dialog proposes. Without one the user presses Escape.
+        QStringList names;
+        /// What the last save sheet proposed.
+        QString proposal;
+    };
+
     QTemporaryDir m_sample;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<AppDelegate> m_delegate;
-    std::unique_ptr<User> m_user;
     std::unique_ptr<ToolSwap> m_swap;
+    User m_user;
     QString m_video;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString url(const QString &name) const { return QUrl::fromLocalFile(path(name)).toString(); }
 
-    bool waitFor(WindowUIState state, int milliseconds = 20000)
+    template <class View> [[nodiscard]] View *find(const char *name) const
     {
-        return QTest::qWaitFor([&] { return m_delegate->uiState() == state; }, milliseconds);
+        return m_delegate->window()->findChild<View *>(QLatin1String(name));
     }
-
-    bool open(const QString &name = QStringLiteral("video.mov"))
-    {
-        return m_user->drop({ url(name) }) && waitFor(WindowUIState::CoverIsSet);
-    }
-
+    [[nodiscard]] QWidget *view(const char *name) const { return find<QWidget>(name); }
+    void click(const char *name) const { QTest::mouseClick(view(name), Qt::LeftButton); }
+    /// False when the open menu's command can't be clicked.
+    static bool clickCommand(QMenu *menu, const QString &title);
+    /// Opens the format menu by a click and clicks the item with this title.
+    void choose(const QString &title) const;
+    /// Drags the addresses, or a text, to the middle of the window and drops them there. Returns
+    /// whether the window took them.
+    bool drop(const QStringList &addresses) const;
+    bool waitFor(WindowUIState state, int milliseconds = 20000) const;
+    bool open(const QString &name = QStringLiteral("video.mov")) const;
     /// Opens a video and converts it, until the window has this state, with a tool that follows the
     /// script after it has told of a hundred seconds.
     bool convert(const QByteArray &script, WindowUIState until = WindowUIState::Converting,
-        const QString &name = QStringLiteral("video.mov"))
-    {
-        m_swap.reset();
-        if (!open(name))
-            return false;
-        m_swap = std::make_unique<ToolSwap>(QStringLiteral("ffmpeg"), ToolSwap::With::FakeTool,
-            "print:Duration: 00:01:40.00, start: 0.000000\\n|output|" + script);
-        m_user->names << QStringLiteral("result");
-        m_user->choose(QStringLiteral("MKV"));
-        return waitFor(until);
-    }
+        const QString &name = QStringLiteral("video.mov"));
+
+private:
+    void look();
+    void answer(QDialog *dialog);
+
+    QTimer m_timer;
+    QPointer<QDialog> m_answered;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Console::setSink([](const QString &) {});
-        QApplication::setQuitOnLastWindowClosed(false);
-        Media::video(m_sample.filePath(QStringLiteral("video.mov")), 3);
-    }
-
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        Defaults::remove(QStringLiteral("LastSaveFolder"));
-        Defaults::remove(QStringLiteral("LastOpenFolder"));
-        m_video = path(QStringLiteral("video.mov"));
-        QVERIFY(QFile::copy(m_sample.filePath(QStringLiteral("video.mov")), m_video));
-        m_delegate = std::make_unique<AppDelegate>();
-        m_user = std::make_unique<User>(*m_delegate->window());
-        m_delegate->applicationDidFinishLaunching();
-        m_delegate->window()->show();
-        m_delegate->window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_delegate->window()));
-    }
-
-    void cleanup()
-    {
-        m_swap.reset();
-        m_delegate.reset();
-        m_user.reset();
-        QTRY_COMPARE(Processes::children(), QStringList());
-    }
-
+    void initTestCase();
+    void init();
+    void cleanup();
     void cleanupTestCase() { FFMPEG::shutDown(); }
 };

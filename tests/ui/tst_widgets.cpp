@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
-#include "ui/widgets/ConvertPopupButton.h"
-#include "ui/widgets/DropBox.h"
-#include "ui/widgets/ImageView.h"
-#include "ui/widgets/ProgressBar.h"
-#include "ui/widgets/TextField.h"
+#include "ui/widgets/ConvertPopupButtonCell.h"
 #include "ui/window/ProposedName.h"
 #include "ui/window/TimeLeft.h"
 
-#include <QDropEvent>
 #include <QFontMetricsF>
-#include <QMenu>
-#include <QMimeData>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,54 +27,6 @@ private Q_SLOTS:
         const QRectF tight(3, 7, 100, height - 4);
         QCOMPARE(cell.titleRectForBounds(tight), tight);
         QCOMPARE(cell.titleRectForBounds(tight.adjusted(0, 0, 0, 14)), QRectF(3, 10, 100, height));
-    }
-
-    void dropBox_copiesWhatItsFlagAllows()
-    {
-        DropBox box;
-        box.registerForDraggedTypes({ u"text/uri-list"_s });
-        QMimeData files;
-        files.setUrls({ QUrl(u"file:///a.mov"_s) });
-        const auto drops = [&] {
-            // The source removes what is moved.
-            QDropEvent event(
-                {}, Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton, Qt::ShiftModifier);
-            QApplication::sendEvent(&box, &event);
-            return event.isAccepted() && event.dropAction() == Qt::CopyAction;
-        };
-        QVERIFY(!drops());
-        box.setProperty("drag'n'drop", u"true"_s);
-        QVERIFY(!drops());
-        setAllowDragDrop(&box, true);
-        QVERIFY(drops());
-    }
-
-    void views_workAsButtons()
-    {
-        TextField field;
-        ImageView image;
-        QSignalSpy fieldClicked(&field, &TextField::clicked);
-        QSignalSpy imageClicked(&image, &ImageView::clicked);
-        for (QWidget *view : std::initializer_list<QWidget *>{ &field, &image }) {
-            QTest::mousePress(view, Qt::LeftButton);
-            QTest::mousePress(view, Qt::RightButton);
-            QTest::keyClick(view, Qt::Key_Return);
-            QTest::keyClick(view, Qt::Key_Space);
-            QTest::keyClick(view, Qt::Key_A);
-        }
-        QCOMPARE(fieldClicked.count(), 3);
-        QCOMPARE(imageClicked.count(), 3);
-    }
-
-    void bar_keepsItsValueWhileBusy()
-    {
-        ProgressBar bar;
-        bar.setBusy(true);
-        bar.setDoubleValue(0.5);
-        bar.setBusy(false);
-        QCOMPARE(bar.value() * 2, bar.maximum());
-        bar.setDoubleValue(-1);
-        QCOMPARE(bar.value(), 0);
     }
 
     void timeLeft_speaksWhenSteady_data()

@@ -6,13 +6,8 @@
 #include "ui/widgets/ImageView.h"
 
 #include <QClipboard>
-#include <QDrag>
 #include <QFileOpenEvent>
-#include <QMenu>
 #include <QMimeData>
-#include <QWindow>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -20,33 +15,25 @@ using namespace Qt::StringLiterals;
 class tst_workflow : public WindowTest {
     Q_OBJECT
 
-private:
-    QMimeData *files() const
-    {
-        auto *data = new QMimeData;
-        data->setUrls({ QUrl::fromLocalFile(m_video) });
-        return data;
-    }
-
 private Q_SLOTS:
     void video_becomesAnother()
     {
         QVERIFY(open());
-        QCOMPARE(m_user->find<QLabel>("movieNameLabel")->text(), u"video.mov"_s);
-        QCOMPARE(m_user->find<QLabel>("movieDurationLabel")->text(), u"3s"_s);
-        QVERIFY(!m_user->find<ImageView>("movieCoverImageView")->image().isNull());
+        QCOMPARE(find<QLabel>("movieNameLabel")->text(), u"video.mov"_s);
+        QCOMPARE(find<QLabel>("movieDurationLabel")->text(), u"3s"_s);
+        QVERIFY(!find<ImageView>("movieCoverImageView")->image().isNull());
         QCOMPARE(m_delegate->selectedFileExt(), u"mov"_s);
 
-        m_user->names << QString();
-        m_user->choose(u"WebM"_s);
+        m_user.names << QString();
+        choose(u"WebM"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user->proposal, u"video.webm"_s);
+        QCOMPARE(m_user.proposal, u"video.webm"_s);
         QCOMPARE(m_delegate->resultFilePath(), path(u"video.webm"_s));
         QTRY_COMPARE(Processes::children(), QStringList());
         QCOMPARE(Media::streamEntry(path(u"video.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
-        QCOMPARE(m_user->read, QStringList());
+        QCOMPARE(m_user.read, QStringList());
 
-        m_user->click("startOverButton");
+        click("startOverButton");
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(open(u"video.webm"_s));
     }
@@ -58,15 +45,15 @@ private Q_SLOTS:
         Analytics::start();
         Preferences::setFirstRun(true);
         m_delegate->applicationDidFinishLaunching();
-        m_user->names << m_video;
-        m_user->click("openFromFolderLabel");
+        m_user.names << m_video;
+        click("openFromFolderLabel");
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QVERIFY(convert("reports:3000:20000"));
-        m_user->saysYes = true;
-        m_user->click("cancelProgressButton");
+        m_user.saysYes = true;
+        click("cancelProgressButton");
         QVERIFY(waitFor(WindowUIState::InitialState));
         QVERIFY(convert("reports:100:100", WindowUIState::ConversionIsDone));
-        m_user->click("startOverButton");
+        click("startOverButton");
 
         // Each comes on a connection of its own, in any order.
         const QStringList told{ u"adding_video click true"_s, u"adding_video drag true"_s,
@@ -89,24 +76,24 @@ private Q_SLOTS:
     void keyboard_isEnough()
     {
         auto *window = m_delegate->window();
-        m_user->names << m_video << u"by keyboard"_s;
+        m_user.names << m_video << u"by keyboard"_s;
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
-        QCOMPARE(QApplication::focusWidget(), m_user->view("convertToButton"));
+        QCOMPARE(QApplication::focusWidget(), view("convertToButton"));
         QTimer::singleShot(0, this, [this] {
-            auto *menu = m_user->find<QMenu>("formatMenu");
+            auto *menu = find<QMenu>("formatMenu");
             QTest::keyClick(menu, Qt::Key_Up);
             QTest::keyClick(menu, Qt::Key_Return);
         });
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
-        QCOMPARE(QApplication::focusWidget(), m_user->view("openFolderImageView"));
+        QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        QVERIFY(m_user->view("openFromFolderLabel")->hasFocus());
-        m_user->names << m_video;
+        QVERIFY(view("openFromFolderLabel")->hasFocus());
+        m_user.names << m_video;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
     }
@@ -114,9 +101,9 @@ private Q_SLOTS:
     void file_arrivesOnEveryWay()
     {
         const QList<std::function<void()>> ways{
-            [this] { m_user->click("openFromFolderLabel"); },
-            [this] { m_user->find<QAction>("openAction")->trigger(); },
-            [this] { m_user->drop({ url(u"video.mov"_s) }); },
+            [this] { click("openFromFolderLabel"); },
+            [this] { find<QAction>("openAction")->trigger(); },
+            [this] { drop({ url(u"video.mov"_s) }); },
             [this] {
                 m_delegate->takeFiles({ m_video, u"/ignored"_s });
             },
@@ -125,54 +112,36 @@ private Q_SLOTS:
             },
             [this] { QTest::keyClick(m_delegate->window(), Qt::Key_V, Qt::ControlModifier); },
         };
-        QApplication::clipboard()->setMimeData(files());
+        auto *copied = new QMimeData;
+        copied->setUrls({ QUrl::fromLocalFile(m_video) });
+        QApplication::clipboard()->setMimeData(copied);
         for (const auto &bring : ways) {
-            m_user->names = { m_video };
+            m_user.names = { m_video };
             // Only while drops are taken.
             m_delegate->setUiState(WindowUIState::Converting);
             bring();
             QTest::qWait(20);
             QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
-            QCOMPARE(m_user->names.size(), 1);
+            QCOMPARE(m_user.names.size(), 1);
             m_delegate->setUiState(WindowUIState::InitialState);
             bring();
             QVERIFY(waitFor(WindowUIState::CoverIsSet));
         }
     }
 
-    void video_isDraggedByThePointer()
-    {
-        QWidget source;
-        source.setGeometry(900, 700, 60, 60);
-        source.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&source));
-        QWindow *target = m_delegate->window()->windowHandle();
-        const QPoint middle = QRect({}, target->size()).center();
-        for (const int step : { 1, 2, 3, 4 })
-            QTimer::singleShot(
-                step * 100, target, [=] { QTest::mouseMove(target, middle + QPoint(step, step)); });
-        QTimer::singleShot(
-            600, target, [=] { QTest::mouseRelease(target, Qt::LeftButton, {}, middle); });
-        auto *drag = new QDrag(&source);
-        drag->setMimeData(files());
-        QTest::mousePress(source.windowHandle(), Qt::LeftButton);
-        QCOMPARE(drag->exec(Qt::CopyAction), Qt::CopyAction);
-        QVERIFY(waitFor(WindowUIState::CoverIsSet));
-    }
-
     void drop_ofSomethingElseIsIgnored()
     {
-        QVERIFY(!m_user->drop({}));
-        m_user->drop({ u"http://localhost/video.mov"_s });
+        QVERIFY(!drop({}));
+        drop({ u"http://localhost/video.mov"_s });
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         // While a message stands, too.
-        m_user->whileReading = [this] {
-            m_user->whileReading = {};
-            m_user->drop({ url(u"video.mov"_s) });
+        m_user.whileReading = [this] {
+            m_user.whileReading = {};
+            drop({ url(u"video.mov"_s) });
             m_delegate->takeFiles({ m_video });
         };
         m_delegate->takeFiles({ path(u"gone.mov"_s) });
-        QTRY_COMPARE(m_user->read.size(), 1);
+        QTRY_COMPARE(m_user.read.size(), 1);
         QTest::qWait(50);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
     }
@@ -181,11 +150,11 @@ private Q_SLOTS:
     {
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QVERIFY(open());
-        QVERIFY(m_user->drop({ url(u"empty.mov"_s) }));
-        QTRY_COMPARE(m_user->read, QStringList(u"Video not supported"_s));
+        QVERIFY(drop({ url(u"empty.mov"_s) }));
+        QTRY_COMPARE(m_user.read, QStringList(u"Video not supported"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QCOMPARE(m_delegate->processingFilePath(), m_video);
-        auto *reason = m_user->find<QLabel>("refusalLabel");
+        auto *reason = find<QLabel>("refusalLabel");
         QTRY_COMPARE(reason->text(), u"The file is empty."_s);
         QVERIFY(reason->isVisible());
         QVERIFY(open());
@@ -194,13 +163,13 @@ private Q_SLOTS:
 
     void sheets_canBeLeft()
     {
-        m_user->click("openFromFolderLabel");
-        QTRY_COMPARE(m_user->sheets, 1);
+        click("openFromFolderLabel");
+        QTRY_COMPARE(m_user.sheets, 1);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(open());
         for (const int count : { 2, 3 }) {
-            m_user->choose(u"GIF"_s);
-            QTRY_COMPARE(m_user->sheets, count);
+            choose(u"GIF"_s);
+            QTRY_COMPARE(m_user.sheets, count);
             QTRY_VERIFY(!QApplication::activeModalWidget());
             QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
         }
@@ -212,13 +181,13 @@ private Q_SLOTS:
         QVERIFY(QFile::link(path(u"video.mp4"_s), path(u"link.mp4"_s)));
         const qint64 size = QFileInfo(path(u"video.mp4"_s)).size();
         QVERIFY(open(u"video.mp4"_s));
-        m_user->saysYes = true;
-        m_user->names << u"video.mp4"_s << u"./link.mp4"_s << u"other"_s;
-        m_user->choose(u"MP4"_s);
+        m_user.saysYes = true;
+        m_user.names << u"video.mp4"_s << u"./link.mp4"_s << u"other"_s;
+        choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user->proposal, u"video 2.mp4"_s);
-        QCOMPARE(m_user->sheets, 3);
-        QCOMPARE(m_user->read.count(u"The video can't be converted into itself"_s), 2);
+        QCOMPARE(m_user.proposal, u"video 2.mp4"_s);
+        QCOMPARE(m_user.sheets, 3);
+        QCOMPARE(m_user.read.count(u"The video can't be converted into itself"_s), 2);
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
         QCOMPARE(QFileInfo(path(u"video.mp4"_s)).size(), size);
     }

@@ -30,6 +30,12 @@ QList<QDBusMessage> DesktopStandIn::calls(const QString &method) const
     return found;
 }
 
+QVariant DesktopStandIn::argument(const QString &method, qsizetype index) const
+{
+    const QList<QDBusMessage> found = calls(method);
+    return found.size() == 1 ? found.constFirst().arguments().value(index) : QVariant();
+}
+
 void DesktopStandIn::click(uint id, const QString &action)
 {
     send(QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,

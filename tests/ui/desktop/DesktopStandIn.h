@@ -18,6 +18,8 @@ public:
 
     /// Calls of a method so far, in order.
     [[nodiscard]] QList<QDBusMessage> calls(const QString &method) const;
+    /// An argument of the only call of a method.
+    [[nodiscard]] QVariant argument(const QString &method, qsizetype index) const;
     /// A click on a notification, or on one of its actions.
     void click(uint id, const QString &action = QStringLiteral("default"));
     void send(QDBusMessage signal, const QVariantList &arguments);
