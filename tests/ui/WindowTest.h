@@ -34,7 +34,7 @@ protected:
         std::function<void()> whileReading;
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
-        /// Number of file dialogs so far.
+        /// File dialogs so far.
         int sheets = 0;
         /// Names typed into the coming file dialogs, in this order; an empty one stands for what
         /// the dialog proposes. Without one the user presses Escape.

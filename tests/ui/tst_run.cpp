@@ -87,14 +87,13 @@ private Q_SLOTS:
     void missingTool_leavesTheWindowUsable()
     {
         QVERIFY(open());
-        {
-            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::Nothing);
-            m_user.names << u"result"_s;
-            choose(u"MKV"_s);
-            QVERIFY(waitFor(State::InitialState));
-            const QString reason = find<QLabel>("refusalLabel")->text();
-            QVERIFY2(reason.contains(u"/ffmpeg/ffmpeg is missing"_s), qPrintable(reason));
-        }
+        m_swap = std::make_unique<ToolSwap>(u"ffmpeg"_s, ToolSwap::With::Nothing);
+        m_user.names << u"result"_s;
+        choose(u"MKV"_s);
+        QVERIFY(waitFor(State::InitialState));
+        const QString reason = find<QLabel>("refusalLabel")->text();
+        QVERIFY2(reason.contains(u"/ffmpeg/ffmpeg is missing"_s), qPrintable(reason));
+        m_swap.reset();
         QVERIFY(open());
     }
 
@@ -150,8 +149,7 @@ private Q_SLOTS:
         front.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&front));
         QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-        constexpr uint suspendAndIdle = 4 | 8;
-        QCOMPARE(desktop.argument(u"Inhibit"_s, 1), QVariant(suspendAndIdle));
+        QCOMPARE(desktop.argument(u"Inhibit"_s, 1), QVariant(4U | 8U));
         QCOMPARE(desktop.calls(u"Close"_s).size(), 0);
         QVERIFY(waitFor(State::ConversionIsDone));
         QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
@@ -183,8 +181,7 @@ private Q_SLOTS:
         QTRY_COMPARE(Processes::children(), QStringList());
         QVERIFY(QFile::remove(path(u"result.mkv"_s)));
         QTest::keyClick(view("openFolderImageView"), Qt::Key_Return);
-        QTRY_COMPARE(m_opened.size(), 2);
-        QCOMPARE(m_opened.at(1), m_folder->path());
+        QTRY_COMPARE(m_opened, QStringList({ m_folder->path(), m_folder->path() }));
         QCOMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
         QDesktopServices::unsetUrlHandler(u"file"_s);
     }

@@ -100,32 +100,32 @@ private Q_SLOTS:
 
     void file_arrivesOnEveryWay()
     {
-        const QList<std::function<void()>> ways{
-            [this] { click("openFromFolderLabel"); },
-            [this] { find<QAction>("openAction")->trigger(); },
-            [this] { drop({ url(u"video.mov"_s) }); },
-            [this] {
-                m_delegate->takeFiles({ m_video, u"/ignored"_s });
-            },
-            [this] {
-                QApplication::sendEvent(qApp, std::make_unique<QFileOpenEvent>(m_video).get());
-            },
-            [this] { QTest::keyClick(m_delegate->window(), Qt::Key_V, Qt::ControlModifier); },
-        };
+        QFileOpenEvent event(m_video);
         auto *copied = new QMimeData;
         copied->setUrls({ QUrl::fromLocalFile(m_video) });
         QApplication::clipboard()->setMimeData(copied);
-        for (const auto &bring : ways) {
+        const std::pair<const char *, std::function<void()>> ways[] = {
+            { "label", [this] { click("openFromFolderLabel"); } },
+            { "menu", [this] { find<QAction>("openAction")->trigger(); } },
+            { "drop", [this] { drop({ url(u"video.mov"_s) }); } },
+            { "paste", [this] { QTest::keyClick(view("stage"), Qt::Key_V, Qt::ControlModifier); } },
+            { "open event", [&event] { QApplication::sendEvent(qApp, &event); } },
+            { "take",
+                [this] {
+                    m_delegate->takeFiles(QStringList{ m_video, u"/ignored"_s });
+                } },
+        };
+        for (const auto &[name, bring] : ways) {
             m_user.names = { m_video };
             // Only while drops are taken.
             m_delegate->setUiState(WindowUIState::Converting);
             bring();
             QTest::qWait(20);
-            QCOMPARE(m_delegate->uiState(), WindowUIState::Converting);
-            QCOMPARE(m_user.names.size(), 1);
+            QVERIFY2(m_delegate->uiState() == WindowUIState::Converting, name);
+            QVERIFY2(m_user.names.size() == 1, name);
             m_delegate->setUiState(WindowUIState::InitialState);
             bring();
-            QVERIFY(waitFor(WindowUIState::CoverIsSet));
+            QVERIFY2(waitFor(WindowUIState::CoverIsSet), name);
         }
     }
 
@@ -134,29 +134,25 @@ private Q_SLOTS:
         QVERIFY(!drop({}));
         drop({ u"http://localhost/video.mov"_s });
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        // While a message stands, too.
-        m_user.whileReading = [this] {
-            m_user.whileReading = {};
-            drop({ url(u"video.mov"_s) });
-            m_delegate->takeFiles({ m_video });
-        };
-        m_delegate->takeFiles({ path(u"gone.mov"_s) });
-        QTRY_COMPARE(m_user.read.size(), 1);
-        QTest::qWait(50);
-        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
     }
 
     void badFile_isRefused()
     {
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QVERIFY(open());
+        // Nothing arrives while the message stands.
+        m_user.whileReading = [this] {
+            drop({ url(u"video.mov"_s) });
+            m_delegate->takeFiles({ m_video });
+        };
         QVERIFY(drop({ url(u"empty.mov"_s) }));
-        QTRY_COMPARE(m_user.read, QStringList(u"Video not supported"_s));
-        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
-        QCOMPARE(m_delegate->processingFilePath(), m_video);
         auto *reason = find<QLabel>("refusalLabel");
         QTRY_COMPARE(reason->text(), u"The file is empty."_s);
         QVERIFY(reason->isVisible());
+        QTest::qWait(50);
+        QCOMPARE(m_user.read, QStringList(u"Video not supported"_s));
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QCOMPARE(m_delegate->processingFilePath(), m_video);
         QVERIFY(open());
         QVERIFY(!reason->isVisible() && reason->text().isEmpty());
     }

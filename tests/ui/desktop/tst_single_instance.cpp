@@ -10,7 +10,6 @@
 
 #include <array>
 #include <atomic>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -56,13 +55,13 @@ class tst_single_instance : public QObject {
     Q_OBJECT
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QTemporaryDir m_folder;
     const QStringList m_files{ u"/videos/a.mp4"_s };
 
     /// The only socket in the folder.
     QString socket() const
     {
-        const QDir folder(m_folder->path());
+        const QDir folder(m_folder.path());
         const QStringList names = folder.entryList({ u"video-converter-*"_s }, QDir::System);
         return names.size() == 1 ? folder.filePath(names.constFirst()) : QString();
     }
@@ -70,8 +69,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_RUNTIME_DIR", m_folder->path().toUtf8());
+        qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
         qputenv("DISPLAY", ":1");
     }
 
@@ -85,8 +83,7 @@ private Q_SLOTS:
         const QStringList expected{ u"/videos/a.mp4"_s, QDir::current().filePath(u"b.mp4"_s), odd };
         QTRY_COMPARE(first.received.value(0), expected);
         const Start third;
-        QTRY_COMPARE(first.received.size(), 2);
-        QCOMPARE(first.received.at(1), QStringList());
+        QTRY_COMPARE(first.received.value(1, m_files), QStringList());
 
         qputenv("DISPLAY", ":2");
         const Start elsewhere(m_files);
@@ -102,9 +99,9 @@ private Q_SLOTS:
             QTRY_VERIFY(killed.runs);
             place = socket();
             // Away from its place the socket outlives the one who listens to it.
-            QVERIFY(QFile::rename(place, m_folder->filePath(u"kept"_s)));
+            QVERIFY(QFile::rename(place, m_folder.filePath(u"kept"_s)));
         }
-        QVERIFY(QFile::rename(m_folder->filePath(u"kept"_s), place));
+        QVERIFY(QFile::rename(m_folder.filePath(u"kept"_s), place));
         const Start second;
         QTRY_VERIFY(second.runs);
         const Start third(m_files);
