@@ -101,8 +101,7 @@ void WindowTest::answer(QDialog *dialog)
         QTest::keyClick(field, Qt::Key_Return);
     } else if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
         m_user.read << box->text();
-        if (m_user.whileReading)
-            m_user.whileReading();
+        m_user.whileReading();
         for (QAbstractButton *button : box->buttons()) {
             if (m_user.saysYes && button->text() == "Yes"_L1)
                 return QTest::mouseClick(button, Qt::LeftButton);

@@ -31,7 +31,7 @@ protected:
         /// Texts of the alerts and questions so far.
         QStringList read;
         /// Before a message is answered.
-        std::function<void()> whileReading;
+        std::function<void()> whileReading = [] {};
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
         /// File dialogs so far.

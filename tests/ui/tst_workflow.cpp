@@ -32,9 +32,6 @@ private Q_SLOTS:
         QTRY_COMPARE(Processes::children(), QStringList());
         QCOMPARE(Media::streamEntry(path(u"video.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
         QCOMPARE(m_user.read, QStringList());
-
-        click("startOverButton");
-        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(open(u"video.webm"_s));
     }
 
@@ -107,13 +104,12 @@ private Q_SLOTS:
         const std::pair<const char *, std::function<void()>> ways[] = {
             { "label", [this] { click("openFromFolderLabel"); } },
             { "menu", [this] { find<QAction>("openAction")->trigger(); } },
-            { "drop", [this] { drop({ url(u"video.mov"_s) }); } },
+            { "drop",
+                [this] {
+                    drop({ url(u"video.mov"_s), u"file:///ignored"_s });
+                } },
             { "paste", [this] { QTest::keyClick(view("stage"), Qt::Key_V, Qt::ControlModifier); } },
             { "open event", [&event] { QApplication::sendEvent(qApp, &event); } },
-            { "take",
-                [this] {
-                    m_delegate->takeFiles(QStringList{ m_video, u"/ignored"_s });
-                } },
         };
         for (const auto &[name, bring] : ways) {
             m_user.names = { m_video };
@@ -163,12 +159,10 @@ private Q_SLOTS:
         QTRY_COMPARE(m_user.sheets, 1);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(open());
-        for (const int count : { 2, 3 }) {
-            choose(u"GIF"_s);
-            QTRY_COMPARE(m_user.sheets, count);
-            QTRY_VERIFY(!QApplication::activeModalWidget());
-            QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
-        }
+        choose(u"GIF"_s);
+        QTRY_COMPARE(m_user.sheets, 2);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
     }
 
     void source_isNeverTheDestination()

@@ -28,7 +28,6 @@ public:
         quit();
         wait();
     }
-    Q_DISABLE_COPY_MOVE(Start)
 
     std::atomic<bool> runs = false;
     std::atomic<bool> handedOver = false;
