@@ -81,9 +81,9 @@ void WindowTest::look()
     if (m_delegate && !QApplication::activeWindow() && !QApplication::activeModalWidget())
         m_delegate->window()->activateWindow();
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || dialog == m_answered)
+    if (!dialog || !dialog->isVisible() || dialog->property("isAnswered").toBool())
         return;
-    m_answered = dialog;
+    dialog->setProperty("isAnswered", true);
     // An answer may bring up the next dialog, and a timer does not fire inside its own slot.
     QMetaObject::invokeMethod(
         dialog, [this, dialog] { answer(dialog); }, Qt::QueuedConnection);

@@ -78,7 +78,6 @@ private:
     void answer(QDialog *dialog);
 
     QTimer m_timer;
-    QPointer<QDialog> m_answered;
 
 private Q_SLOTS:
     void initTestCase();
