@@ -2,94 +2,86 @@
 #pragma once
 
 #include "engine/FFMPEG.h"
-#include "support/Console.h"
-#include "support/Defaults.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
-#include "tests/ui/User.h"
 #include "ui/window/AppDelegate.h"
 
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 
-constexpr char hundredSeconds[] = "print:Duration: 00:01:40.00, start: 0.000000\\n|output|";
+class QDialog;
 
-/// The real window with a video beside it, and a user who acts on both.
+/// The real window with a video beside it, and a user who acts on both with mouse and keyboard.
 class WindowTest : public QObject {
     Q_OBJECT
 
 protected:
+    /// How the user answers the dialogs that come up, and what they said.
+    struct User {
+        /// Texts of the alerts and questions so far.
+        QStringList read;
+        /// Before a message is answered.
+        std::function<void()> whileReading = [] {};
+        /// Answers questions with Yes; otherwise they get what Return gives.
+        bool saysYes = false;
+        /// File dialogs so far.
+        int sheets = 0;
+        /// Names typed into the coming file dialogs, in this order; an empty one stands for what
+        /// the dialog proposes. Without one the user presses Escape.
+        QStringList names;
+        /// What the last save sheet proposed.
+        QString proposal;
+    };
+
+    QTemporaryDir m_sample;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<AppDelegate> m_delegate;
-    std::unique_ptr<User> m_user;
+    std::unique_ptr<ToolSwap> m_swap;
+    User m_user;
     QString m_video;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString url(const QString &name) const { return QUrl::fromLocalFile(path(name)).toString(); }
 
-    bool waitFor(WindowUIState state, int milliseconds = 20000)
+    template <class View> [[nodiscard]] View *find(const char *name) const
     {
-        return QTest::qWaitFor([&] { return m_delegate->uiState() == state; }, milliseconds);
+        return m_delegate->window()->findChild<View *>(QLatin1String(name));
     }
+    [[nodiscard]] QWidget *view(const char *name) const { return find<QWidget>(name); }
+    void click(const char *name) const { QTest::mouseClick(view(name), Qt::LeftButton); }
+    /// False when the open menu's command can't be clicked.
+    static bool clickCommand(QMenu *menu, const QString &title);
+    /// Opens the format menu by a click and clicks the item with this title.
+    void choose(const QString &title) const;
+    /// Drags the addresses, or a text, to the middle of the window and drops them there. Returns
+    /// whether the window took them.
+    bool drop(const QStringList &addresses) const;
+    bool waitFor(WindowUIState state, int milliseconds = 20000) const;
+    bool open(const QString &name = QStringLiteral("video.mov")) const;
+    /// Opens a video and converts it, until the window has this state, with a tool that follows the
+    /// script after it has told of a hundred seconds.
+    bool convert(const QByteArray &script, WindowUIState until = WindowUIState::Converting,
+        const QString &name = QStringLiteral("video.mov"));
 
-    bool open(const QString &name)
-    {
-        return m_user->drop({ url(name) }) && waitFor(WindowUIState::CoverIsSet);
-    }
+private:
+    void look();
+    void answer(QDialog *dialog);
 
-    /// Starts converting the video with a tool that follows the script.
-    std::unique_ptr<ToolSwap> convertWith(const QByteArray &script)
-    {
-        if (!open(QStringLiteral("video.mov")))
-            return nullptr;
-        auto swap = std::make_unique<ToolSwap>(
-            QStringLiteral("ffmpeg"), ToolSwap::With::FakeTool, script);
-        m_user->names << QStringLiteral("result");
-        m_user->choose(QStringLiteral("MKV"));
-        return swap;
-    }
+    QTimer m_timer;
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        Console::setSink([](const QString &) {});
-        QApplication::setQuitOnLastWindowClosed(false);
-    }
-
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        Defaults::remove(QStringLiteral("LastSaveFolder"));
-        Defaults::remove(QStringLiteral("LastOpenFolder"));
-        m_video = path(QStringLiteral("video.mov"));
-        static const QByteArray video = [this] {
-            Media::video(m_video, 3);
-            QFile file(m_video);
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        }();
-        QFile file(m_video);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(video) > 0);
-        m_delegate = std::make_unique<AppDelegate>();
-        m_user = std::make_unique<User>(*m_delegate->window());
-        m_delegate->applicationDidFinishLaunching();
-        m_delegate->window()->show();
-        m_delegate->window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_delegate->window()));
-    }
-
-    void cleanup()
-    {
-        m_delegate.reset();
-        m_user.reset();
-        QTRY_COMPARE(Processes::children(), QStringList());
-    }
-
+    void initTestCase();
+    void init();
+    void cleanup();
     void cleanupTestCase() { FFMPEG::shutDown(); }
 };

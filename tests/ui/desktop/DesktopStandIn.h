@@ -5,39 +5,31 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QHash>
-#include <QList>
 
 /// Plays the desktop's services on the session bus, through a connection of its own: records every
 /// call and answers as told.
 class DesktopStandIn : public QDBusVirtualObject {
-    Q_OBJECT
-
 public:
-    DesktopStandIn();
+    using Answers = QHash<QString, QVariantList>;
+
+    /// Methods without an answer are answered with an error.
+    DesktopStandIn(const QStringList &services, const Answers &answers);
     ~DesktopStandIn() override;
 
-    /// Owns a service's name until destruction.
-    bool offer(const QString &service);
-    /// The answer to a method; methods without one are answered with an error.
-    void answer(const QString &method, const QVariantList &arguments);
-    /// Keeps answers back until release().
-    void hold() { m_holding = true; }
-    void release();
     /// Calls of a method so far, in order.
     [[nodiscard]] QList<QDBusMessage> calls(const QString &method) const;
-    /// Sends a signal to everybody.
-    void send(const QDBusMessage &signal);
+    /// An argument of the only call of a method.
+    [[nodiscard]] QVariant argument(const QString &method, qsizetype index) const;
+    /// A click on a notification, or on one of its actions.
+    void click(uint id, const QString &action = QStringLiteral("default"));
+    void send(QDBusMessage signal, const QVariantList &arguments);
 
     [[nodiscard]] QString introspect(const QString &path) const override;
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;
 
 private:
-    void reply(const QDBusMessage &message);
-
     QDBusConnection m_bus;
-    QHash<QString, QVariantList> m_answers;
-    QList<QDBusMessage> m_calls;
-    QList<QDBusMessage> m_held;
     QStringList m_services;
-    bool m_holding = false;
+    Answers m_answers;
+    QList<QDBusMessage> m_calls;
 };
