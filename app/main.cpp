@@ -5,7 +5,9 @@
 #include "crash/CrashReports.h"
 #include "crash/SessionEvents.h"
 #include "crash/dialog/CrashQuestion.h"
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
+#include "engine/StagedList.h"
 #include "support/Configuration.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
@@ -94,6 +96,7 @@ int runWindow(SingleInstance &instance, const QStringList &videos)
             delegate.takeFiles(paths);
         });
     delegate.takeFiles(videos);
+    Async::background(StagedList::removeAbandoned);
     Services services(delegate);
     // Once the window stands: its first question may be one about an earlier crash.
     QTimer::singleShot(0, &delegate, [&services] { services.start(); });

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
 #include "cli/report/Diagnostics.h"
 #include "cli/report/Output.h"
 #include "cli/report/Reporter.h"
+#include "engine/Conversion.h"
 #include "engine/Destination.h"
-#include "engine/FFMPEG.h"
 #include "engine/Progress.h"
-#include "engine/Tool.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Text.h"
@@ -19,69 +17,37 @@
 
 namespace {
 
-class Conversion {
-public:
-    Conversion(const ConversionItem &item, Reporter &reporter)
-        : m_item(item)
-        , m_reporter(reporter)
-    {
-    }
-
-    Outcome run(const VideoConstraints &entry, const JSON &info, Interruption &interruption);
-
-private:
-    void wait(Interruption &interruption);
-    [[nodiscard]] Outcome outcome() const;
-
-    const ConversionItem &m_item;
-    Reporter &m_reporter;
-    QElapsedTimer m_clock;
-    std::shared_ptr<Progress> m_progress;
-};
-
-Outcome Conversion::run(const VideoConstraints &entry, const JSON &info, Interruption &interruption)
-{
-    m_clock.start();
-    m_reporter.started(m_item);
-    m_progress
-        = FFMPEG::convertFile(m_item.path, m_item.destPath, entry, info, [](const auto &) {});
-    wait(interruption);
-    Outcome result = outcome();
-    if (result.isDone())
-        m_reporter.converted(m_item, std::chrono::milliseconds(m_clock.elapsed()));
-    return result;
-}
-
-void Conversion::wait(Interruption &interruption)
+/// Reports how a conversion goes until its tool is gone.
+void follow(Progress &progress, const ConversionItem &item, Reporter &reporter,
+    const QElapsedTimer &clock, Interruption &interruption)
 {
     QEventLoop loop;
-    m_progress->setEndHandler([&loop] { MainQueue::post([&loop] { loop.quit(); }); });
+    progress.setEndHandler([&loop] { MainQueue::post([&loop] { loop.quit(); }); });
     QObject::connect(
-        &interruption, &Interruption::arrived, &loop, [this] { m_progress->cancel(); });
+        &interruption, &Interruption::arrived, &loop, [&progress] { progress.cancel(); });
     if (Interruption::signal() != 0)
-        m_progress->cancel();
+        progress.cancel();
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &loop, [this] {
-        m_reporter.progressed(m_item,
-            { .completed = m_progress->completedUnitCount(),
-                .total = m_progress->totalUnitCount(),
-                .elapsed = std::chrono::milliseconds(m_clock.elapsed()) });
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
+        reporter.progressed(item,
+            { .completed = progress.completedUnitCount(),
+                .total = progress.totalUnitCount(),
+                .elapsed = std::chrono::milliseconds(clock.elapsed()) });
     });
-    timer.start(m_reporter.interval());
+    timer.start(reporter.interval());
     loop.exec();
 }
 
-Outcome Conversion::outcome() const
+Outcome outcomeOf(const Progress &progress)
 {
-    Outcome outcome = m_progress->outcome();
-    const OutcomeKind kind = kindOf(outcome);
+    Outcome outcome = progress.outcome();
+    const bool hasFailed = kindOf(outcome) == OutcomeKind::Failed;
     // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
-    if (kind == OutcomeKind::Failed && Interruption::signal() != 0)
+    if (hasFailed && Interruption::signal() != 0)
         return { Reason::Cancelled };
     // The engine prints the output of a failed tool itself, unless it can't be decoded.
-    const QByteArray output = m_progress->toolOutput();
-    if (kind == OutcomeKind::Incomplete
-        || (kind == OutcomeKind::Failed && Text::stringValue(output).isEmpty()))
+    const QByteArray output = progress.toolOutput();
+    if (!hasFailed || Text::stringValue(output).isEmpty())
         Diagnostics::write(output);
     return outcome;
 }
@@ -93,18 +59,20 @@ Outcome converted(const ConversionItem &item, const CommandLine &line, const Des
     destination.path = item.destPath;
     if (const auto refusal = refusalOf(destination))
         return *refusal;
-    // A run whose tool can't be launched removes what stands at its destination.
-    if (const auto refusal = toolRefusal(Tool::Ffmpeg))
-        return *refusal;
     const auto video = examined(item.path, Cover::LeftOut, interruption);
     if (const auto *refusal = std::get_if<Outcome>(&video))
         return *refusal;
-    if (!line.overwrite) {
-        if (const auto refusal = createResultFile(item.destPath))
-            return *refusal;
-    }
-    return Conversion(item, reporter)
-        .run(line.entries.front(), std::get<VideoDescription>(video).info, interruption);
+    QElapsedTimer clock;
+    clock.start();
+    reporter.started(item);
+    const auto progress = Conversion::start(
+        { item.path, item.destPath, line.entries.front(), std::get<VideoDescription>(video).info },
+        line.overwrite ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
+    follow(*progress, item, reporter, clock, interruption);
+    const Outcome outcome = outcomeOf(*progress);
+    if (outcome.isDone())
+        reporter.converted(item, outcome, std::chrono::milliseconds(clock.elapsed()));
+    return outcome;
 }
 
 /// The other videos have no better chance.
@@ -130,8 +98,10 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
     }
     ExitCode result = ExitCode::Done;
     int done = 0;
+    std::size_t tried = 0;
     for (const ConversionItem &item : items) {
         const Outcome outcome = converted(item, line, others, *reporter, interruption);
+        ++tried;
         if (outcome.isDone())
             ++done;
         else
@@ -141,6 +111,8 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
         if (endsAll(outcome))
             break;
     }
+    if (Interruption::signal() != 0 && tried < items.size())
+        result = ExitCode::Cancelled;
     if (items.size() > 1)
         reporter->summedUp(done, static_cast<int>(items.size()));
     return result;

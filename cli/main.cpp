@@ -2,7 +2,9 @@
 #include "cli/Commands.h"
 #include "cli/report/Diagnostics.h"
 #include "cli/report/Output.h"
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
+#include "engine/StagedList.h"
 #include "support/Configuration.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
@@ -10,6 +12,8 @@
 #include "support/Translation.h"
 
 #include <QCoreApplication>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +46,8 @@ ExitCode shown(const UsageText &usage)
 
 int exitStatus(ExitCode code)
 {
-    if (Interruption::signal() != 0)
+    // What was done before the signal came was done.
+    if (code == ExitCode::Cancelled || Interruption::signal() == SIGPIPE)
         return static_cast<int>(ExitCode::Cancelled) + Interruption::signal();
     if (Output::hasFailed())
         Output::errorLine(localized(QT_TRANSLATE_NOOP3("Localizable",
@@ -68,6 +73,7 @@ int main(int argc, char *argv[])
     const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
         Diagnostics::show();
+    Async::background(StagedList::removeAbandoned);
     const ExitCode code = run(line);
     FFMPEG::shutDown();
     return exitStatus(code);

@@ -3,13 +3,13 @@
 
 #include "engine/Async.h"
 #include "engine/Destination.h"
+#include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
 #include "engine/ToolFailure.h"
 #include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Console.h"
-#include "support/FileSystem.h"
 #include "support/Text.h"
 
 #include <QFile>
@@ -40,8 +40,6 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
 
 void ConversionRun::run()
 {
-    // Where the user keeps a link, what it leads to is written, and removed after a failure.
-    m_job.destPath = linkTarget(m_job.destPath);
     // The tool would empty a source that is its own destination, and the clean-up would remove it.
     if (const auto refusal
         = refusalOf({ .path = m_job.destPath, .sources = { m_job.path }, .overwrite = true })) {
@@ -55,11 +53,6 @@ void ConversionRun::run()
 
 void ConversionRun::convert()
 {
-    const DestinationClaim claim(m_job.destPath, [this] { return m_progress->isCancelled(); });
-    if (!claim.isHeld()) {
-        end({ Reason::Cancelled });
-        return;
-    }
     Task task;
     if (!launch(task)) {
         removeDestination();
@@ -122,7 +115,7 @@ void ConversionRun::judge(const Task &task)
     if (m_progress->isCancelled())
         return end({ Reason::Cancelled });
     if (task.terminationStatus() != 0
-        || ToolOutput::reportsLostOutput(m_output, { m_job.path, m_job.destPath }))
+        || reportsLostOutput(m_output, { m_job.path, m_job.destPath }))
         return end(toolFailure(m_output));
     const qint64 completed = m_progress->completedUnitCount();
     const qint64 remaining = m_progress->totalUnitCount() - completed;

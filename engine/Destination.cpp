@@ -4,15 +4,9 @@
 #include "support/FileSystem.h"
 #include "support/Path.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QSet>
 
 #include <algorithm>
-#include <cerrno>
-#include <condition_variable>
-#include <fcntl.h>
-#include <mutex>
 #include <unistd.h>
 
 namespace {
@@ -38,27 +32,6 @@ bool isOneOf(const QString &path, const QStringList &paths)
 {
     return std::any_of(paths.begin(), paths.end(),
         [&](const QString &otherPath) { return isSameFile(path, otherPath); });
-}
-
-// Never destroyed: a run's thread may go after the main one.
-struct Claims {
-    std::mutex mutex;
-    std::condition_variable released;
-    QSet<QString> places;
-};
-
-Claims &claims()
-{
-    static Claims &all = *new Claims;
-    return all;
-}
-
-// One text for one place, however the path is spelled. The file itself need not exist.
-QString place(const QString &path)
-{
-    const QFileInfo file(path);
-    const QString target = file.canonicalFilePath();
-    return target.isEmpty() ? QDir(file.dir().canonicalPath()).filePath(file.fileName()) : target;
 }
 
 }
@@ -101,36 +74,4 @@ std::optional<Outcome> sourceRefusal(const Destination &destination)
     return isOneOf(destination.path, destination.sources)
         ? std::optional(Outcome{ Reason::DestinationIsSource })
         : std::nullopt;
-}
-
-std::optional<Outcome> createResultFile(const QString &path)
-{
-    const int fd = ::open(
-        QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd >= 0)
-        ::close(fd);
-    // The tool runs into every other error as well, and reports it.
-    return fd < 0 && errno == EEXIST ? std::optional(Outcome{ Reason::DestinationExists })
-                                     : std::nullopt;
-}
-
-DestinationClaim::DestinationClaim(const QString &path, const std::function<bool()> &givesUp)
-    : m_path(place(path))
-{
-    std::unique_lock lock(claims().mutex);
-    while (claims().places.contains(m_path) && !givesUp())
-        claims().released.wait_for(lock, std::chrono::milliseconds(100));
-    if (claims().places.contains(m_path))
-        return;
-    claims().places.insert(m_path);
-    m_held = true;
-}
-
-DestinationClaim::~DestinationClaim()
-{
-    if (!m_held)
-        return;
-    const std::lock_guard lock(claims().mutex);
-    claims().places.remove(m_path);
-    claims().released.notify_all();
 }

@@ -49,7 +49,8 @@ std::optional<Outcome> fileRefusal(const QString &path)
     const QFileInfo file(path);
     const bool readable = ::access(QFile::encodeName(path).constData(), R_OK) == 0;
     if (!readable && errno != EACCES)
-        return Outcome{ Reason::NoSuchFile };
+        return Outcome{ path.contains(QChar::ReplacementCharacter) ? Reason::NameNotText
+                                                                   : Reason::NoSuchFile };
     if (file.isDir())
         return Outcome{ Reason::IsFolder };
     if (!readable)

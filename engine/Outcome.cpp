@@ -4,6 +4,7 @@
 #include "support/DurationInfo.h"
 #include "support/Format.h"
 #include "support/Localized.h"
+#include "support/Path.h"
 
 #include <array>
 
@@ -30,6 +31,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::NoDuration, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file does not say how long it plays.", "Why a video can't be converted") },
     { Reason::NoSize, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The size of the file is unknown.", "Why a video can't be converted") },
     { Reason::TooShort, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The video is shorter than one second.", "Why a video can't be converted") },
+    { Reason::NameNotText, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file's name can't be represented as text. Please rename it.", "Why a video can't be converted") },
     { Reason::SizeDiffers, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file is still being written, or only part of it could be read.", "Why a video can't be converted") },
     { Reason::InfoNotReadable, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file can't be opened.", "Why a saved description of a video can't be used") },
     { Reason::InfoNoJson, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file holds no JSON.", "Why a saved description of a video can't be used") },
@@ -66,6 +68,8 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::DamagedData, Failed, QT_TRANSLATE_NOOP3("Localizable", "The video's data is damaged.", "Why a conversion failed") },
 
     { Reason::Incomplete, Incomplete, QT_TRANSLATE_NOOP3("Localizable", "The converting progress was finished at %@", "Error message format string when file has not been converted at full length") },
+    { Reason::PictureMissing, Incomplete, QT_TRANSLATE_NOOP3("Localizable", "The result has no moving picture, although the video has one.", "What is wrong with a conversion's result") },
+    { Reason::SoundMissing, Incomplete, QT_TRANSLATE_NOOP3("Localizable", "The result has no sound, although the video has some.", "What is wrong with a conversion's result") },
     { Reason::Cancelled, Cancelled, QT_TRANSLATE_NOOP3("Localizable", "Cancelled.", "The user stopped the program") },
 });
 // clang-format on
@@ -79,6 +83,23 @@ constexpr bool isInOrder()
     return reasonRows.back().reason == Reason::Cancelled;
 }
 static_assert(isInOrder());
+
+// In the order of the remedies.
+constexpr std::array remedyTexts{
+    LocalizedText{ "", "" },
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The cover picture was left out, because this output can't show it.",
+        "What was done to make a conversion work"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The picture was made a little smaller, because this output needs even sizes.",
+        "What was done to make a conversion work"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The sound was encoded anew, because this output can't take it as it is.",
+        "What was done to make a conversion work"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The picture was encoded anew, because this output can't take it as it is.",
+        "What was done to make a conversion work"),
+};
 
 const ReasonRow &rowOf(const Outcome &outcome)
 {
@@ -97,4 +118,24 @@ QString sentenceOf(const Outcome &outcome)
         ? DurationInfo(outcome.seconds).toString()
         : outcome.detail;
     return formatted(rowOf(outcome).sentence, { detail });
+}
+
+QStringList remarksOn(const Outcome &outcome)
+{
+    QStringList remarks;
+    if (outcome.remedy != Remedy::None)
+        remarks << localized(remedyTexts.at(static_cast<std::size_t>(outcome.remedy)));
+    if (outcome.firstDamage)
+        remarks << formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "The video is damaged in places, first at %@.",
+                "Remark on a whole result, with a time"),
+            { DurationInfo(*outcome.firstDamage).toString() });
+    else if (outcome.damagedPlaces > 0)
+        remarks << localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "The video is damaged in places.", "Remark on a whole result"));
+    if (!outcome.olderPath.isEmpty())
+        remarks << formatted(QT_TRANSLATE_NOOP3("Localizable", "The older file was kept as “%@”.",
+                                 "Remark on a short result, with a file's name"),
+            { Path::lastPathComponent(outcome.olderPath) });
+    return remarks;
 }

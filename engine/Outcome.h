@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QStringList>
+
+#include <optional>
 
 enum class Reason {
     Done,
@@ -15,6 +17,7 @@ enum class Reason {
     NoDuration,
     NoSize,
     TooShort,
+    NameNotText,
     SizeDiffers,
     InfoNotReadable,
     InfoNoJson,
@@ -51,6 +54,8 @@ enum class Reason {
     DamagedData,
     // The result
     Incomplete,
+    PictureMissing,
+    SoundMissing,
     Cancelled,
 };
 
@@ -65,11 +70,21 @@ enum class OutcomeKind {
     Cancelled,
 };
 
+/// What a second try did differently when the first one could not work.
+enum class Remedy { None, CoverLeftOut, SizeMadeEven, SoundEncoded, PictureEncoded };
+
 struct Outcome {
     Reason reason = Reason::Done;
     /// Fills the sentence: a program's path, an encoder's or muxer's name, or the tool's own words.
     QString detail = {};
     qint64 seconds = 0;
+    Remedy remedy = Remedy::None;
+    /// Places in the source's data where the tool met errors and went on, and the second of the
+    /// first one.
+    int damagedPlaces = 0;
+    std::optional<qint64> firstDamage = {};
+    /// The name under which an older file of the result's name was kept.
+    QString olderPath = {};
 
     bool operator==(const Outcome &) const = default;
     [[nodiscard]] bool isDone() const { return reason == Reason::Done; }
@@ -78,3 +93,6 @@ struct Outcome {
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);
+/// What else is to be said of a result: a second try, damage of the source, an older file that was
+/// kept.
+[[nodiscard]] QStringList remarksOn(const Outcome &outcome);

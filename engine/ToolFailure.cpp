@@ -55,7 +55,7 @@ QStringList linesOf(const QByteArray &output)
 bool isChatter(const QString &line)
 {
     static const QRegularExpression chatter(
-        u"^\\s|^\\[.*\\]|^Conversion failed!|^(Input|Output|Total|Stream)\\b"_s);
+        u"^\\s|^\\[.*\\]|^Conversion failed!|^(Input|Output|Total|Stream)\\b|^video:\\d"_s);
     return chatter.match(line).hasMatch();
 }
 

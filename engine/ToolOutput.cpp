@@ -4,8 +4,6 @@
 #include "support/Pattern.h"
 #include "support/Text.h"
 
-#include <QFile>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,18 +56,6 @@ std::optional<qint64> lastReportedPosition(const QString &block)
     if (!last.hasMatch())
         return std::nullopt;
     return getFFMpegDuration(Pattern::substringFromCheckingResult(last, 1));
-}
-
-bool reportsLostOutput(const QByteArray &output, const QStringList &paths)
-{
-    // "Error writing trailer of out.mp4: No space left on device", newer versions with "[out#0/mp4
-    // @ 0x55d0] " in front; only statistics follow.
-    static const QRegularExpression regexp = expression(
-        uR"(^(?:\[[^\]]*\] )?Error (?:writing trailer|closing file)\b)"_s, Pattern::lineOptions);
-    QByteArray end = output.right(16384);
-    for (const QString &path : paths)
-        end.replace(QFile::encodeName(path), QByteArray());
-    return regexp.match(QString::fromLatin1(end)).hasMatch();
 }
 
 QString decodedBlock(const QByteArray &block)

@@ -19,9 +19,6 @@ namespace ToolOutput {
 /// 64 bits stops the program.
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
-/// The tool could not write the end of its result; some versions still end with status 0. The
-/// files' names are not taken for the tool's words.
-[[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);
 /// A block of output as text. When the tool cut a character, only its line is lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
 

@@ -145,6 +145,9 @@ QString wrongInputs(const CommandLine &line)
     if (line.output.isEmpty() == line.folder.isEmpty())
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "'convert' needs either --output or --folder.", "Command line: wrong usage"));
+    if (line.output == u"-")
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "The result can't go to standard output; name a file.", "Command line: wrong usage"));
     if (count > 1 && line.folder.isEmpty())
         return localized(QT_TRANSLATE_NOOP3("Localizable",
             "Several videos can't go to one output file; use --folder.",

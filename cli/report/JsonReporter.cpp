@@ -7,6 +7,8 @@
 
 #include <QJsonObject>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -20,6 +22,21 @@ template <class Number> QJsonValue valueOrNull(const std::optional<Number> &numb
 void print(const QJsonObject &object)
 {
     Output::json(QJsonDocument(object), QJsonDocument::Compact);
+}
+
+QJsonObject withRemarks(QJsonObject object, const Outcome &outcome)
+{
+    // In the order of the remedies.
+    constexpr std::array remedies{ ""_L1, "cover-left-out"_L1, "size-made-even"_L1,
+        "sound-encoded"_L1, "picture-encoded"_L1 };
+    if (outcome.remedy != Remedy::None)
+        object[u"remedy"_s] = remedies.at(static_cast<std::size_t>(outcome.remedy));
+    if (outcome.damagedPlaces > 0)
+        object[u"damage"_s] = QJsonObject{ { u"places"_s, outcome.damagedPlaces },
+            { u"first"_s, valueOrNull(outcome.firstDamage) } };
+    if (!outcome.olderPath.isEmpty())
+        object[u"olderFile"_s] = outcome.olderPath;
+    return object;
 }
 
 int exitStatus(ExitCode code)
@@ -52,20 +69,24 @@ void JsonReporter::progressed(const ConversionItem &item, const ProgressSample &
         { u"left"_s, valueOrNull(sample.secondsLeft()) } });
 }
 
-void JsonReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)
+void JsonReporter::converted(
+    const ConversionItem &item, const Outcome &outcome, std::chrono::milliseconds elapsed)
 {
-    print({ { u"event"_s, u"converted"_s }, { u"input"_s, item.path },
-        { u"output"_s, item.destPath }, { u"size"_s, static_cast<qint64>(fileSize(item.destPath)) },
-        { u"elapsed"_s, static_cast<double>(elapsed.count()) / 1000 } });
+    print(withRemarks(
+        { { u"event"_s, u"converted"_s }, { u"input"_s, item.path }, { u"output"_s, item.destPath },
+            { u"size"_s, static_cast<qint64>(fileSize(item.destPath)) },
+            { u"elapsed"_s, static_cast<double>(elapsed.count()) / 1000 } },
+        outcome));
 }
 
 void JsonReporter::failed(const ConversionItem &item, const Outcome &outcome)
 {
-    print(
+    print(withRemarks(
         { { u"event"_s, kindOf(outcome) == OutcomeKind::Cancelled ? u"cancelled"_s : u"failed"_s },
             { u"input"_s, item.path }, { u"output"_s, item.destPath },
             { u"code"_s, exitStatus(exitCodeOf(kindOf(outcome))) },
-            { u"message"_s, Output::reportedSentence(outcome) } });
+            { u"message"_s, Output::reportedSentence(outcome) } },
+        outcome));
     printFailure(item, outcome);
 }
 

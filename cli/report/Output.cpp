@@ -78,7 +78,7 @@ void errorBytes(const QByteArray &bytes) { write(STDERR_FILENO, bytes); }
 QString reportedSentence(const Outcome &outcome)
 {
     QString sentence = printable(sentenceOf(outcome));
-    if (kindOf(outcome) != OutcomeKind::Incomplete)
+    if (outcome.reason != Reason::Incomplete)
         return sentence;
     return formatted(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",
                          "After: The converting progress was finished at 12s"),

@@ -3,7 +3,10 @@
 
 #include "cli/report/JsonReporter.h"
 #include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "cli/report/TextReporter.h"
+
+using namespace Qt::StringLiterals;
 
 std::unique_ptr<Reporter> Reporter::suitable(bool json)
 {
@@ -15,5 +18,8 @@ std::unique_ptr<Reporter> Reporter::suitable(bool json)
 void Reporter::printFailure(const ConversionItem &item, const Outcome &outcome)
 {
     const bool isDestination = kindOf(outcome) == OutcomeKind::DestinationRefused;
-    Output::failure(isDestination ? item.destPath : item.input, outcome);
+    const QString &file = isDestination ? item.destPath : item.input;
+    Output::failure(file, outcome);
+    for (const QString &remark : remarksOn(outcome))
+        Output::errorLine(printable(file + u": "_s + remark));
 }

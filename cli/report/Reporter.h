@@ -19,7 +19,9 @@ public:
     [[nodiscard]] virtual std::chrono::milliseconds interval() const = 0;
     virtual void started(const ConversionItem &item) = 0;
     virtual void progressed(const ConversionItem &item, const ProgressSample &sample) = 0;
-    virtual void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) = 0;
+    virtual void converted(
+        const ConversionItem &item, const Outcome &outcome, std::chrono::milliseconds elapsed)
+        = 0;
     virtual void failed(const ConversionItem &item, const Outcome &outcome) = 0;
     virtual void summedUp(int converted, int all) = 0;
 

@@ -34,13 +34,16 @@ void TextReporter::progressed(const ConversionItem &item, const ProgressSample &
         Output::line(printable(item.input) + u": "_s + progressText(sample).trimmed());
 }
 
-void TextReporter::converted(const ConversionItem &item, std::chrono::milliseconds elapsed)
+void TextReporter::converted(
+    const ConversionItem &item, const Outcome &outcome, std::chrono::milliseconds elapsed)
 {
     clearBar();
     Output::line(formatted(QT_TRANSLATE_NOOP3("Localizable", "%@: converted to %@ in %@",
                                "Video, file that was made of it, time that it took"),
         { printable(item.input), printable(item.destPath),
             DurationInfo(elapsed / 1s).toString() }));
+    for (const QString &remark : remarksOn(outcome))
+        Output::line(printable(item.input + u": "_s + remark));
 }
 
 void TextReporter::failed(const ConversionItem &item, const Outcome &outcome)

@@ -10,7 +10,8 @@ public:
     [[nodiscard]] std::chrono::milliseconds interval() const override;
     void started(const ConversionItem &item) override;
     void progressed(const ConversionItem &item, const ProgressSample &sample) override;
-    void converted(const ConversionItem &item, std::chrono::milliseconds elapsed) override;
+    void converted(const ConversionItem &item, const Outcome &outcome,
+        std::chrono::milliseconds elapsed) override;
     void failed(const ConversionItem &item, const Outcome &outcome) override;
     void summedUp(int converted, int all) override;
 

@@ -225,21 +225,6 @@ private Q_SLOTS:
         }
     }
 
-    // The link is the user's; the unfinished file is not what it shall lead to.
-    void failureThroughALink_leavesTheLinkOnly()
-    {
-        QDir(m_folder->path()).mkdir(u"sub"_s);
-        QFile target(path(u"sub/target"_s));
-        QVERIFY(target.open(QIODevice::WriteOnly));
-        QVERIFY(QFile::link(u"sub/target"_s, path(u"out.mp4"_s)));
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
-        const Conversion conversion(path(u"in.mov"_s), path(u"out.mp4"_s));
-        conversion.wait();
-        QCOMPARE(conversion.errors, QStringList{ u"(none)"_s });
-        QVERIFY(!target.exists());
-        QVERIFY(QFileInfo(path(u"out.mp4"_s)).isSymbolicLink());
-    }
-
     void namesThatReadLikeAFailure_areNone()
     {
         const QString name = path(u"a\nError closing file.mp4"_s);
@@ -251,23 +236,6 @@ private Q_SLOTS:
         conversion.wait();
         QCOMPARE(conversion.errors, QStringList());
         QVERIFY(QFile::exists(name));
-    }
-
-    void secondRunToOnePlace_waitsForTheFirst()
-    {
-        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "deaf|output|forever");
-        QDir(m_folder->path()).mkdir(u"sub"_s);
-        const Conversion first(path(u"in.mov"_s), path(u"out.mp4"_s));
-        QTRY_VERIFY(QFile::exists(path(u"out.mp4"_s)));
-        first.progress->cancel();
-        ToolSwap::setScript("output|sleep:300");
-        const Conversion second(path(u"in.mov"_s), path(u"sub/../out.mp4"_s));
-        const Conversion third(path(u"in.mov"_s), path(u"out.mp4"_s));
-        third.progress->cancel();
-        third.wait();
-        second.wait();
-        QVERIFY(first.progress->isEnded());
-        QVERIFY(QFile::exists(path(u"out.mp4"_s)));
     }
 };
 

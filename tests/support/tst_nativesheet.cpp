@@ -47,11 +47,12 @@ private:
         QDBusMessage response = QDBusMessage::createTargetedSignal(
             m_call.service(), request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         const QString url = QUrl::fromLocalFile(path(name)).toString(QUrl::FullyEncoded);
-        response << (name.isEmpty() ? 1U : 0U) << QVariantMap{ { u"uris"_s, QStringList(url) } };
-        m_desktop.send(response);
+        m_desktop.send(
+            response, { name.isEmpty() ? 1U : 0U, QVariantMap{ { u"uris"_s, QStringList(url) } } });
     }
 
-    DesktopStandIn m_desktop;
+    DesktopStandIn m_desktop{ { service },
+        { { u"SaveFile"_s, { QVariant::fromValue(QDBusObjectPath(request)) } } } };
     QDBusMessage m_call;
     qsizetype m_dialogs = 0;
 
@@ -61,8 +62,6 @@ private Q_SLOTS:
         const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
         if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
             QSKIP("The toolkit's theme for the desktop portal is not installed");
-        m_desktop.answer(u"SaveFile"_s, { QVariant::fromValue(QDBusObjectPath(request)) });
-        QVERIFY(m_desktop.offer(service));
     }
 
     void init()
@@ -109,10 +108,8 @@ int main(int argc, char *argv[])
 {
     // The desktop's theme asks for the service's version while it is loaded, and does not go on
     // without an answer. So another thread gives it.
-    auto *early = new DesktopStandIn;
-    early->answer(u"Get"_s, { QVariant::fromValue(QDBusVariant(3U)) });
-    if (!early->offer(service))
-        qFatal("No desktop");
+    auto *early = new DesktopStandIn(
+        { service }, { { u"Get"_s, { QVariant::fromValue(QDBusVariant(3U)) } } });
     QThread thread;
     early->moveToThread(&thread);
     QObject::connect(&thread, &QThread::finished, early, &QObject::deleteLater);

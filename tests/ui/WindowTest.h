@@ -9,6 +9,7 @@
 #include "ui/window/AppDelegate.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -51,6 +52,10 @@ protected:
     QString m_video;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
+    QStringList files() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
+    }
     QString url(const QString &name) const { return QUrl::fromLocalFile(path(name)).toString(); }
 
     template <class View> [[nodiscard]] View *find(const char *name) const

@@ -83,6 +83,9 @@ AppDelegate::AppDelegate()
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
     keepPlaces(*m_outlets->dropAcceptor);
+    QSizePolicy remarksPolicy = m_outlets->remarksLabel->sizePolicy();
+    remarksPolicy.setRetainSizeWhenHidden(false);
+    m_outlets->remarksLabel->setSizePolicy(remarksPolicy);
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
     m_window.resize(
@@ -116,6 +119,8 @@ void AppDelegate::setUiState(WindowUIState state)
     applyWindowUIState(*m_outlets, state);
     m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
     m_outlets->refusalLabel->setVisible(state == WindowUIState::InitialState);
+    m_outlets->remarksLabel->setVisible(
+        state == WindowUIState::ConversionIsDone && !m_outlets->remarksLabel->text().isEmpty());
     showStateInMenus();
     if (state != former) {
         primaryControl(*m_outlets, state)->setFocus(Qt::OtherFocusReason);
@@ -199,14 +204,20 @@ void AppDelegate::connectWork()
         showRefusal(refusal);
     });
     connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
-    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
+    connect(m_conversion.get(), &ConversionFlow::finished, this, [this](const Outcome &outcome) {
+        QStringList remarks = remarksOn(outcome);
+        if (!outcome.isDone())
+            remarks.prepend(sentenceOf(outcome));
+        m_outlets->remarksLabel->setText(remarks.join(u'\n'));
         setUiState(WindowUIState::ConversionIsDone);
+        if (!remarks.isEmpty())
+            announce(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
     connect(m_conversion.get(), &ConversionFlow::failed, this,
-        [this](const QString &message, bool isCurrent) {
-            if (isCurrent)
+        [this](const Outcome &outcome, const QString &message) {
+            if (kindOf(outcome) != OutcomeKind::Incomplete)
                 setUiState(WindowUIState::InitialState);
             m_status->notify(m_window.windowTitle(), message);
         });

@@ -2,8 +2,8 @@
 #include "ui/window/ConversionFlow.h"
 
 #include "analytics/Analytics.h"
+#include "engine/Conversion.h"
 #include "engine/Destination.h"
-#include "engine/FFMPEG.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Format.h"
 #include "support/Localized.h"
@@ -32,13 +32,6 @@ bool confirmsCancel()
             "Attention! Current converting process will be cancelled.\nAre you sure you want to "
             "continue?",
             "Cancel progress alert message text")));
-}
-
-/// Without the engine's message the outcome says why. It becomes part of a format: percent signs
-/// count twice.
-std::optional<QString> messageOf(const std::optional<QString> &errmsg, const Outcome &outcome)
-{
-    return errmsg ? errmsg : sentenceOf(outcome).replace(u'%', u"%%"_s);
 }
 
 }
@@ -96,17 +89,14 @@ void ConversionFlow::startConversion(const QString &destPath, const VideoConstra
     m_window.activateWindow();
     m_resultFilePath = destPath;
     const QPointer<ConversionFlow> self(this);
-    const QString path = m_intake.processingFilePath();
-    const auto run = std::make_shared<std::weak_ptr<Progress>>();
-    m_run = FFMPEG::convertFile(path, destPath, constraints, *m_intake.processingInfo(),
-        [self, path, run, source = m_intake.count()](const std::optional<QString> &errmsg) {
-            const std::shared_ptr<Progress> progress = run->lock();
-            // The tool may fail after its bar was full, when the window shows a later video.
-            if (self && progress)
-                self->failWhileConverting(
-                    path, messageOf(errmsg, progress->outcome()), source == self->m_intake.count());
+    // The user has agreed to replace what stands there now.
+    const OlderFile olderFile = QFileInfo::exists(destPath) ? OlderFile::Replaced : OlderFile::Kept;
+    m_run = Conversion::start(
+        { m_intake.processingFilePath(), destPath, constraints, *m_intake.processingInfo() },
+        olderFile, [self](const std::optional<QString> &errmsg) {
+            if (self)
+                self->failWhileConverting(errmsg);
         });
-    *run = m_run;
     setProgress(m_run);
     m_run->setEndHandler(
         [self] { MainQueue::post([self] { self ? Q_EMIT self->ended() : void(); }); });
@@ -160,22 +150,28 @@ void ConversionFlow::updateProgress()
     if (m_progress->completedUnitCount() != m_progress->totalUnitCount()
         || !m_intake.processingInfo())
         return;
+    const Outcome outcome = m_progress->outcome();
     setProgress(nullptr);
-    Q_EMIT finished();
+    Q_EMIT finished(outcome);
 }
 
-void ConversionFlow::failWhileConverting(
-    const QString &path, const std::optional<QString> &errmsg, bool isCurrent)
+void ConversionFlow::failWhileConverting(const std::optional<QString> &errmsg)
 {
+    const Outcome outcome = m_run->outcome();
     QString format = localized(QT_TRANSLATE_NOOP3(
         "Localizable", "Error processing %@", "Error message on conversion failure"));
-    if (errmsg)
-        format += u'\n' + *errmsg;
-    const QString message = formatted(format, { Path::lastPathComponent(path) });
-    Q_EMIT failed(message, isCurrent);
+    // Without the engine's message the outcome says why. In a format, percent signs count twice.
+    format += u'\n' + errmsg.value_or(sentenceOf(outcome).replace(u'%', u"%%"_s));
+    const QString message
+        = formatted(format, { Path::lastPathComponent(m_intake.processingFilePath()) });
+    // The picture of a short result stays while the alert stands.
+    setProgress(nullptr);
+    Q_EMIT failed(outcome, message);
     ++m_alerts;
     displayError(message);
     --m_alerts;
+    if (kindOf(outcome) == OutcomeKind::Incomplete)
+        Q_EMIT finished(outcome);
     Q_EMIT ended();
 }
 
@@ -188,12 +184,6 @@ bool ConversionFlow::cancelIfConfirmed()
     if (const std::shared_ptr<Progress> progress = m_progress)
         progress->cancel();
     return true;
-}
-
-void ConversionFlow::cancelLastBytesIfConfirmed()
-{
-    if (isRunning() && !m_run->isCancelled() && confirmsCancel())
-        m_run->cancel();
 }
 
 void ConversionFlow::progressWasCancelled(const std::weak_ptr<Progress> &object)

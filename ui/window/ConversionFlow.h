@@ -30,7 +30,6 @@ public:
     void choose(const std::optional<VideoConstraints> &constraints);
     /// Asks, then cancels the conversion that is shown. True when it is cancelled.
     bool cancelIfConfirmed();
-    void cancelLastBytesIfConfirmed();
     void openFolder() const;
 
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
@@ -42,9 +41,10 @@ public:
 
 Q_SIGNALS:
     void progressed(double fraction);
-    void finished();
-    /// Emitted before the alert is shown. Not current: the window already shows another video.
-    void failed(const QString &message, bool isCurrent);
+    /// The result is in place; it may end early.
+    void finished(const Outcome &outcome);
+    /// Emitted before the alert is shown.
+    void failed(const Outcome &outcome, const QString &message);
     void cancelled(const Outcome &outcome);
     /// The tool is gone and its failure, if any, has been read.
     void ended();
@@ -57,8 +57,7 @@ private:
     void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
     void updateProgress();
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
-    void failWhileConverting(
-        const QString &path, const std::optional<QString> &errmsg, bool isCurrent);
+    void failWhileConverting(const std::optional<QString> &errmsg);
 
     QMainWindow &m_window;
     const FileIntake &m_intake;

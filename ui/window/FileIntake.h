@@ -32,7 +32,6 @@ public:
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
     [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
     [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
-    [[nodiscard]] int count() const { return m_count; }
 
 Q_SIGNALS:
     void started();

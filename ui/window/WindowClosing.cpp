@@ -13,10 +13,7 @@ bool WindowClosing::mayCloseNow()
 {
     if (m_conversion.isShown() && m_conversion.isRunning() && !m_conversion.cancelIfConfirmed())
         return false;
-    // A run whose bar is full writes its last bytes; a cancelled one removes its result. The window
-    // waits for both, but not for ever: a second wish cancels.
-    if (m_closesAfterRun)
-        m_conversion.cancelLastBytesIfConfirmed();
+    // A cancelled run still removes its partial result.
     m_closesAfterRun = m_conversion.isRunning();
     m_window.setEnabled(!m_closesAfterRun);
     return !m_closesAfterRun;

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "engine/Conversion.h"
+
+#include "engine/Async.h"
+#include "engine/Destination.h"
+#include "engine/RunReport.h"
+#include "engine/Verdict.h"
+#include "support/FileSystem.h"
+
+#include <QFileInfo>
+
+#include <condition_variable>
+#include <mutex>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+bool isGood(const Outcome &outcome)
+{
+    const OutcomeKind kind = kindOf(outcome);
+    return kind == OutcomeKind::Done || kind == OutcomeKind::Incomplete;
+}
+
+}
+
+std::shared_ptr<Progress> Conversion::start(
+    ConversionJob job, OlderFile olderFile, FFMPEG::ConversionErrorHandler errorHandler)
+{
+    auto progress = std::make_shared<Progress>(-1);
+    progress->setKind(Progress::Kind::File);
+    Async::background(
+        [job = std::move(job), olderFile, progress, errorHandler = std::move(errorHandler)] {
+            Conversion conversion(job, olderFile, progress);
+            const Outcome outcome = conversion.converted();
+            progress->setOutcome(outcome, conversion.m_output);
+            const OutcomeKind kind = kindOf(outcome);
+            if (kind == OutcomeKind::ToolMissing)
+                progress->cancel();
+            else if (!outcome.isDone() && kind != OutcomeKind::Cancelled)
+                Async::async([errorHandler, outcome, kind] {
+                    errorHandler(kind == OutcomeKind::Failed ? std::nullopt
+                                                             : std::optional(sentenceOf(outcome)));
+                });
+            if (isGood(outcome))
+                progress->setCompletedUnitCount(progress->totalUnitCount());
+            progress->end();
+        });
+    return progress;
+}
+
+Conversion::Conversion(ConversionJob job, OlderFile olderFile, std::shared_ptr<Progress> progress)
+    : m_job(std::move(job))
+    , m_overwrite(olderFile == OlderFile::Replaced)
+    , m_progress(std::move(progress))
+{
+}
+
+Outcome Conversion::converted()
+{
+    // Where the user keeps a link, what it leads to is replaced.
+    m_job.destPath = linkTarget(m_job.destPath);
+    if (const auto refusal = refusalOf(
+            { .path = m_job.destPath, .sources = { m_job.path }, .overwrite = m_overwrite }))
+        return *refusal;
+    StagedFile staged(m_job.destPath);
+    const Outcome first = tried(m_job, staged);
+    const Remedy remedy = first.reason == Reason::PictureMissing && takesCoverForPicture(m_job)
+        ? Remedy::CoverLeftOut
+        : remedyFor(first, m_output, m_job);
+    if (remedy == Remedy::None || m_progress->isCancelled())
+        return placed(staged, first);
+    Outcome second = tried(remedied(m_job, remedy), staged);
+    if (kindOf(second) == OutcomeKind::Failed)
+        return { Reason::StreamNotTaken };
+    second.remedy = remedy;
+    return placed(staged, second);
+}
+
+Outcome Conversion::tried(const ConversionJob &job, StagedFile &staged)
+{
+    if (const auto refusal = staged.create())
+        return *refusal;
+    ConversionJob stagedJob = job;
+    stagedJob.destPath = staged.path();
+    const Outcome run = ran(stagedJob);
+    return isGood(run) ? verdictOn(stagedJob, run) : run;
+}
+
+Outcome Conversion::ran(const ConversionJob &job)
+{
+    std::mutex mutex;
+    std::condition_variable changed;
+    bool ended = false;
+    const std::shared_ptr<Progress> run = FFMPEG::convertFile(
+        job.path, job.destPath, job.constraints, job.conversionInfo, [](const auto &) {});
+    for (const Progress::Key key :
+        { Progress::Key::FractionCompleted, Progress::Key::CompletedUnitCount })
+        run->addObserver(key, this, [this, raw = run.get()](Progress::Key) { follow(*raw); });
+    run->setEndHandler([&] {
+        const std::lock_guard lock(mutex);
+        ended = true;
+        changed.notify_one();
+    });
+    std::unique_lock lock(mutex);
+    while (!changed.wait_for(lock, 50ms, [&] { return ended; })) {
+        if (m_progress->isCancelled())
+            run->cancel();
+    }
+    m_output = run->toolOutput();
+    return run->outcome();
+}
+
+// The last step is left for the result's move into place.
+void Conversion::follow(const Progress &run) const
+{
+    const qint64 total = run.totalUnitCount();
+    if (total != m_progress->totalUnitCount())
+        m_progress->setTotalUnitCount(total);
+    const qint64 completed = std::min(run.completedUnitCount(), total - 1);
+    if (total > 0 && completed >= 0 && completed != m_progress->completedUnitCount())
+        m_progress->setCompletedUnitCount(completed);
+}
+
+Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) const
+{
+    const RunReport report = reportOf(m_output, { job.path, job.destPath });
+    Lengths expected = expectedOf(job);
+    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
+    if (outcome.isDone() && isInDoubt(run, report, expected)) {
+        // What the tool had to guess says nothing about the end.
+        if (report.lengthIsGuessed)
+            expected = { expected.picture ? std::optional(0.0) : std::nullopt,
+                expected.sound ? std::optional(0.0) : std::nullopt };
+        const auto lengths = measured(job.destPath);
+        outcome = lengths ? judged(*lengths, expected) : run;
+    }
+    outcome.damagedPlaces = report.damagedPlaces;
+    outcome.firstDamage = report.firstDamage;
+    return outcome;
+}
+
+Outcome Conversion::placed(StagedFile &staged, Outcome outcome) const
+{
+    if (!isGood(outcome))
+        return outcome;
+    if (m_progress->isCancelled())
+        return { Reason::Cancelled };
+    const bool replaces = m_overwrite && QFileInfo::exists(m_job.destPath);
+    if (replaces && !outcome.isDone()) {
+        outcome.olderPath = staged.keepOlder();
+        if (outcome.olderPath.isEmpty())
+            return { Reason::DestinationNotWritable };
+    }
+    const auto refusal = staged.moveIntoPlace(m_overwrite);
+    return refusal ? *refusal : outcome;
+}

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "engine/Remedy.h"
+
+#include "engine/RunReport.h"
+#include "planning/ConversionDescriptor.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct CauseRow {
+    const char16_t *pattern;
+    Remedy remedy;
+};
+
+// As the tool words it; the first row that fits counts.
+constexpr std::array causeRows{
+    CauseRow{ u"(?:width|height) not divisible by 2", Remedy::SizeMadeEven },
+    CauseRow{ u"sample rate \\d+ is not supported|does not support sample rate"
+              u"|[Ii]nvalid sample rate|[Uu]nsupported sample rate|\\[libvorbis @.*failed",
+        Remedy::SoundEncoded },
+    CauseRow{ u"unknown timestamp|missing PTS|pts has no value|first pts value must be set"
+              u"|[Nn]ot currently supported in container|incompatible with output codec id"
+              u"|bitstream malformed|is not compatible with",
+        Remedy::PictureEncoded },
+};
+
+std::optional<ChosenStream> pictureOf(const ConversionJob &job)
+{
+    return conversionDescriptor(job.constraints.format).videoStream(job.conversionInfo);
+}
+
+bool isAttachedPicture(const QJsonObject &stream)
+{
+    return stream[u"disposition"_s][u"attached_pic"_s].toInt() == 1;
+}
+
+bool hasAttachedPicture(const ConversionJob &job)
+{
+    const QJsonArray streams = job.conversionInfo[u"streams"_s].value().toArray();
+    return std::any_of(streams.begin(), streams.end(),
+        [](const auto &stream) { return isAttachedPicture(stream.toObject()); });
+}
+
+// The streams keep their places, which are their numbers.
+template <class Edit> void editStreams(ConversionJob &job, const Edit &edit)
+{
+    QJsonObject info = job.conversionInfo.value().toObject();
+    QJsonArray streams = info[u"streams"_s].toArray();
+    for (qsizetype index = 0; index < streams.size(); ++index) {
+        QJsonObject stream = streams[index].toObject();
+        edit(stream, index);
+        streams[index] = stream;
+    }
+    info[u"streams"_s] = streams;
+    job.conversionInfo = JSON(info);
+}
+
+void hideCodec(ConversionJob &job, const QString &kind)
+{
+    editStreams(job, [&](QJsonObject &stream, qsizetype) {
+        if (stream[u"codec_type"_s] == kind)
+            stream.remove(u"codec_name"_s);
+    });
+}
+
+void leaveCoverOut(ConversionJob &job)
+{
+    const auto picture = pictureOf(job);
+    editStreams(job, [&](QJsonObject &stream, qsizetype index) {
+        if (isAttachedPicture(stream)
+            || (picture && picture->index == index && !hasAttachedPicture(job)))
+            stream[u"codec_type"_s] = u"attachment"_s;
+    });
+}
+
+// Only the larger side is bound; the plan makes the other one even.
+void makeSizeEven(ConversionJob &job)
+{
+    const auto picture = pictureOf(job);
+    if (!picture)
+        return;
+    const qint64 longest
+        = std::max(picture->item[u"width"_s].intValue(), picture->item[u"height"_s].intValue());
+    const qint64 even = (longest - 1) / 2 * 2;
+    job.constraints.dimension
+        = VideoDimensionsConstraints::maximum({ .width = even, .height = even });
+}
+
+void makeRateUsual(ConversionJob &job)
+{
+    hideCodec(job, u"audio"_s);
+    editStreams(job, [](QJsonObject &stream, qsizetype) {
+        if (stream[u"codec_type"_s] == u"audio"_s)
+            stream[u"sample_rate"_s] = u"48000"_s;
+    });
+}
+
+}
+
+Remedy remedyFor(const Outcome &failure, const QByteArray &output, const ConversionJob &job)
+{
+    const bool mayBeTheVideos = failure.reason == Reason::ToolFailed
+        || failure.reason == Reason::StreamNotTaken || failure.reason == Reason::DamagedData;
+    if (!mayBeTheVideos)
+        return Remedy::None;
+    const auto picture = pictureOf(job);
+    if (picture && isAttachedPicture(picture->item.value().toObject()))
+        return Remedy::CoverLeftOut;
+    const QStringList lines = ownLines(output, { job.path, job.destPath });
+    for (const CauseRow &row : causeRows) {
+        if (!lines.filter(QRegularExpression(QString::fromUtf16(row.pattern))).isEmpty())
+            return row.remedy == Remedy::PictureEncoded && !picture ? Remedy::SoundEncoded
+                                                                    : row.remedy;
+    }
+    return Remedy::None;
+}
+
+ConversionJob remedied(ConversionJob job, Remedy remedy)
+{
+    switch (remedy) {
+    case Remedy::None:
+        break;
+    case Remedy::CoverLeftOut:
+        leaveCoverOut(job);
+        break;
+    case Remedy::SizeMadeEven:
+        makeSizeEven(job);
+        break;
+    case Remedy::SoundEncoded:
+        makeRateUsual(job);
+        break;
+    case Remedy::PictureEncoded:
+        hideCodec(job, u"video"_s);
+        break;
+    }
+    return job;
+}

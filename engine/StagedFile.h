@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine/Outcome.h"
+#include "engine/StagedList.h"
+
+#include <optional>
+
+/// A hidden file beside a result's place. A run writes it; once it is good, it takes the place in
+/// one step, so that nobody opens half a file and an older one outlives everything but success. Its
+/// owner holds a lock on it. Thread: one at a time.
+class StagedFile {
+public:
+    /// `destPath` leads through no link.
+    explicit StagedFile(QString destPath);
+    ~StagedFile();
+    Q_DISABLE_COPY_MOVE(StagedFile)
+
+    /// Makes the file anew, empty. Errors: why nothing can be written there.
+    [[nodiscard]] std::optional<Outcome> create();
+    [[nodiscard]] const QString &path() const { return m_path; }
+    /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it
+    /// gives its permissions.
+    [[nodiscard]] std::optional<Outcome> moveIntoPlace(bool overwrite);
+    /// Gives what stands in the place a second name, "NAME (earlier).ext", and returns it; empty
+    /// without such a file.
+    [[nodiscard]] QString keepOlder() const;
+
+private:
+    void drop();
+
+    QString m_destPath;
+    QString m_path;
+    StagedList::Entry m_entry;
+    int m_file = -1;
+};

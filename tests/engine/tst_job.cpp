@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include "engine/Conversion.h"
+#include "engine/Progress.h"
+#include "engine/RunReport.h"
+#include "engine/SerialQueue.h"
+#include "engine/StagedList.h"
+#include "engine/Verdict.h"
+#include "support/Console.h"
+#include "tests/fixtures/Media.h"
+#include "tests/fixtures/Processes.h"
+#include "tests/fixtures/Rows.h"
+#include "tests/fixtures/ToolSwap.h"
+
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// Whole jobs: what they say of their result, and what becomes of an older file.
+class TestJob : public QObject {
+    Q_OBJECT
+
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] ConversionJob job(
+        const QString &source, const QString &dest, const QString &entry)
+    {
+        const JSON info = JSON::parse(Media::run(u"ffprobe"_s,
+            { u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s, u"-show_format"_s,
+                u"-show_streams"_s, path(source) }));
+        return { path(source), path(dest), *videoConstraints(entry, u"audio"_s, {}, {}), info };
+    }
+    std::shared_ptr<Progress> start(
+        const ConversionJob &job, OlderFile olderFile = OlderFile::Replaced)
+    {
+        m_errors.clear();
+        return Conversion::start(job, olderFile, [this](const std::optional<QString> &errmsg) {
+            m_errors << errmsg.value_or(u"(none)"_s);
+        });
+    }
+    Outcome done(const ConversionJob &job, OlderFile olderFile = OlderFile::Replaced)
+    {
+        const auto progress = start(job, olderFile);
+        [&] { QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 60'000); }();
+        QCoreApplication::processEvents();
+        return progress->outcome();
+    }
+    /// The exit code's group, the sentence and the remarks.
+    static QString told(const Outcome &outcome)
+    {
+        return (QStringList{ sentenceOf(outcome) } + remarksOn(outcome)).join(u'|');
+    }
+    void write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    [[nodiscard]] QByteArray read(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    [[nodiscard]] QStringList results() const
+    {
+        return QDir(m_folder.path()).entryList({ u"out*"_s, u".*"_s }, QDir::Files | QDir::Hidden);
+    }
+    [[nodiscard]] static QStringList entries()
+    {
+        return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+            + u"/VideoConverter/staged files"_s)
+            .entryList(QDir::Files);
+    }
+
+    QTemporaryDir m_folder;
+    QStringList m_errors;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        Console::setSink([](const QString &) {});
+        const auto make = [this](const QString &arguments, const QString &name) {
+            QStringList list = arguments.split(u' ');
+            list.replaceInStrings(u"PATH"_s, m_folder.path());
+            Media::ffmpeg(list << path(name));
+        };
+        Media::video(path(u"whole.mp4"_s), 8, u"320x180"_s);
+        make(u"-i PATH/whole.mp4 -c copy -movflags +faststart"_s, u"fast.mp4"_s);
+        make(u"-i PATH/whole.mp4 -c copy"_s, u"whole.mkv"_s);
+        make(u"-i PATH/whole.mp4 -c:v mpeg4 -s 321x181 -an"_s, u"odd.avi"_s);
+        make(u"-f lavfi -i color=red:s=301x301 -frames:v 1"_s, u"cover.png"_s);
+        make(u"-i PATH/whole.mp4 -i PATH/cover.png -map 0:a -map 1 -c:a libmp3lame -c:v copy "
+             "-disposition:v attached_pic"_s,
+            u"cover.mp3"_s);
+        make(u"-i PATH/whole.mp4 -t 3 -c:v copy -c:a pcm_s16le -ar 192000"_s, u"rate.mkv"_s);
+        make(u"-i PATH/whole.mp4 -c:v libx264 -bf 3 -an"_s, u"bframes.avi"_s);
+        for (const QString &name : { u"fast.mp4"_s, u"whole.mkv"_s }) {
+            const QByteArray bytes = read(name);
+            write(u"cut-"_s + name, bytes.first(bytes.size() / 2));
+        }
+    }
+    void cleanup()
+    {
+        QCOMPARE(Processes::children(), QStringList());
+        QVERIFY(!results().join(u' ').contains(u".video-converter"_s));
+        QCOMPARE(entries(), QStringList());
+        for (const QString &name : results())
+            QFile::remove(path(name));
+    }
+
+    void result_isMeasured_data()
+    {
+        addRows<Utf8, Utf8, Utf8>({ "source", "entry", "told" },
+            {
+                { "whole", "whole.mp4", "MKV", "" },
+                { "cut", "cut-fast.mp4", "MKV",
+                    "The converting progress was finished at 4s|The video is damaged in places." },
+                { "cut, encoded", "cut-whole.mkv", "AVI",
+                    "The converting progress was finished at 4s|The video is damaged in places." },
+                { "cover of music", "cover.mp3", "MP4",
+                    "|The cover picture was left out, because this output can't show it." },
+                { "odd size", "odd.avi", "MP4",
+                    "|The picture was made a little smaller, because this output needs even "
+                    "sizes." },
+                { "192 kHz", "rate.mkv", "MP4",
+                    "|The sound was encoded anew, because this output can't take it as it is." },
+                { "frames without time stamps", "bframes.avi", "MKV",
+                    "|The picture was encoded anew, because this output can't take it as it is." },
+            });
+    }
+    void result_isMeasured()
+    {
+        QFETCH(const QString, source);
+        QFETCH(const QString, entry);
+        QTEST(told(done(job(source, u"out"_s, entry))), "told");
+        QVERIFY(QFile::exists(path(u"out"_s)));
+    }
+
+    void olderFile_outlivesEverythingButSuccess_data()
+    {
+        addRows<Utf8, Utf8, Utf8>({ "source", "script", "results" },
+            {
+                { "success", "whole.mp4", "", "out.mkv" },
+                { "short", "cut-fast.mp4", "", "out (earlier).mkv out.mkv" },
+                { "failure", "whole.mp4", "output|exit:1", "out.mkv" },
+                { "cancelled", "whole.mp4", "output|forever", "out.mkv" },
+            });
+    }
+    void olderFile_outlivesEverythingButSuccess()
+    {
+        QFETCH(const QString, source);
+        QFETCH(const QString, script);
+        QFETCH(const QString, results);
+        write(u"out.mkv"_s, "older");
+        QVERIFY(QFile::setPermissions(path(u"out.mkv"_s), QFile::ReadOwner | QFile::WriteOwner));
+        const ConversionJob request = job(source, u"out.mkv"_s, u"MKV"_s);
+        std::unique_ptr<ToolSwap> swap;
+        if (!script.isEmpty())
+            swap = std::make_unique<ToolSwap>(
+                u"ffmpeg"_s, ToolSwap::With::FakeTool, script.toUtf8());
+        const auto progress = start(request);
+        if (script.contains(u"forever")) {
+            QTRY_COMPARE(this->results().size(), 2);
+            progress->cancel();
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 20'000);
+        QCOMPARE(this->results().join(u' '), results);
+        const bool isReplaced = script.isEmpty();
+        QCOMPARE(read(u"out.mkv"_s) == "older", !isReplaced);
+        if (results.contains(u"earlier"))
+            QCOMPARE(read(u"out (earlier).mkv"_s), "older");
+        QCOMPARE(QFile::permissions(path(u"out.mkv"_s)) & QFile::Permissions(0x77),
+            QFile::Permissions());
+        QCOMPARE(done(request, OlderFile::Kept).reason, Reason::DestinationExists);
+    }
+
+    void linkAsDestination_stays()
+    {
+        write(u"out-target"_s, "older");
+        QVERIFY(QFile::link(u"out-target"_s, path(u"out.mkv"_s)));
+        QCOMPARE(done(job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s)), Outcome{});
+        QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
+        QVERIFY(read(u"out-target"_s).size() > 1000);
+    }
+
+    void fileThatCameMeanwhile_isKept()
+    {
+        const ConversionJob request = job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s);
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|sleep:400");
+        const auto progress = start(request, OlderFile::Kept);
+        QTRY_COMPARE(results().size(), 1);
+        write(u"out.mkv"_s, "somebody's");
+        QTRY_VERIFY(progress->isEnded());
+        QCOMPARE(progress->outcome().reason, Reason::DestinationExists);
+        QCOMPARE(read(u"out.mkv"_s), "somebody's");
+    }
+
+    void missingTool_looksCancelled()
+    {
+        const ConversionJob request = job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s);
+        write(u"out.mkv"_s, "older");
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::UnexecutableFile);
+        const auto progress = start(request);
+        QTRY_VERIFY(progress->isEnded());
+        QVERIFY(progress->isCancelled());
+        QCOMPARE(progress->outcome().reason, Reason::ToolMissing);
+        QCOMPARE(m_errors, QStringList());
+        QCOMPARE(read(u"out.mkv"_s), "older");
+    }
+
+    // The next start removes what a killed program left, and nothing that somebody holds.
+    void abandonedFile_isRemoved()
+    {
+        StagedFile held(path(u"out.mkv"_s));
+        QVERIFY(!held.create());
+        const pid_t child = ::fork();
+        if (child == 0) {
+            StagedFile left(path(u"out.mp4"_s));
+            ::_exit(left.create() ? 1 : ::raise(SIGKILL));
+        }
+        int status = 0;
+        QCOMPARE(::waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status));
+        QCOMPARE(results().size(), 2);
+        StagedList::removeAbandoned();
+        QCOMPARE(results(), QStringList{ QFileInfo(held.path()).fileName() });
+        QCOMPARE(entries().size(), 1);
+    }
+
+    void entry_namesAStagedFile_data()
+    {
+        addRows<QByteArray, bool>({ "entry", "isOne" },
+            {
+                { "staged file", "/a b/.video-converter-01abcdef.mp4", true },
+                { "line break", "/a\nb/.video-converter-01abcdef.mp4", true },
+                { "somebody's file", "/home/diary.txt", false },
+                { "relative", ".video-converter-01abcdef.mp4", false },
+                { "folder behind", "/a/.video-converter-01abcdef.mp4/b", false },
+                { "zero byte", QByteArray("/a\0/.video-converter-01abcdef.mp4", 34), false },
+                { "no text", "/\xff/.video-converter-01abcdef.mp4", false },
+            });
+    }
+    void entry_namesAStagedFile()
+    {
+        QFETCH(const QByteArray, entry);
+        QTEST(!StagedList::stagedPathOf(entry).isEmpty(), "isOne");
+    }
+
+    void videosOwnTexts_swayNothing()
+    {
+        const QByteArray output = "  Metadata:\n    title           : x\xc2\x85"
+                                  "Error writing trailer of it, time=00:00:09.00 bitrate\n"
+                                  "/x/a\nError closing file.mp4\n"
+                                  "frame= 1 time=00:00:03.50 bitrate= 1\r"
+                                  "[h264 @ 0x5] error while decoding MB 1 2\n"
+                                  "[h264 @ 0x5] concealing 3\n"
+                                  "video:0kB audio:12kB subtitle:0kB\n";
+        const QStringList paths{ u"/x/a\nError closing file.mp4"_s };
+        QVERIFY(!reportsLostOutput(output, paths));
+        const RunReport report = reportOf(output, paths);
+        QCOMPARE(report.position, std::optional(3.5));
+        QCOMPARE(report.damagedPlaces, 1);
+        QCOMPARE(report.firstDamage, std::optional(qint64{ 3 }));
+        QCOMPARE(report.pictureBytes, std::optional(qint64{ 0 }));
+        QVERIFY(reportsLostOutput(output + "Error writing trailer of out: No space\n", paths));
+    }
+
+    void packets_areAddedUp()
+    {
+        PacketReader reader;
+        for (const char *chunk : { "video,0,1.0,N/A,0.5\nvideo,0,N/", "A,3.0,0.5\naudio,1,0.0,0.0,",
+                 "2.0\nvideo,2,0,0,9\nnonsense\nvideo\n" })
+            reader.append(chunk);
+        const Lengths lengths = reader.lengths();
+        QCOMPARE(lengths.picture, std::optional(2.5));
+        QCOMPARE(lengths.sound, std::optional(2.0));
+        QCOMPARE(judged(lengths, { 2.5, 2.0 }), Outcome{});
+        QCOMPARE(judged(lengths, { 3.6, 2.0 }).seconds, 2);
+        QCOMPARE(judged({ {}, 2.0 }, { 2.5, 2.0 }).reason, Reason::PictureMissing);
+        QCOMPARE(judged({ 2.5, {} }, { 2.5, 2.0 }).reason, Reason::SoundMissing);
+        QCOMPARE(judged({ 1000, 991 }, { 1000, 1000 }), Outcome{});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestJob)
+#include "tst_job.moc"
