@@ -7,6 +7,7 @@
 #include "engine/Conversion.h"
 #include "engine/Destination.h"
 #include "engine/Progress.h"
+#include "engine/SteadyTime.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Text.h"
@@ -28,11 +29,13 @@ void follow(Progress &progress, const ConversionItem &item, Reporter &reporter,
     if (Interruption::signal() != 0)
         progress.cancel();
     QTimer timer;
+    SteadyTime steadyTime;
     QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
-        reporter.progressed(item,
-            { .completed = progress.completedUnitCount(),
-                .total = progress.totalUnitCount(),
-                .elapsed = std::chrono::milliseconds(clock.elapsed()) });
+        ProgressSample sample{ .completed = progress.completedUnitCount(),
+            .total = progress.totalUnitCount(),
+            .elapsed = std::chrono::milliseconds(clock.elapsed()) };
+        sample.left = steadyTime.shown(sample.secondsLeft());
+        reporter.progressed(item, sample);
     });
     timer.start(reporter.interval());
     loop.exec();

@@ -49,7 +49,7 @@ RunReport reportOf(const QByteArray &output, const QStringList &paths)
         const bool isDamaged = damage().match(line).hasMatch();
         // One place often takes several lines to tell.
         if (isDamaged && !wasDamaged && report.damagedPlaces++ == 0)
-            report.firstDamage = report.position.value_or(0) > 0
+            report.firstDamage = report.position.value_or(0) >= 1
                 ? std::optional(static_cast<qint64>(*report.position))
                 : std::nullopt;
         wasDamaged = isDamaged;

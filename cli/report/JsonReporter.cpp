@@ -65,8 +65,7 @@ void JsonReporter::progressed(const ConversionItem &item, const ProgressSample &
     print({ { u"event"_s, u"progress"_s }, { u"input"_s, item.path },
         { u"seconds"_s, sample.completed }, { u"total"_s, valueOrNull(total) },
         { u"percent"_s, valueOrNull(sample.percent()) },
-        { u"speed"_s, valueOrNull(sample.speed()) },
-        { u"left"_s, valueOrNull(sample.secondsLeft()) } });
+        { u"speed"_s, valueOrNull(sample.speed()) }, { u"left"_s, valueOrNull(sample.left) } });
 }
 
 void JsonReporter::converted(

@@ -66,7 +66,7 @@ QString progressText(const ProgressSample &sample)
             { DurationInfo(sample.elapsed / 1s).toString() });
     if (const auto speed = sample.speed())
         parts << QLocale().toString(*speed, 'f', *speed < 10 ? 1 : 0) + u'x';
-    if (const auto left = sample.secondsLeft())
+    if (const auto left = sample.left)
         parts << formatted(
             QT_TRANSLATE_NOOP3("Localizable", "%@ left", "Time that a conversion still needs"),
             { DurationInfo(*left).toString() });
@@ -79,7 +79,7 @@ QString progressBar(const QString &video, const ProgressSample &sample, int colu
     const int nameWidth = std::clamp(columns / 4, 8, 24);
     const QString name = leftJustified(elided(printable(video), nameWidth), nameWidth);
     // Leaves room for a long text, so that the bar keeps its width, and the last column free.
-    const ProgressSample longest{ .completed = 1, .total = 86'400, .elapsed = 1s };
+    const ProgressSample longest{ .completed = 1, .total = 86'400, .elapsed = 1s, .left = 86'399 };
     const int barWidth = std::min(40, columns - nameWidth - columnsOf(progressText(longest)) - 4);
     if (barWidth < 8)
         return elided(name + u' ' + text, columns - 1);

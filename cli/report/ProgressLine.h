@@ -11,6 +11,8 @@ struct ProgressSample {
     qint64 completed = 0;
     qint64 total = -1;
     std::chrono::milliseconds elapsed{};
+    /// As it is shown.
+    std::optional<qint64> left = {};
 
     [[nodiscard]] std::optional<int> percent() const;
     [[nodiscard]] std::optional<double> speed() const;

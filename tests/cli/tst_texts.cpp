@@ -100,12 +100,14 @@ private Q_SLOTS:
         QFETCH(const qint64, completed);
         QFETCH(const qint64, total);
         QFETCH(const qint64, milliseconds);
-        QTEST(progressText({ completed, total, std::chrono::milliseconds(milliseconds) }), "text");
+        ProgressSample sample{ completed, total, std::chrono::milliseconds(milliseconds) };
+        sample.left = sample.secondsLeft();
+        QTEST(progressText(sample), "text");
     }
 
     void bar_fitsTheTerminal()
     {
-        const ProgressSample half{ 50, 100, 10s };
+        const ProgressSample half{ 50, 100, 10s, 10 };
         for (const QString &video : { u"a.mov"_s, QString(60, u'片'), u"🎬🎬🎬🎬.mov"_s }) {
             for (const int columns : { 1, 20, 40, 60, 80, 100, 400 }) {
                 for (const ProgressSample &sample : { half, ProgressSample{ 37, -1, 100'000s } }) {

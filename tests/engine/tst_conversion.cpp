@@ -99,6 +99,9 @@ private Q_SLOTS:
                 { "4 do not", "LENGTH|@86|@90", "86 90 100", -4, 10, "1m 30s" },
                 { "length cut", "Duration: 00:0|1:40, start: 0|@100", "100 100", -100, 0, "" },
                 { "bad byte before", "title: \\xD0\\nLENGTH|@100", "100 100", -100, 0, "" },
+                { "length in a title",
+                    "    title : Duration: 99999999999999999:0, start:\\nLENGTH|@100", "100 100",
+                    -100, 0, "" },
                 { "length unknown", "Duration: N/A, start: 0|@90", "-1", 0, -1, "" },
                 { "nothing said", "", "-1", 0, -1, "" },
             });

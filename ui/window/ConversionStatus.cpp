@@ -41,6 +41,7 @@ void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
 void ConversionStatus::start()
 {
     m_timeLeft = {};
+    m_steadyTime = {};
     m_fraction = -1;
     m_clock.start();
     m_timer.start();
@@ -82,11 +83,13 @@ void ConversionStatus::showTimeLeft()
     if (m_percent < 0)
         return;
     m_timeLeft.add(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
-    const auto left = m_timeLeft.estimate();
+    const auto estimate = m_timeLeft.estimate();
+    const auto left
+        = m_steadyTime.shown(estimate ? std::optional<qint64>(estimate->count()) : std::nullopt);
     const QString text = left
         ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%, about %@ left",
                         "percentage converted and time left, such as 1m 30s"),
-            { qint64(m_percent), DurationInfo(left->count()).toString() })
+            { qint64(m_percent), DurationInfo(*left).toString() })
         : formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%", "percentage converted"),
             { qint64(m_percent) });
     if (text != m_timeLeftLabel->text())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/SteadyTime.h"
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/KeepAwake.h"
 #include "ui/desktop/LauncherProgress.h"
@@ -42,6 +43,7 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     TimeLeft m_timeLeft;
+    SteadyTime m_steadyTime;
     double m_fraction = -1;
     int m_percent = -1;
     KeepAwake m_keepAwake;
