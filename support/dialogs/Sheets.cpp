@@ -50,7 +50,10 @@ void openSaveSheet(QWidget *window, const QString &folder, const QString &name, 
 void runChooseSheet(
     QWidget *window, bool files, const std::function<void(const QString &path)> &path)
 {
-    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    // A folder that is not there would be proposed as the name of a file.
+    QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    if (!QDir(movies).exists())
+        movies = QDir::homePath();
     auto *sheet = new QFileDialog(window, {}, rememberedFolder(lastOpenFolder, movies));
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setAcceptMode(QFileDialog::AcceptOpen);

@@ -122,8 +122,8 @@ void WindowTest::initTestCase()
 void WindowTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    Defaults::remove(u"LastSaveFolder"_s);
-    Defaults::remove(u"LastOpenFolder"_s);
+    for (const QString &key : { u"LastSaveFolder"_s, u"LastOpenFolder"_s, u"LastEntry"_s })
+        Defaults::remove(key);
     m_video = path(u"video.mov"_s);
     QVERIFY(QFile::copy(m_sample.filePath(u"video.mov"_s), m_video));
     m_user = {};
