@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QPushButton>
 #include <QWindow>
 
@@ -98,7 +99,11 @@ void WindowTest::answer(QDialog *dialog)
             return QTest::keyClick(dialog, Qt::Key_Escape);
         if (const QString name = m_user.names.takeFirst(); !name.isEmpty())
             field->setText(name);
+        const QPointer<QDialog> sheet(dialog);
         QTest::keyClick(field, Qt::Key_Return);
+        // It stays when it refuses the name.
+        if (sheet && sheet->isVisible())
+            sheet->setProperty("isAnswered", false);
     } else if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
         m_user.read << box->text();
         m_user.whileReading();

@@ -11,6 +11,7 @@
 #include "support/Preferences.h"
 #include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
+#include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
@@ -248,6 +249,8 @@ void AppDelegate::connectWork()
     });
     connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
     connect(m_conversion.get(), &ConversionFlow::finished, this, [this](const Outcome &outcome) {
+        rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
+            Path::stringByDeletingLastPathComponent(resultFilePath()));
         QStringList remarks = remarksOn(outcome);
         if (!outcome.isDone())
             remarks.prepend(sentenceOf(outcome));
