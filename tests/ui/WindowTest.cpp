@@ -97,8 +97,13 @@ void WindowTest::answer(QDialog *dialog)
         m_user.proposal = field->text();
         if (m_user.names.isEmpty())
             return QTest::keyClick(dialog, Qt::Key_Escape);
-        if (const QString name = m_user.names.takeFirst(); !name.isEmpty())
+        if (const QString name = m_user.names.takeFirst(); !name.isEmpty()) {
+            // The list of files writes into a field that has no focus.
+            dialog->activateWindow();
+            field->setFocus();
+            QVERIFY(QTest::qWaitFor([field] { return field->hasFocus(); }));
             field->setText(name);
+        }
         const QPointer<QDialog> sheet(dialog);
         QTest::keyClick(field, Qt::Key_Return);
         // It stays when it refuses the name.
