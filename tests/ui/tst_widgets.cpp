@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
+#include "ui/widgets/Appearance.h"
 #include "ui/widgets/ConvertPopupButtonCell.h"
 #include "ui/window/ProposedName.h"
 #include "ui/window/TimeLeft.h"
@@ -7,6 +8,8 @@
 #include <QFontMetricsF>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -27,6 +30,44 @@ private Q_SLOTS:
         const QRectF tight(3, 7, 100, height - 4);
         QCOMPARE(cell.titleRectForBounds(tight), tight);
         QCOMPARE(cell.titleRectForBounds(tight.adjusted(0, 0, 0, 14)), QRectF(3, 10, 100, height));
+    }
+
+    void colours_standOut_data()
+    {
+        using enum QPalette::ColorRole;
+        addRows<QPalette::ColorRole, QPalette::ColorRole, double>({ "ink", "ground", "least" },
+            { { "text", WindowText, Window, 7 }, { "text on the stage", Text, Base, 7 },
+                { "convert button", HighlightedText, Highlight, 4.5 },
+                { "button", ButtonText, Button, 7 }, { "link", Link, Base, 4.5 },
+                { "headings, lists' hints", PlaceholderText, Base, 4.5 },
+                { "dimmed label, disabled text", PlaceholderText, Window, 4.5 },
+                { "disabled button", PlaceholderText, Button, 4.5 },
+                { "tool tip", ToolTipText, ToolTipBase, 4.5 },
+                { "face of the convert button", Highlight, Window, 3 },
+                { "progress", Link, Mid, 3 } });
+    }
+    void colours_standOut()
+    {
+        QFETCH(const QPalette::ColorRole, ink);
+        QFETCH(const QPalette::ColorRole, ground);
+        QFETCH(const double, least);
+        const auto luminance = [](const QColor &color) {
+            const auto linear = [](double part) {
+                return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+            };
+            return 0.05 + 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+                + 0.0722 * linear(color.blueF());
+        };
+        for (const bool isDark : { false, true }) {
+            for (const bool hasHighContrast : { false, true }) {
+                const QPalette colors = Appearance::palette({ isDark, hasHighContrast });
+                const auto [low, high] = std::minmax(
+                    { luminance(colors.color(ink)), luminance(colors.color(ground)) });
+                QVERIFY2(high / low >= least, qPrintable(QString::number(high / low)));
+                QCOMPARE(colors.color(QPalette::Disabled, QPalette::Text),
+                    colors.color(QPalette::PlaceholderText));
+            }
+        }
     }
 
     void timeLeft_speaksWhenSteady_data()
