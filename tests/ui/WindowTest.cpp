@@ -30,7 +30,14 @@ bool WindowTest::clickCommand(QMenu *menu, const QString &title)
 void WindowTest::choose(const QString &title) const
 {
     auto *menu = find<QMenu>("formatMenu");
-    QTimer::singleShot(0, menu, [menu, title] { clickCommand(menu, title); });
+    QTimer::singleShot(0, menu, [menu, title] {
+        // It may have to be scrolled into view.
+        for (QAction *item : menu->actions()) {
+            if (item->text() == title)
+                menu->setActiveAction(item);
+        }
+        clickCommand(menu, title);
+    });
     click("convertToButton");
 }
 

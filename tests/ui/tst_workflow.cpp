@@ -9,6 +9,7 @@
 #include <QFileOpenEvent>
 #include <QMimeData>
 #include <QRegularExpression>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -92,11 +93,18 @@ private Q_SLOTS:
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(QApplication::focusWidget(), view("convertToButton"));
-        QTimer::singleShot(0, this, [this] {
-            QTest::keyClicks(find<QMenu>("formatMenu"), u"mp4 4"_s);
-            QTest::keyClick(find<QMenu>("formatMenu"), Qt::Key_Return);
+        bool isInSight = false;
+        QTimer::singleShot(0, this, [this, &isInSight] {
+            auto *menu = find<QMenu>("formatMenu");
+            const QWidget *face = view("convertToButton");
+            const QRect place(face->mapToGlobal(QPoint()), face->size());
+            isInSight = menu->screen()->geometry().contains(menu->geometry())
+                && !menu->geometry().intersects(place);
+            QTest::keyClicks(menu, u"mp4 4"_s);
+            QTest::keyClick(menu, Qt::Key_Return);
         });
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(isInSight);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
         QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));

@@ -68,12 +68,12 @@ void ConvertPopupButton::openMenu()
     const QRect face(mapToGlobal(QPoint()), size());
     const QRect area = screen()->availableGeometry();
     const QSize wanted = menu()->sizeHint();
-    const bool fitsBelow = wanted.height() <= area.bottom() - face.bottom();
-    const int height
-        = fitsBelow ? wanted.height() : std::min(wanted.height(), face.top() - area.top());
+    const int below = area.bottom() - face.bottom();
+    const int above = face.top() - area.top();
+    const int height = std::min(wanted.height(), std::max(above, below));
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     m_menuPlace = { leftToRight ? face.left() : face.right() + 1 - wanted.width(),
-        fitsBelow ? face.bottom() + 1 : face.top() - height, wanted.width(), height };
+        height <= below ? face.bottom() + 1 : face.top() - height, wanted.width(), height };
     // A menu scrolls only on a screen that is too low for it, and would rather lie over its button.
     auto *style = static_cast<MenuStyle *>(menu()->style());
     style->desktopFrame = height < wanted.height() ? (area.height() - height) / 2 : 0;
