@@ -34,7 +34,8 @@ private Q_SLOTS:
                   "[convertToButton] dragDropImageView dragFileHereLabel openFromFolderLabel "
                   "refusalLabel spinner stage timeLeftLabel" },
                 { "waiting", WindowUIState::WaitingForCover, false,
-                    "[convertToButton] spinner stage timeLeftLabel" },
+                    "[convertToButton] examiningLabel spinner stage stopExaminingButton "
+                    "timeLeftLabel" },
                 { "cover", WindowUIState::CoverIsSet, true,
                     "blackBackground convertToButton movieCoverImageView movieDurationLabel "
                     "movieNameLabel spinner stage timeLeftLabel" },

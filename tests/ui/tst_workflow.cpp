@@ -45,6 +45,8 @@ private Q_SLOTS:
         m_user.names << m_video;
         click("openFromFolderLabel");
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        m_delegate->takeFiles({ m_video });
+        QVERIFY(waitFor(WindowUIState::WaitingForCover) && waitFor(WindowUIState::CoverIsSet));
         QVERIFY(convert("reports:3000:20000"));
         m_user.saysYes = true;
         click("cancelProgressButton");
@@ -55,9 +57,9 @@ private Q_SLOTS:
         // Each comes on a connection of its own, in any order.
         const QStringList told{ u"adding_video click true"_s, u"adding_video drag true"_s,
             u"adding_video drag true"_s, u"adding_video size 0-1"_s, u"adding_video size 0-1"_s,
-            u"adding_video size 0-1"_s, u"behavior firstrun true"_s, u"convert abort true"_s,
-            u"convert convert_another true"_s, u"convert from_to mkv_MKV"_s,
-            u"convert from_to mkv_MKV"_s };
+            u"adding_video size 0-1"_s, u"adding_video size 0-1"_s, u"behavior firstrun true"_s,
+            u"convert abort true"_s, u"convert convert_another true"_s,
+            u"convert from_to mkv_MKV"_s, u"convert from_to mkv_MKV"_s };
         QTRY_COMPARE(collector.requests.size(), told.size());
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
         QStringList events;
@@ -78,11 +80,10 @@ private Q_SLOTS:
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(QApplication::focusWidget(), view("convertToButton"));
         QTimer::singleShot(0, this, [this] {
-            auto *menu = find<QMenu>("formatMenu");
-            QTest::keyClick(menu, Qt::Key_Up);
-            QTest::keyClick(menu, Qt::Key_Return);
+            QTest::keyClicks(find<QMenu>("formatMenu"), u"mp4 4"_s);
+            QTest::keyClick(find<QMenu>("formatMenu"), Qt::Key_Return);
         });
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
         QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));
@@ -90,9 +91,33 @@ private Q_SLOTS:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(view("openFromFolderLabel")->hasFocus());
-        m_user.names << m_video;
+        m_user.names << m_video << u"once more"_s;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QTest::keyClick(window, Qt::Key_T, Qt::ControlModifier);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QCOMPARE(m_delegate->resultFilePath(), path(u"once more.mp4"_s));
+        m_delegate->takeFiles({ m_video });
+        QTest::keyClick(window, Qt::Key_Escape);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QTest::keyClick(window, Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!window->isVisible());
+    }
+
+    /// Files from elsewhere are not lost while a video is converted.
+    void file_waitsForTheOneBefore()
+    {
+        QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
+        QVERIFY(convert("reports:3000:20000"));
+        m_delegate->takeFiles({ path(u"next.mov"_s) });
+        QVERIFY(view("keptLabel")->isVisible());
+        QCOMPARE(find<QLabel>("keptLabel")->text(), u"Next: “next.mov”"_s);
+        m_swap.reset();
+        m_user.saysYes = true;
+        click("cancelProgressButton");
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
+        QVERIFY(!view("keptLabel")->isVisible());
     }
 
     void file_arrivesOnEveryWay()
@@ -127,9 +152,11 @@ private Q_SLOTS:
 
     void drop_ofSomethingElseIsIgnored()
     {
-        QVERIFY(!drop({}));
-        drop({ u"http://localhost/video.mov"_s });
+        const QString link = u"http://localhost/video.mov"_s;
+        QVERIFY(!drop({}) && !drop({ link }));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(drop({ link, url(u"video.mov"_s) }));
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
     }
 
     void badFile_isRefused()
@@ -137,10 +164,7 @@ private Q_SLOTS:
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QVERIFY(open());
         // Nothing arrives while the message stands.
-        m_user.whileReading = [this] {
-            drop({ url(u"video.mov"_s) });
-            m_delegate->takeFiles({ m_video });
-        };
+        m_user.whileReading = [this] { drop({ url(u"video.mov"_s) }); };
         QVERIFY(drop({ url(u"empty.mov"_s) }));
         auto *reason = find<QLabel>("refusalLabel");
         QTRY_COMPARE(reason->text(), u"The file is empty."_s);
@@ -175,9 +199,8 @@ private Q_SLOTS:
         m_user.names << u"video.mp4"_s << u"./link.mp4"_s << u"other"_s;
         choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user.proposal, u"video 2.mp4"_s);
-        QCOMPARE(m_user.sheets, 3);
-        QCOMPARE(m_user.read.count(u"The video can't be converted into itself"_s), 2);
+        QCOMPARE(m_user.names, QStringList());
+        QCOMPARE(m_user.read, QStringList(2, u"The video can't be converted into itself"_s));
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
         QCOMPARE(QFileInfo(path(u"video.mp4"_s)).size(), size);
     }

@@ -6,6 +6,27 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QProxyStyle>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+/// Long menus scroll instead of taking columns, and typing leads to an entry.
+class MenuStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+        QStyleHintReturn *data) const override
+    {
+        if (hint == SH_Menu_Scrollable || hint == SH_Menu_KeyboardSearch)
+            return 1;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+}
 
 ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     : QPushButton(parent)
@@ -17,6 +38,46 @@ ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     m_cell.setFont(faceFont);
     setText(m_cell.title());
     setAttribute(Qt::WA_Hover);
+    // Return presses it, as it does the other buttons.
+    setAutoDefault(true);
+}
+
+void ConvertPopupButton::setMenu(QMenu *menu)
+{
+    QPushButton::setMenu(menu);
+    disconnect(this, &QPushButton::pressed, this, nullptr);
+    connect(this, &QPushButton::pressed, this, &ConvertPopupButton::openMenu);
+    auto *menuStyle = new MenuStyle(style()->name());
+    menuStyle->setParent(menu);
+    menu->setStyle(menuStyle);
+    menu->installEventFilter(this);
+}
+
+void ConvertPopupButton::openMenu()
+{
+    const QRect face(mapToGlobal(QPoint()), size());
+    const QRect area = screen()->availableGeometry();
+    const QSize wanted = menu()->sizeHint();
+    const int above = face.top() - area.top();
+    const int below = area.bottom() - face.bottom();
+    const int height = std::min(wanted.height(), std::max(above, below));
+    const bool leftToRight = layoutDirection() == Qt::LeftToRight;
+    m_menuPlace = { leftToRight ? face.left() : face.right() + 1 - wanted.width(),
+        height <= below ? face.bottom() + 1 : face.top() - height };
+    // A menu cuts off and scrolls what would stand below the screen.
+    const bool fits = height == wanted.height();
+    menu()->exec(fits ? m_menuPlace : QPoint(m_menuPlace.x(), area.bottom() - height));
+    setDown(false);
+}
+
+bool ConvertPopupButton::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == menu() && event->type() == QEvent::Show && isDown()) {
+
+        menu()->move(m_menuPlace);
+        menu()->setActiveAction(menu()->defaultAction());
+    }
+    return QPushButton::eventFilter(watched, event);
 }
 
 QSize ConvertPopupButton::sizeHint() const
@@ -43,7 +104,7 @@ QColor ConvertPopupButton::faceColor() const
     const bool pressed = isDown() || (menu() && menu()->isVisible());
     if (pressed)
         return accent.darker(118);
-    return underMouse() ? accent.lighter(108) : accent;
+    return underMouse() ? accent.darker(108) : accent;
 }
 
 void ConvertPopupButton::paintEvent(QPaintEvent *)

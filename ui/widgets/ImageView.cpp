@@ -77,7 +77,8 @@ void ImageView::paintEvent(QPaintEvent *)
 
 void ImageView::paintArtwork(QPainter &painter)
 {
-    const QSizeF size = m_artworkSize.scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
+    const QSizeF room = this->size().boundedTo(sizeHint());
+    const QSizeF size = m_artworkSize.scaled(room, Qt::KeepAspectRatio);
     const QRectF target = centred(size, rect());
     QSvgRenderer drawing(m_artwork);
     if (!m_tinted)

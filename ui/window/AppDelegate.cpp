@@ -5,17 +5,20 @@
 #include "engine/Outcome.h"
 #include "planning/VideoConstraints.h"
 #include "support/Console.h"
+#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Preferences.h"
 #include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
+#include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
 #include "ui/window/FileIntake.h"
 #include "ui/window/WindowClosing.h"
+#include "ui/window/WindowMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
@@ -83,18 +86,24 @@ AppDelegate::AppDelegate()
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
     keepPlaces(*m_outlets->dropAcceptor);
-    QSizePolicy remarksPolicy = m_outlets->remarksLabel->sizePolicy();
-    remarksPolicy.setRetainSizeWhenHidden(false);
-    m_outlets->remarksLabel->setSizePolicy(remarksPolicy);
+    for (QWidget *line : { static_cast<QWidget *>(m_outlets->remarksLabel),
+             static_cast<QWidget *>(m_outlets->keptLabel) }) {
+        QSizePolicy policy = line->sizePolicy();
+        policy.setRetainSizeWhenHidden(false);
+        line->setSizePolicy(policy);
+    }
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
     m_window.resize(
         QSize(line * 36, line * 31).boundedTo(m_window.screen()->availableSize() * 0.9));
+    m_memory = std::make_unique<WindowMemory>(m_window, *m_outlets->formatMenu);
     m_outlets->startOverButton->setMinimumSize(
         m_outlets->startOverButton->sizeHint() + QSize(line, line / 2));
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     Clickable::enable(m_outlets->openFromFolderLabel);
     Clickable::enable(m_outlets->openFolderImageView);
+    // Room for the ring around the text.
+    m_outlets->openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
     connectOutlets();
     connectMenus();
     connectWork();
@@ -121,6 +130,7 @@ void AppDelegate::setUiState(WindowUIState state)
     m_outlets->refusalLabel->setVisible(state == WindowUIState::InitialState);
     m_outlets->remarksLabel->setVisible(
         state == WindowUIState::ConversionIsDone && !m_outlets->remarksLabel->text().isEmpty());
+    showIntake();
     showStateInMenus();
     if (state != former) {
         primaryControl(*m_outlets, state)->setFocus(Qt::OtherFocusReason);
@@ -130,6 +140,23 @@ void AppDelegate::setUiState(WindowUIState state)
             this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
     }
     Q_EMIT uiStateChanged(state);
+}
+
+void AppDelegate::showIntake()
+{
+    const bool examines = m_uiState == WindowUIState::WaitingForCover;
+    m_outlets->examiningLabel->setVisible(examines);
+    m_outlets->stopExaminingButton->setVisible(examines);
+    const QString kept = Path::lastPathComponent(m_intake->keptPath());
+    m_outlets->keptLabel->setText(
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                      "name of a video that came while another one is converted"),
+            { kept }));
+    m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
+    // A result stays to be looked at until the user starts over.
+    if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
+        QMetaObject::invokeMethod(
+            m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
 }
 
 void AppDelegate::announce(QWidget *outlet) const
@@ -148,7 +175,9 @@ void AppDelegate::showStateInMenus()
     // It may stand open for the video before.
     if (!offersFormats)
         m_outlets->formatMenu->hide();
-    m_outlets->cancelAction->setEnabled(m_uiState == WindowUIState::Converting);
+    m_outlets->repeatAction->setEnabled(offersFormats && m_outlets->formatMenu->defaultAction());
+    m_outlets->cancelAction->setEnabled(
+        m_uiState == WindowUIState::Converting || m_uiState == WindowUIState::WaitingForCover);
     m_outlets->revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
     m_outlets->startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
 }
@@ -165,6 +194,8 @@ void AppDelegate::connectOutlets()
         &AppDelegate::cancelProgressPressed);
     connect(m_outlets->cancelProgressButton, &QPushButton::clicked, this,
         &AppDelegate::cancelProgressPressed);
+    connect(
+        m_outlets->stopExaminingButton, &QPushButton::clicked, m_intake.get(), &FileIntake::cancel);
     connect(m_outlets->startOverButton, &QPushButton::clicked, this,
         &AppDelegate::startOverButtonPressed);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
@@ -180,6 +211,8 @@ void AppDelegate::connectMenus()
     const Ui::MainWindow &outlets = *m_outlets;
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
+    connect(outlets.repeatAction, &QAction::triggered, this,
+        [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
     connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
     connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
     connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
@@ -187,24 +220,37 @@ void AppDelegate::connectMenus()
         outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
     connect(
         outlets.startOverAction, &QAction::triggered, this, &AppDelegate::startOverButtonPressed);
+    outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
     connect(outlets.quitAction, &QAction::triggered, &m_window, &QWidget::close);
     connect(outlets.aboutAction, &QAction::triggered, this, &AppDelegate::showAboutWindow);
 }
 
 void AppDelegate::connectWork()
 {
-    connect(m_intake.get(), &FileIntake::started, this, [this] {
+    connect(m_intake.get(), &FileIntake::started, this, [this](const QString &path) {
+        m_outlets->examiningLabel->setText(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
+                { Path::lastPathComponent(path) }));
         m_closing->stayOpen();
         m_outlets->refusalLabel->clear();
         setUiState(WindowUIState::WaitingForCover);
+    });
+    connect(m_intake.get(), &FileIntake::cancelled, this,
+        [this] { setUiState(WindowUIState::InitialState); });
+    connect(m_intake.get(), &FileIntake::kept, this, [this] {
+        showIntake();
+        announce(m_outlets->keptLabel);
     });
     connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
     connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
         failWithUnsupported();
         showRefusal(refusal);
+        showIntake();
     });
     connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
     connect(m_conversion.get(), &ConversionFlow::finished, this, [this](const Outcome &outcome) {
+        rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
+            Path::stringByDeletingLastPathComponent(resultFilePath()));
         QStringList remarks = remarksOn(outcome);
         if (!outcome.isDone())
             remarks.prepend(sentenceOf(outcome));
@@ -226,8 +272,10 @@ void AppDelegate::connectWork()
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
             showRefusal(outcome);
     });
-    connect(
-        m_conversion.get(), &ConversionFlow::ended, this, [this] { m_closing->closeIfAsked(); });
+    connect(m_conversion.get(), &ConversionFlow::ended, this, [this] {
+        m_closing->closeIfAsked();
+        showIntake();
+    });
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -300,22 +348,31 @@ void AppDelegate::showRefusal(const Outcome &refusal)
     announce(m_outlets->refusalLabel);
 }
 
-void AppDelegate::rawFormatMenuItemPressed(const QAction *item)
+void AppDelegate::rawFormatMenuItemPressed(QAction *item)
 {
+    m_chosenEntry = item;
     m_conversion->choose(videoConstraints(title(item), title(m_outlets->audioMenuItem),
         title(m_outlets->mp4LowQualityMenuItem), title(m_outlets->mp4MeduimQualityMenuItem)));
 }
 
 void AppDelegate::updateProgress(double fraction)
 {
-    if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone)
+    if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone) {
         setUiState(WindowUIState::Converting);
+        m_memory->entryWasUsed(m_chosenEntry);
+    }
     m_outlets->progressBar->setBusy(fraction < 0);
     m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
     m_status->setFraction(fraction);
 }
 
-void AppDelegate::cancelProgressPressed() { std::ignore = m_conversion->cancelIfConfirmed(); }
+void AppDelegate::cancelProgressPressed()
+{
+    if (m_uiState == WindowUIState::WaitingForCover)
+        m_intake->cancel();
+    else
+        std::ignore = m_conversion->cancelIfConfirmed();
+}
 
 void AppDelegate::startOverButtonPressed()
 {

@@ -14,6 +14,7 @@ class FileIntake;
 class QAction;
 class QMimeData;
 class WindowClosing;
+class WindowMemory;
 struct Outcome;
 
 namespace Ui {
@@ -43,7 +44,7 @@ public:
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
     /// Files from anywhere but the open panel; taken only while drops are. Only the first counts.
     void takeFiles(const QStringList &paths);
-    void rawFormatMenuItemPressed(const QAction *item);
+    void rawFormatMenuItemPressed(QAction *item);
 
 Q_SIGNALS:
     void uiStateChanged(AppDelegate::WindowUIState state);
@@ -55,6 +56,7 @@ private:
     void connectOutlets();
     void connectMenus();
     void connectWork();
+    void showIntake();
     void showStateInMenus();
     void announce(QWidget *outlet) const;
     void fileWasExamined(const QImage &cover, const QString &duration);
@@ -71,6 +73,8 @@ private:
     std::unique_ptr<FileIntake> m_intake;
     std::unique_ptr<ConversionFlow> m_conversion;
     std::unique_ptr<WindowClosing> m_closing;
+    std::unique_ptr<WindowMemory> m_memory;
+    QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;
     bool m_aboutWindowIsSet = false;
 };

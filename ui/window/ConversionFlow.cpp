@@ -34,6 +34,19 @@ bool confirmsCancel()
             "Cancel progress alert message text")));
 }
 
+bool refusesSource(const QString &destPath, const QString &source)
+{
+    if (!sourceRefusal({ .path = destPath, .sources = { source } }))
+        return false;
+    displayError(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
+            "the chosen destination is the source file")),
+        localized(QT_TRANSLATE_NOOP3("Localizable",
+            "Choose another name or another folder for the result.",
+            "the chosen destination is the source file")));
+    return true;
+}
+
 }
 
 ConversionFlow::ConversionFlow(QMainWindow &window, const FileIntake &intake)
@@ -62,22 +75,13 @@ void ConversionFlow::askForDestination(const Choice &choice)
     const QString folder = Path::stringByDeletingLastPathComponent(source);
     runSaveToSheet(
         &m_window, proposedName(source, saveFolder(folder), choice.ext), choice.ext,
-        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); },
-        folder);
+        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); }, folder,
+        [&source = m_intake.processingFilePath()](
+            const QString &destPath) { return refusesSource(destPath, source); });
 }
 
 void ConversionFlow::destinationWasChosen(const Choice &choice, const QString &destPath)
 {
-    if (sourceRefusal({ .path = destPath, .sources = { m_intake.processingFilePath() } })) {
-        displayError(
-            localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
-                "the chosen destination is the source file")),
-            localized(QT_TRANSLATE_NOOP3("Localizable",
-                "Choose another name or another folder for the result.",
-                "the chosen destination is the source file")));
-        askForDestination(choice);
-        return;
-    }
     Analytics::send(QString(), u"convert"_s, u"from_to"_s,
         QString(Path::pathExtension(destPath) + u'_' + choice.constraints.destDevice));
     startConversion(destPath, choice.constraints);

@@ -50,7 +50,7 @@ constexpr Row rows[] = {
 constexpr std::array<Outlet, 5> primaryControls{
     OUTLET(openFromFolderLabel), OUTLET(dropAcceptor), OUTLET(convertToButton), OUTLET(cancelProgressButton), OUTLET(openFolderImageView)};
 constexpr std::array<Outlet, 5> spokenOutlets{
-    OUTLET(dragFileHereLabel), OUTLET(spinner), OUTLET(movieNameLabel), OUTLET(convertingStatusLabel), OUTLET(conversionCompleteStatusLabel)};
+    OUTLET(dragFileHereLabel), OUTLET(examiningLabel), OUTLET(movieNameLabel), OUTLET(convertingStatusLabel), OUTLET(conversionCompleteStatusLabel)};
 // clang-format on
 
 #undef OUTLET
