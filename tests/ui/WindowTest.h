@@ -63,6 +63,11 @@ protected:
         return m_delegate->window()->findChild<View *>(QLatin1String(name));
     }
     [[nodiscard]] QWidget *view(const char *name) const { return find<QWidget>(name); }
+    /// A label's text, without the marks that keep each part in its own direction.
+    [[nodiscard]] QString said(const char *name) const
+    {
+        return find<QLabel>(name)->text().remove(QChar(0x2068)).remove(QChar(0x2069));
+    }
     void click(const char *name) const { QTest::mouseClick(view(name), Qt::LeftButton); }
     /// False when the open menu's command can't be clicked.
     static bool clickCommand(QMenu *menu, const QString &title);
