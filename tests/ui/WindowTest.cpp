@@ -113,7 +113,7 @@ void WindowTest::answer(QDialog *dialog)
         m_user.read << box->text();
         m_user.whileReading();
         for (QAbstractButton *button : box->buttons()) {
-            if (m_user.saysYes && button->text() == "Yes"_L1)
+            if (m_user.saysYes && box->buttonRole(button) == QMessageBox::YesRole)
                 return QTest::mouseClick(button, Qt::LeftButton);
         }
         QTest::keyClick(box, Qt::Key_Return);

@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -78,14 +79,26 @@ private Q_SLOTS:
             u"convert from_to mkv_MKV"_s, u"convert from_to mkv_MKV"_s };
         QTRY_COMPARE(collector.requests.size(), told.size());
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
+        QFile page(QStringLiteral(VC_PRIVACY_PAGE));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        QStringList rows = QString::fromUtf8(page.readAll()).split(u'\n');
+        rows = rows.filter(QRegularExpression(u"^\\| `\\w+` \\| `\\w+` \\|"_s));
         QStringList events;
+        QSet<QString> announced;
         for (const Collector::Request &request : collector.requests) {
             const QJsonObject hit = request.hit();
             const QString label = hit[u"el"_s].toVariant().toString();
             events << hit[u"ec"_s].toString() + u' ' + hit[u"ea"_s].toString() + u' ' + label;
+            const QString start
+                = u"| `%1` | `%2` |"_s.arg(hit[u"ec"_s].toString(), hit[u"ea"_s].toString());
+            const QString row = rows.filter(start).value(0);
+            QVERIFY2(row.contains(label == u"true"_s ? u"| true |"_s : u'`' + label + u'`'),
+                qPrintable(events.last()));
+            announced << row;
         }
         events.sort();
         QCOMPARE(events, told);
+        QCOMPARE(announced.size(), rows.size());
     }
 
     void keyboard_isEnough()

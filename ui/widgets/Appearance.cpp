@@ -67,8 +67,10 @@ QPalette withHighContrast(QPalette palette, bool dark)
     for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
         palette.setColor(role, ground);
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-             QPalette::PlaceholderText, QPalette::Dark })
-        palette.setColor(role, ink);
+             QPalette::PlaceholderText, QPalette::Dark }) {
+        palette.setColor(QPalette::Active, role, ink);
+        palette.setColor(QPalette::Inactive, role, ink);
+    }
     return palette;
 }
 

@@ -24,6 +24,16 @@ public:
             return 1;
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
+    int pixelMetric(
+        PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        return metric == PM_MenuDesktopFrameWidth
+            ? desktopFrame
+            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    /// What a menu leaves free of the screen, above and below.
+    int desktopFrame = 0;
 };
 
 }
@@ -58,23 +68,24 @@ void ConvertPopupButton::openMenu()
     const QRect face(mapToGlobal(QPoint()), size());
     const QRect area = screen()->availableGeometry();
     const QSize wanted = menu()->sizeHint();
-    const int above = face.top() - area.top();
-    const int below = area.bottom() - face.bottom();
-    const int height = std::min(wanted.height(), std::max(above, below));
+    const bool fitsBelow = wanted.height() <= area.bottom() - face.bottom();
+    const int height
+        = fitsBelow ? wanted.height() : std::min(wanted.height(), face.top() - area.top());
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     m_menuPlace = { leftToRight ? face.left() : face.right() + 1 - wanted.width(),
-        height <= below ? face.bottom() + 1 : face.top() - height };
-    // A menu cuts off and scrolls what would stand below the screen.
-    const bool fits = height == wanted.height();
-    menu()->exec(fits ? m_menuPlace : QPoint(m_menuPlace.x(), area.bottom() - height));
+        fitsBelow ? face.bottom() + 1 : face.top() - height, wanted.width(), height };
+    // A menu scrolls only on a screen that is too low for it, and would rather lie over its button.
+    auto *style = static_cast<MenuStyle *>(menu()->style());
+    style->desktopFrame = height < wanted.height() ? (area.height() - height) / 2 : 0;
+    menu()->exec(m_menuPlace.topLeft());
+    style->desktopFrame = 0;
     setDown(false);
 }
 
 bool ConvertPopupButton::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == menu() && event->type() == QEvent::Show && isDown()) {
-
-        menu()->move(m_menuPlace);
+        menu()->setGeometry(m_menuPlace);
         menu()->setActiveAction(menu()->defaultAction());
     }
     return QPushButton::eventFilter(watched, event);

@@ -31,5 +31,5 @@ private:
     void paintIndicator(QPainter &painter);
 
     ConvertPopupButtonCell m_cell;
-    QPoint m_menuPlace;
+    QRect m_menuPlace;
 };
