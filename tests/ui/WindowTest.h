@@ -33,6 +33,8 @@ protected:
         QStringList read;
         /// Before a message is answered.
         std::function<void()> whileReading = [] {};
+        /// Before a file dialog is answered.
+        std::function<void()> whileAnswering = [] {};
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
         /// File dialogs so far.
