@@ -70,6 +70,7 @@ Outcome Conversion::converted()
         : remedyFor(first, m_output, m_job);
     if (remedy == Remedy::None || m_progress->isCancelled())
         return placed(staged, first);
+    m_progress->setRemedy(remedy);
     Outcome second = tried(remedied(m_job, remedy), staged);
     if (kindOf(second) == OutcomeKind::Failed)
         return { Reason::StreamNotTaken };

@@ -7,6 +7,8 @@
 #include "support/dialogs/Alerts.h"
 
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +47,12 @@ SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QStri
                       "name label for save panel (<= 15 symbols)"),
             "Result filename:"));
     selectFile(m_proposed);
+}
+
+void SaveSheet::showNote(const QString &note)
+{
+    if (auto *grid = qobject_cast<QGridLayout *>(layout()); grid && !note.isEmpty())
+        grid->addWidget(new QLabel(note, this), grid->rowCount(), 0, 1, -1);
 }
 
 void SaveSheet::accept()

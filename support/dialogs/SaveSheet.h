@@ -16,6 +16,8 @@ public:
     SaveSheet(QWidget *window, const QString &folder, QString name, QString extension,
         std::function<bool(const QString &path)> refuses);
 
+    /// Below the name, unless the dialog is the desktop's own.
+    void showNote(const QString &note);
     [[nodiscard]] QString path() const { return m_path; }
     /// What a dialog of the desktop gave but the user did not want to replace. Such a dialog has
     /// closed itself and can't be shown again.

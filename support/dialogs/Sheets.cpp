@@ -24,16 +24,18 @@ QString rememberedFolder(const QString &key, const QString &otherwise)
 }
 
 void openSaveSheet(QWidget *window, const QString &folder, const QString &name, const QString &ext,
-    const std::function<void(const QString &path)> &path, const PathRefusal &refuses)
+    const std::function<void(const QString &path)> &path, const PathRefusal &refuses,
+    const QString &note)
 {
     auto *sheet = new SaveSheet(window, folder, name, ext, refuses);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->showNote(note);
     QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] { path(sheet->path()); });
     QObject::connect(sheet, &QDialog::rejected, sheet, [=] {
         const QString refused = sheet->refusedPath();
         if (!refused.isEmpty())
             openSaveSheet(window, Path::stringByDeletingLastPathComponent(refused),
-                Path::lastPathComponent(refused), ext, path, refuses);
+                Path::lastPathComponent(refused), ext, path, refuses, note);
     });
     sheet->open();
 }
@@ -64,9 +66,9 @@ void runChooseSheet(
 
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
     const std::function<void(const QString &path)> &path, const QString &startFolder,
-    const PathRefusal &refuses)
+    const PathRefusal &refuses, const QString &note)
 {
-    openSaveSheet(window, saveFolder(startFolder), filename + u'.' + ext, ext, path, refuses);
+    openSaveSheet(window, saveFolder(startFolder), filename + u'.' + ext, ext, path, refuses, note);
 }
 
 QString saveFolder(const QString &startFolder)

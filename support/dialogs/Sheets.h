@@ -18,10 +18,10 @@ using PathRefusal = std::function<bool(const QString &path)>;
 
 /// Proposes `filename` with the extension `ext` (without dot), which the answer always bears. The
 /// user has agreed to replace an existing file that is not refused. Opens in
-/// saveFolder(startFolder).
+/// saveFolder(startFolder). Where the dialog is not the desktop's own it also shows `note`.
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
     const std::function<void(const QString &path)> &path, const QString &startFolder = {},
-    const PathRefusal &refuses = {});
+    const PathRefusal &refuses = {}, const QString &note = {});
 
 /// Where the last result of a video of `startFolder` went, while that is there; else `startFolder`.
 [[nodiscard]] QString saveFolder(const QString &startFolder);

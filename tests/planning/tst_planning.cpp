@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "planning/ConversionDescriptor.h"
+#include "planning/ExpectedSize.h"
+#include "planning/PlannedWork.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -175,6 +178,95 @@ private Q_SLOTS:
         if (!isOffered)
             constraints.format = name == u"mov" ? ConversionFormat::mov : ConversionFormat::mpg;
         QTEST(planned(constraints, R"({"streams":[)" + elements + "]}"), "expected");
+    }
+
+    void work_isThatOfTheArguments()
+    {
+        using enum StreamWork;
+        const auto work = [](const QString &name, const QByteArray &elements) {
+            return plannedWork(entry(name), JSON::parse(R"({"streams":[)" + elements + "]}"));
+        };
+        const QByteArray phone = video("h264", 1080, 1920) + ',' + audio("aac", "48000", 2);
+        QVERIFY((work(u"MP4"_s, phone) == PlannedWork{ Copied, Copied }));
+        QVERIFY((work(u"FLV"_s, phone) == PlannedWork{ Copied, Encoded }));
+        QVERIFY(
+            (work(u"iPhone 6, 6s"_s, phone) == PlannedWork{ Encoded, Copied, QSize(750, 1334) }));
+        QVERIFY((work(u"MP4 HD 720"_s, video("h264", 4096, 1716))
+            == PlannedWork{ Encoded, LeftOut, QSize(1280, 536) }));
+        QVERIFY((work(u"audio"_s, phone) == PlannedWork{ LeftOut, Encoded }));
+        QVERIFY((work(u"GIF"_s, phone) == PlannedWork{ Encoded, LeftOut }));
+        QVERIFY(work(u"GIF"_s, audio("aac", "48000", 2)).isEmpty());
+        QVERIFY(!work(u"GIF"_s, phone).isCopy());
+        QVERIFY(work(u"MKV"_s, audio("aac", "48000", 2)).isCopy());
+        QVERIFY(!work(u"MKV"_s, {}).isCopy());
+        // Sides that no picture has.
+        for (const char *size : { R"("width":9223372036854775807,"height":2})",
+                 R"("width":4000,"height":-9223372036854775807})" })
+            QCOMPARE(
+                work(u"MP4 Low Quality"_s, R"({"codec_type":"video",)" + QByteArray(size)).scaledTo,
+                QSize(480, 0));
+    }
+
+    void work_agreesWithManyArguments()
+    {
+        QRandomGenerator random(25);
+        const auto any = [&random](std::initializer_list<const char *> values) {
+            return QByteArray(values.begin()[random.bounded(int(values.size()))]);
+        };
+        int copies = 0;
+        for (int count = 0; count < 200; ++count) {
+            QByteArrayList streams;
+            for (int stream = random.bounded(4); stream > 0; --stream)
+                streams << (random.bounded(2) == 0
+                        ? video(any({ "h264", "h264", "mpeg4", "vp8", "gif", "hevc", "mp3" }),
+                            random.bounded(1, 1800), random.bounded(1, 1800))
+                        : random.bounded(3) == 0
+                        ? QByteArray(R"({"codec_type":"subtitle"})")
+                        : audio(any({ "aac", "aac", "mp3", "ac3", "vorbis", "h264" }),
+                            any({ "8000", "44100", "48000" }), random.bounded(1, 7)));
+            const QByteArray info = R"({"streams":[)" + streams.join(',') + "]}";
+            for (const QString &name : entryNames()) {
+                const QString words = u' ' + planned(entry(name), info) + u' ';
+                const PlannedWork work = plannedWork(entry(name), JSON::parse(info));
+                // "-vcodec copy", "-acodec copy": what follows either word.
+                const auto follows = [&words](QChar kind, const char *encoder) {
+                    return words.contains(
+                        u" -"_s + kind + u"codec "_s + QLatin1StringView(encoder));
+                };
+                const bool namesEncoder = words.count(u"codec "_s) > words.count(u"codec copy "_s);
+                const bool expected = words.contains(u"codec copy "_s) && !namesEncoder;
+                const QByteArray where = name.toUtf8() + ' ' + info;
+                QVERIFY2(work.isCopy() == expected, where.constData());
+                QVERIFY2((work.picture == StreamWork::Copied) == follows(u'v', "copy"),
+                    where.constData());
+                QVERIFY2(
+                    (work.sound == StreamWork::Copied) == follows(u'a', "copy"), where.constData());
+                const bool isBound = words.contains(u"-vf scale=%1:"_s.arg(
+                                         work.scaledTo ? work.scaledTo->width() : -1))
+                    || words.contains(u":%1 "_s.arg(work.scaledTo ? work.scaledTo->height() : -1));
+                QVERIFY2(work.scaledTo ? isBound : !words.contains(u"scale"_s) || name == u"GIF",
+                    where.constData());
+                copies += expected;
+            }
+        }
+        QVERIFY(copies > 200);
+    }
+
+    void size_isToldWhereItIsKnown()
+    {
+        const auto size = [](const char *name, const QByteArray &elements) {
+            return expectedSize(entry(QString::fromUtf8(name)),
+                JSON::parse(R"({"streams":[)" + elements
+                    + R"(],"format":{"size":"4000","duration":"10.5"}})"))
+                .value_or(-1);
+        };
+        const QByteArray both = video("h264", 640, 360) + ',' + audio("aac", "48000", 2);
+        QCOMPARE(size("MKV", both), 4000);
+        QCOMPARE(size("MKV", both + ',' + audio("aac", "48000", 2)), -1);
+        QCOMPARE(size("AVI", both), -1);
+        QCOMPARE(size("audio", both), 168000);
+        QCOMPARE(size("audio", audio("aac", "8000", 1)), -1);
+        QCOMPARE(size("GIF", both), -1);
     }
 
     void strangeInformation_givesArguments()

@@ -102,6 +102,49 @@ private Q_SLOTS:
         settings.show();
         take(u"7-settings"_s);
     }
+
+    void outcomes()
+    {
+        const QSize screen = m_delegate->window()->screen()->size();
+        m_delegate->window()->move(
+            QRect(QPoint(), screen).center() - m_delegate->window()->rect().center());
+        Media::video(path(u"cut.mkv"_s), 12);
+        QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
+        QVERIFY(QFile::copy(m_video, path(u"result.mkv"_s)));
+        QVERIFY(drop({ url(u"cut.mkv"_s), url(u"video.mov"_s), url(u"result.mkv"_s) }));
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        take(u"3-several"_s);
+        m_user.whileAnswering = [this] { take(u"3-sheet"_s); };
+        m_user.names << u"result"_s;
+        m_user.saysYes = true;
+        choose(u"MKV"_s);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        take(u"5-short"_s);
+        m_user.whileAnswering = [] {};
+
+        Media::ffmpeg({ u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=s=321x241:d=60:r=60"_s, u"-c:v"_s,
+            u"mpeg4"_s, path(u"odd.avi"_s) });
+        QVERIFY(open(u"odd.avi"_s));
+        m_user.names << u"odd"_s;
+        choose(u"MP4"_s);
+        QVERIFY(QTest::qWaitFor([this] { return view("secondTryLabel")->isVisible(); }));
+        take(u"4-second-try"_s);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        take(u"5-repaired"_s);
+
+        QVERIFY(convert("reports:3000:100000"));
+        QTest::qWait(6000);
+        take(u"4-time-left"_s);
+        click("cancelProgressButton");
+        QVERIFY(waitFor(WindowUIState::InitialState));
+        take(u"1-cancelled"_s);
+        QVERIFY(convert("print:no luck\\n|exit:1", WindowUIState::InitialState));
+        QTRY_VERIFY(m_user.read.last().contains(u"no luck"_s));
+        take(u"6-failed"_s);
+        click("logLabel");
+        take(u"6-log"_s);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    }
 };
 
 int main(int argc, char *argv[])

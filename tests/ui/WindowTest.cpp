@@ -102,6 +102,7 @@ void WindowTest::answer(QDialog *dialog)
     if (auto *field = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)) {
         ++m_user.sheets;
         m_user.proposal = field->text();
+        m_user.whileAnswering();
         if (m_user.names.isEmpty())
             return QTest::keyClick(dialog, Qt::Key_Escape);
         if (const QString name = m_user.names.takeFirst(); !name.isEmpty()) {

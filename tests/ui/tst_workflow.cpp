@@ -26,11 +26,27 @@ private Q_SLOTS:
         QVERIFY(!find<ImageView>("movieCoverImageView")->image().isNull());
         QCOMPARE(m_delegate->selectedFileExt(), u"mov"_s);
 
+        QVERIFY2(said("factsLabel").endsWith(u" · 160 × 120 · H.264 · AAC"_s),
+            qPrintable(said("factsLabel")));
+        const std::pair<const char *, QString> entries[] = {
+            { "mKVMenuItem", u"Copies picture and sound, takes seconds"_s },
+            { "fLVMenuItem", u"Copies the picture, encodes the sound anew"_s },
+            { "webMMenuItem", u"Encodes picture and sound anew"_s },
+        };
+        for (const auto &[name, work] : entries) {
+            const auto *entry = find<QAction>(name);
+            QCOMPARE(entry->toolTip().sliced(1).chopped(1), work);
+            QCOMPARE(entry->icon().isNull(), !work.contains(u"seconds"_s));
+        }
+
         m_user.names << QString();
         choose(u"WebM"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_user.proposal, u"video.webm"_s);
         QCOMPARE(m_delegate->resultFilePath(), path(u"video.webm"_s));
+        QVERIFY2(said("resultLabel").startsWith(u"video.webm · "_s)
+                && said("resultLabel").endsWith(u" · 3s"_s),
+            qPrintable(said("resultLabel")));
         QTRY_COMPARE(Processes::children(), QStringList());
         QCOMPARE(Media::streamEntry(path(u"video.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
         QCOMPARE(m_user.read, QStringList());
@@ -109,6 +125,8 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
         QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), view("openResultButton"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(view("openFromFolderLabel")->hasFocus());
@@ -178,6 +196,34 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(drop({ link, url(u"video.mov"_s) }));
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
+    }
+
+    void severalVideos_areCounted()
+    {
+        QVERIFY(QFile::copy(m_video, path(u"it's.mov"_s)));
+        QVERIFY(drop({ url(u"video.mov"_s), url(u"it's.mov"_s) }));
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(said("leftOutLabel"), u"One video is converted at a time here. Left out: 1"_s);
+        m_delegate->window()
+            ->findChild<QMenu *>(u"formatMenu"_s)
+            ->setDefaultAction(find<QAction>("mp4LowQualityMenuItem"));
+        click("copyCommandLabel");
+        QCOMPARE(QApplication::clipboard()->text(),
+            uR"(video-converter-cli convert --to 'MP4 Low Quality' -j 0 -d %1 -- %1/video.mov '%1/it'\''s.mov')"_s
+                .arg(m_folder->path()));
+        QVERIFY(open());
+        QVERIFY(view("leftOutLabel")->isHidden() && view("copyCommandLabel")->isHidden());
+    }
+
+    void sourceWithoutSound_becomesNoAudio()
+    {
+        Media::ffmpeg({ u"-i"_s, m_video, u"-c"_s, u"copy"_s, u"-an"_s, path(u"silent.mov"_s) });
+        QVERIFY(open(u"silent.mov"_s));
+        const auto *audio = find<QAction>("audioMenuItem");
+        QVERIFY(!audio->isEnabled() && find<QAction>("mKVMenuItem")->isEnabled());
+        QCOMPARE(audio->toolTip(), u"The video has no sound"_s);
+        QVERIFY(open());
+        QVERIFY(audio->isEnabled());
     }
 
     void badFile_isRefused()

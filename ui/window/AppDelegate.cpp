@@ -17,6 +17,9 @@
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
 #include "ui/window/FileIntake.h"
+#include "ui/window/FormatEntries.h"
+#include "ui/window/StateNotes.h"
+#include "ui/window/VideoWords.h"
 #include "ui/window/WindowClosing.h"
 #include "ui/window/WindowMemory.h"
 #include "ui_MainWindow.h"
@@ -37,9 +40,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto fileNamesType = "text/uri-list"_L1;
-
-/// Some desktops mark a letter of a menu item as its key.
-QString title(const QAction *item) { return item->text().remove(u'&'); }
 
 /// What is hidden keeps its place, so that nothing jumps when the state changes.
 void keepPlaces(const QWidget &area)
@@ -81,7 +81,7 @@ AppDelegate::AppDelegate()
     Q_INIT_RESOURCE(artwork);
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
-    m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->timeLeftLabel);
+    m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
@@ -104,6 +104,7 @@ AppDelegate::AppDelegate()
     Clickable::enable(m_outlets->openFolderImageView);
     // Room for the ring around the text.
     m_outlets->openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
+    m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
     connectOutlets();
     connectMenus();
     connectWork();
@@ -127,9 +128,7 @@ void AppDelegate::setUiState(WindowUIState state)
     m_uiState = state;
     applyWindowUIState(*m_outlets, state);
     m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
-    m_outlets->refusalLabel->setVisible(state == WindowUIState::InitialState);
-    m_outlets->remarksLabel->setVisible(
-        state == WindowUIState::ConversionIsDone && !m_outlets->remarksLabel->text().isEmpty());
+    m_notes->stateChanged(state);
     showIntake();
     showStateInMenus();
     if (state != former) {
@@ -232,7 +231,6 @@ void AppDelegate::connectWork()
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
                 { Path::lastPathComponent(path) }));
         m_closing->stayOpen();
-        m_outlets->refusalLabel->clear();
         setUiState(WindowUIState::WaitingForCover);
     });
     connect(m_intake.get(), &FileIntake::cancelled, this,
@@ -247,16 +245,14 @@ void AppDelegate::connectWork()
         showRefusal(refusal);
         showIntake();
     });
+    connect(m_conversion.get(), &ConversionFlow::workChanged, m_status.get(),
+        [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
     connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
-    connect(m_conversion.get(), &ConversionFlow::finished, this, [this](const Outcome &outcome) {
+    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
             Path::stringByDeletingLastPathComponent(resultFilePath()));
-        QStringList remarks = remarksOn(outcome);
-        if (!outcome.isDone())
-            remarks.prepend(sentenceOf(outcome));
-        m_outlets->remarksLabel->setText(remarks.join(u'\n'));
         setUiState(WindowUIState::ConversionIsDone);
-        if (!remarks.isEmpty())
+        if (!m_outlets->remarksLabel->text().isEmpty())
             announce(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
@@ -345,17 +341,17 @@ void AppDelegate::showRefusal(const Outcome &refusal)
     if (m_uiState != WindowUIState::InitialState)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
+    m_notes->stateChanged(m_uiState);
     announce(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)
 {
     m_chosenEntry = item;
-    m_conversion->choose(videoConstraints(title(item), title(m_outlets->audioMenuItem),
-        title(m_outlets->mp4LowQualityMenuItem), title(m_outlets->mp4MeduimQualityMenuItem)));
+    m_conversion->choose(FormatEntries::constraintsOf(*m_outlets, item));
 }
 
-void AppDelegate::updateProgress(double fraction)
+void AppDelegate::updateProgress(double fraction, qint64 seconds)
 {
     if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone) {
         setUiState(WindowUIState::Converting);
@@ -363,7 +359,7 @@ void AppDelegate::updateProgress(double fraction)
     }
     m_outlets->progressBar->setBusy(fraction < 0);
     m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
-    m_status->setFraction(fraction);
+    m_status->setProgress(fraction, seconds);
 }
 
 void AppDelegate::cancelProgressPressed()

@@ -13,6 +13,7 @@ class ConversionStatus;
 class FileIntake;
 class QAction;
 class QMimeData;
+class StateNotes;
 class WindowClosing;
 class WindowMemory;
 struct Outcome;
@@ -62,7 +63,7 @@ private:
     void fileWasExamined(const QImage &cover, const QString &duration);
     void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
-    void updateProgress(double fraction);
+    void updateProgress(double fraction, qint64 seconds);
     void cancelProgressPressed();
     void startOverButtonPressed();
     void showAboutWindow();
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<ConversionFlow> m_conversion;
     std::unique_ptr<WindowClosing> m_closing;
     std::unique_ptr<WindowMemory> m_memory;
+    std::unique_ptr<StateNotes> m_notes;
     QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;
     bool m_aboutWindowIsSet = false;

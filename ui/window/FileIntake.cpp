@@ -29,8 +29,11 @@ void FileIntake::takeFiles(const QStringList &paths)
     if (paths.isEmpty())
         return;
     m_kept.clear();
-    if (isReady())
-        return processFile(paths.constFirst());
+    if (isReady()) {
+        processFile(paths.constFirst());
+        m_leftOut = paths.sliced(1);
+        return;
+    }
     m_kept = paths.constFirst();
     Q_EMIT kept(m_kept);
 }
@@ -67,6 +70,7 @@ void FileIntake::buttonPress()
 void FileIntake::processFile(const QString &path)
 {
     m_kept.clear();
+    m_leftOut.clear();
     Q_EMIT started(path);
     const QPointer<FileIntake> self(this);
     const auto isCurrent = [self, count = ++m_count] { return self && self->m_count == count; };
@@ -82,8 +86,16 @@ void FileIntake::processFile(const QString &path)
             self->m_processingInfo = json;
             self->m_processingFilePath = path;
             self->m_selectedFileExt = Path::pathExtension(path);
+            self->m_cover = cover;
+            self->m_duration = duration;
             Q_EMIT self->examined(cover, duration);
         });
+}
+
+void FileIntake::takeAgain()
+{
+    if (isReady() && m_processingInfo)
+        Q_EMIT examined(m_cover, m_duration);
 }
 
 void FileIntake::cancel()

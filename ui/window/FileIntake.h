@@ -31,6 +31,8 @@ public:
     void paste();
     void buttonPress();
     void processFile(const QString &path);
+    /// Takes the file that was examined last without examining it again.
+    void takeAgain();
     /// No answer comes about the file that is being examined.
     void cancel();
 
@@ -38,6 +40,9 @@ public:
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
     [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
     [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
+
+    /// What came together with that file.
+    [[nodiscard]] const QStringList &leftOut() const { return m_leftOut; }
 
 Q_SIGNALS:
     void started(const QString &path);
@@ -55,6 +60,9 @@ private:
     QString m_processingFilePath;
     QString m_selectedFileExt;
     std::optional<JSON> m_processingInfo;
+    QStringList m_leftOut;
+    QImage m_cover;
+    QString m_duration;
     /// Also tells an answer about an earlier file from the current one.
     int m_count = 0;
 };
