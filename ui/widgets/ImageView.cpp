@@ -36,7 +36,7 @@ void ImageView::setImage(const QImage &image)
 void ImageView::setArtwork(const QString &resource)
 {
     m_artwork = resource;
-    m_artworkSize = QSvgRenderer(resource).defaultSize();
+    m_artworkSize = resource.isEmpty() ? QSizeF() : QSvgRenderer(resource).defaultSize();
     updateGeometry();
     update();
 }
