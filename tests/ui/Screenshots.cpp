@@ -108,7 +108,7 @@ private Q_SLOTS:
         const QSize screen = m_delegate->window()->screen()->size();
         m_delegate->window()->move(
             QRect(QPoint(), screen).center() - m_delegate->window()->rect().center());
-        Media::video(path(u"cut.mkv"_s), 12);
+        Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
         QVERIFY(QFile::copy(m_video, path(u"result.mkv"_s)));
         QVERIFY(drop({ url(u"cut.mkv"_s), url(u"video.mov"_s), url(u"result.mkv"_s) }));

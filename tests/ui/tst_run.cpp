@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(said("secondTryLabel"),
             u"The first try could not work, so this is a second one in another way."_s);
 
-        Media::video(path(u"cut.mkv"_s), 12);
+        Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
         QVERIFY(QFile::rename(path(u"result.mp4"_s), path(u"result.mkv"_s)));
         m_user.saysYes = true;

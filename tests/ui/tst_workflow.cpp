@@ -5,6 +5,7 @@
 #include "tests/ui/WindowTest.h"
 #include "ui/widgets/ImageView.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMimeData>
@@ -34,8 +35,11 @@ private Q_SLOTS:
             { "webMMenuItem", u"Encodes picture and sound anew"_s },
         };
         for (const auto &[name, work] : entries) {
-            const auto *entry = find<QAction>(name);
-            QCOMPARE(entry->toolTip().sliced(1).chopped(1), work);
+            auto *entry = find<QAction>(name);
+            auto *menu = QAccessible::queryAccessibleInterface(find<QMenu>("formatMenu"));
+            auto *read = menu->child(int(find<QMenu>("formatMenu")->actions().indexOf(entry)));
+            QCOMPARE(read->text(QAccessible::Name), entry->text());
+            QCOMPARE(read->text(QAccessible::Description).sliced(1).chopped(1), work);
             QCOMPARE(entry->icon().isNull(), !work.contains(u"seconds"_s));
         }
 

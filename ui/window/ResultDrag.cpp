@@ -55,8 +55,9 @@ void ResultDrag::drag()
     if (!m_picture->image().isNull())
         drag->setPixmap(QPixmap::fromImage(m_picture->image().scaledToHeight(
             m_picture->fontMetrics().height() * thumbnailLines, Qt::SmoothTransformation)));
-    const bool tookDrops = allowDragDrop(m_dropTarget);
     setAllowDragDrop(m_dropTarget, false);
     drag->exec(Qt::CopyAction);
-    setAllowDragDrop(m_dropTarget, tookDrops);
+    // Otherwise another file has come meanwhile, and its state has decided.
+    if (!m_path.isEmpty())
+        setAllowDragDrop(m_dropTarget, true);
 }

@@ -2,6 +2,7 @@
 #include "ui/window/StateNotes.h"
 
 #include "engine/Outcome.h"
+#include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
 #include "support/DurationInfo.h"
 #include "support/Format.h"
@@ -10,6 +11,7 @@
 #include "support/dialogs/Sheets.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
+#include "ui/window/EntryInterface.h"
 #include "ui/window/FileIntake.h"
 #include "ui/window/FormatEntries.h"
 #include "ui/window/VideoWords.h"
@@ -17,6 +19,7 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 
@@ -28,6 +31,7 @@ StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFl
     , m_conversion(conversion)
     , m_drag(outlets.movieCoverImageView, outlets.dropAcceptor)
 {
+    EntryInterface::describe(*m_outlets.formatMenu);
     dress();
     connectControls();
     connectWork();
@@ -86,6 +90,10 @@ void StateNotes::videoWasExamined()
     clearFailure();
     const JSON &info = *m_intake.processingInfo();
     FormatEntries::mark(m_outlets, info);
+    // The note stands for sound only, not for a picture that can't be had.
+    const ConversionDescriptor descriptor = conversionDescriptor(ConversionFormat::mp4);
+    m_outlets.movieCoverImageView->setArtwork(
+        descriptor.videoStream(info) ? QString() : u":/artwork/note.svg"_s);
     const QString facts = VideoWords::factsOf(info);
     m_outlets.factsLabel->setText(facts);
     m_outlets.factsLabel->setToolTip(facts);
@@ -171,9 +179,11 @@ void StateNotes::showLog()
         QString::fromUtf8(m_conversion.lastToolOutput()).replace(u'\r', u'\n'), dialog);
     text->setReadOnly(true);
     text->setLayoutDirection(Qt::LeftToRight);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto *layout = new QVBoxLayout(dialog);
-    layout->setContentsMargins({});
     layout->addWidget(text);
+    layout->addWidget(buttons);
     dialog->resize(dialog->parentWidget()->size());
     dialog->open();
 }
