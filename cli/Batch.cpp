@@ -143,7 +143,9 @@ void Batch::examine(std::size_t index)
         input.path,
         [this, index](const Outcome &refusal) {
             --m_examining;
-            settle(index, Interruption::signal() != 0 ? Outcome{ Reason::Cancelled } : refusal);
+            // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
+            if (Interruption::signal() == 0)
+                settle(index, refusal);
             goOn();
         },
         [this, index](const JSON &info, const QImage &, const QString &) {
