@@ -88,6 +88,8 @@ void makeSizeEven(ConversionJob &job)
         return;
     const qint64 longest
         = std::max(picture->item[u"width"_s].intValue(), picture->item[u"height"_s].intValue());
+    if (longest < 2)
+        return;
     const qint64 even = (longest - 1) / 2 * 2;
     job.constraints.dimension
         = VideoDimensionsConstraints::maximum({ .width = even, .height = even });
