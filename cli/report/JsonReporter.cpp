@@ -29,8 +29,11 @@ QJsonObject withRemarks(QJsonObject object, const Outcome &outcome)
     // In the order of the remedies.
     constexpr std::array remedies{ ""_L1, "cover-left-out"_L1, "size-made-even"_L1,
         "sound-encoded"_L1, "picture-encoded"_L1 };
-    if (outcome.remedy != Remedy::None)
-        object[u"remedy"_s] = remedies.at(static_cast<std::size_t>(outcome.remedy));
+    QStringList names;
+    for (const Remedy remedy : outcome.remedies)
+        names << remedies.at(static_cast<std::size_t>(remedy));
+    if (!names.isEmpty())
+        object[u"remedy"_s] = names.join(u' ');
     if (outcome.damagedPlaces > 0)
         object[u"damage"_s] = QJsonObject{ { u"places"_s, outcome.damagedPlaces },
             { u"first"_s, valueOrNull(outcome.firstDamage) } };

@@ -196,6 +196,7 @@ private Q_SLOTS:
         QTRY_VERIFY(progress->isEnded());
         QCOMPARE(progress->outcome().reason, Reason::DestinationExists);
         QCOMPARE(read(u"out.mkv"_s), "somebody's");
+        QTRY_COMPARE(m_errors.size(), 1);
     }
 
     void missingTool_looksCancelled()
