@@ -130,8 +130,8 @@ Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) cons
 {
     const RunReport report = reportOf(m_output, { job.path, job.destPath });
     Lengths expected = expectedOf(job);
-    expected.isGuessed = report.lengthIsGuessed;
     const SourceData data = dataOf(job.path);
+    expected.isGuessed = report.lengthIsGuessed && data.claim <= 1;
     for (std::optional<double> *length : { &expected.picture, &expected.sound }) {
         if (*length)
             **length *= data.claim;
@@ -141,12 +141,13 @@ Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) cons
     Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
     if (outcome.isDone() && (copiesHole || isInDoubt(run, report, expected))) {
         const auto lengths
-            = measured(job.destPath, copiesHole ? Reading::Frames : Reading::Packets);
+            = measured(job.destPath, *m_progress, copiesHole ? Reading::Frames : Reading::Packets);
         outcome = lengths ? judged(*lengths, expected) : run;
         const bool hangsOnSource
             = expected.isOfAllStreams || outcome.reason == Reason::PictureMissing;
-        const auto source
-            = lengths && !outcome.isDone() && hangsOnSource ? measured(job.path) : std::nullopt;
+        const auto source = lengths && !outcome.isDone() && hangsOnSource
+            ? measured(job.path, *m_progress)
+            : std::nullopt;
         if (source)
             outcome = judged(*lengths, corrected(expected, *source));
     }

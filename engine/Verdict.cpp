@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Verdict.h"
 
+#include "engine/Progress.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
@@ -146,11 +147,13 @@ SourceData dataOf(const QString &path)
         if (claimed < 0x7fffff00 && claimed + 8.0 > size)
             data.claim = (claimed + 8.0) / size;
     }
+    // One place may be silence between pictures; so many in a row are nothing at all.
     constexpr int places = 64;
-    for (int place = 1; place < places && !data.hasHole; ++place) {
+    for (int place = 1, run = 0; place < places; ++place) {
         file.seek(file.size() / places * place);
         const QByteArray sample = file.read(512);
-        data.hasHole = sample.size() == 512 && sample.count('\0') == 512;
+        run = sample.count('\0') == 512 ? run + 1 : 0;
+        data.hasHole |= run >= 4;
     }
     return data;
 }
@@ -201,7 +204,7 @@ Lengths PacketReader::lengths() const
     return lengths;
 }
 
-std::optional<Lengths> measured(const QString &path, Reading reading)
+std::optional<Lengths> measured(const QString &path, const Progress &job, Reading reading)
 {
     const QString entries = reading == Reading::Packets
         ? u"packet=codec_type,stream_index,pts_time,dts_time,duration_time"_s
@@ -214,11 +217,11 @@ std::optional<Lengths> measured(const QString &path, Reading reading)
     if (!task.tryLaunch())
         return std::nullopt;
     PacketReader reader;
-    while (task.isRunning() && !task.isSilentForTooLong())
+    while (task.isRunning() && !task.isSilentForTooLong() && !job.isCancelled())
         reader.append(task.availableData());
-    const bool wasSilent = task.isRunning();
+    const bool wasStopped = task.isRunning();
     task.terminate();
-    return wasSilent ? std::nullopt : std::optional(reader.lengths());
+    return wasStopped ? std::nullopt : std::optional(reader.lengths());
 }
 
 Outcome judged(const Lengths &result, const Lengths &expected)

@@ -38,7 +38,7 @@ struct Lengths {
 struct SourceData {
     /// The size that it claims to have, by the one it has; 1 where it claims no more.
     double claim = 1;
-    /// Some places were never written, as in a download that broke off.
+    /// A part was never written, as in a download that broke off.
     bool hasHole = false;
 };
 [[nodiscard]] SourceData dataOf(const QString &path);
@@ -67,11 +67,11 @@ private:
 };
 
 /// Reads a file packet by packet with the tool; what it can't read has no length. Thread: a run's
-/// own; blocks. Errors: absent when the tool can't be run.
+/// own; blocks. Errors: absent when the tool can't be run, or the job is cancelled.
 /// Frames have to be decoded, which takes long.
 enum class Reading { Packets, Frames };
 [[nodiscard]] std::optional<Lengths> measured(
-    const QString &path, Reading reading = Reading::Packets);
+    const QString &path, const Progress &job, Reading reading = Reading::Packets);
 
 /// Done, or what is missing. Thread: any.
 [[nodiscard]] Outcome judged(const Lengths &result, const Lengths &expected);
