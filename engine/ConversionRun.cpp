@@ -3,6 +3,7 @@
 
 #include "engine/Async.h"
 #include "engine/Destination.h"
+#include "engine/MovieProbe.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
@@ -13,7 +14,6 @@
 #include "support/Text.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstdlib>
 
@@ -67,7 +67,9 @@ bool ConversionRun::launch(Task &task)
 {
     task.setLaunchPath(toolPath(Tool::Ffmpeg));
     task.setArguments(conversionArguments(m_job));
-    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
+    // The tool may write this file, but create none.
+    QFile(m_job.destPath).open(QIODevice::ReadWrite);
+    task.setAccess({ MovieProbe::readPaths(m_job.path), { m_job.destPath } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;

@@ -48,6 +48,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::FolderNotWritable, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's folder may not be written to.", "Why a conversion's result can't be written") },
 
     { Reason::ToolMissing, ToolMissing, QT_TRANSLATE_NOOP3("Localizable", "The tool %@ is missing or can't be run.", "Path of a program") },
+    { Reason::ToolUnusable, ToolMissing, QT_TRANSLATE_NOOP3("Localizable", "The tool can't examine videos: %@", "Why no video can be converted; the tool's own words follow") },
     { Reason::ToolFailed, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool failed: %@", "Why a conversion failed; the tool's own words follow") },
     { Reason::ToolKilled, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool was killed before it was done.", "Why a conversion failed") },
     { Reason::ToolSilent, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool was silent for too long and was stopped.", "Why a conversion failed") },
@@ -63,6 +64,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::NameTooLong, Failed, QT_TRANSLATE_NOOP3("Localizable", "The destination's name is too long.", "Why a conversion failed") },
     { Reason::DiskError, Failed, QT_TRANSLATE_NOOP3("Localizable", "A disk reported an error.", "Why a conversion failed") },
     { Reason::NoMemory, Failed, QT_TRANSLATE_NOOP3("Localizable", "There was not enough memory.", "Why a conversion failed") },
+    { Reason::LimitMet, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool needed more memory, threads or files than any video should.", "Why a conversion failed") },
     { Reason::NothingToConvert, Failed, QT_TRANSLATE_NOOP3("Localizable", "The video contains nothing that this output can hold.", "Why a conversion failed") },
     { Reason::StreamNotTaken, Failed, QT_TRANSLATE_NOOP3("Localizable", "The encoder can't handle this video's picture or sound.", "Why a conversion failed") },
     { Reason::DamagedData, Failed, QT_TRANSLATE_NOOP3("Localizable", "The video's data is damaged.", "Why a conversion failed") },

@@ -34,6 +34,7 @@ enum class Reason {
     FolderNotWritable,
     // The tool
     ToolMissing,
+    ToolUnusable,
     ToolFailed,
     ToolKilled,
     ToolSilent,
@@ -49,6 +50,7 @@ enum class Reason {
     NameTooLong,
     DiskError,
     NoMemory,
+    LimitMet,
     NothingToConvert,
     StreamNotTaken,
     DamagedData,

@@ -234,13 +234,14 @@ private Q_SLOTS:
     {
         addRows<QByteArray, bool>({ "entry", "isOne" },
             {
-                { "staged file", "/a b/.video-converter-01abcdef.mp4", true },
-                { "line break", "/a\nb/.video-converter-01abcdef.mp4", true },
+                { "staged file", "/a b/.video-converter-01abcd.mp4", true },
+                { "line break", "/a\nb/.video-converter-01abcd.mp4", true },
                 { "somebody's file", "/home/diary.txt", false },
-                { "relative", ".video-converter-01abcdef.mp4", false },
-                { "folder behind", "/a/.video-converter-01abcdef.mp4/b", false },
-                { "zero byte", QByteArray("/a\0/.video-converter-01abcdef.mp4", 34), false },
-                { "no text", "/\xff/.video-converter-01abcdef.mp4", false },
+                { "no extension", "/a/.video-converter-01abcd", true },
+                { "relative", ".video-converter-01abcd.mp4", false },
+                { "folder behind", "/a/.video-converter-01abcd.mp4/b", false },
+                { "zero byte", QByteArray("/a\0/.video-converter-01abcd.mp4", 32), false },
+                { "no text", "/\xff/.video-converter-01abcd.mp4", false },
             });
     }
     void entry_namesAStagedFile()
