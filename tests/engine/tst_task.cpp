@@ -102,6 +102,13 @@ private Q_SLOTS:
     {
         Task::setSilenceLimit(1s);
         QVERIFY(outputOf("print:hello|forever").startsWith("hello="));
+        // One that works is left alone.
+        QCOMPARE(outputOf("busy:3000|print:done"), "done=0");
+        const QTemporaryDir folder;
+        const QString result = folder.filePath(u"result"_s);
+        QVERIFY(QFile(result).open(QIODevice::WriteOnly));
+        QCOMPARE(
+            outputOf("grow:3000:" + result.toUtf8() + "|print:done", { {}, { result } }), "done=0");
         Task::setSilenceLimit(300s);
         const qsizetype flood = outputOf("flood:100000000000").size();
         QVERIFY2(flood > 60'000'000 && flood < 80'000'000, qPrintable(QString::number(flood)));
