@@ -80,7 +80,9 @@ QStringList readPaths(const QString &path)
 
 JSON description(const QByteArray &output)
 {
-    for (qsizetype start = 0; (start = output.indexOf('{', start)) >= 0; ++start) {
+    constexpr int mostBraces = 20;
+    qsizetype start = output.indexOf('{');
+    for (int i = 0; start >= 0 && i < mostBraces; ++i, start = output.indexOf('{', start + 1)) {
         const JSON info = JSON::parse(output.sliced(start, output.lastIndexOf('}') + 1 - start));
         if (!info.value().isNull())
             return info;

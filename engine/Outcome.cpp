@@ -38,6 +38,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
 
     { Reason::DestinationExists, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination exists already; --overwrite replaces it.", "Why a conversion's result can't be written") },
     { Reason::DestinationNotWritable, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.", "Why a conversion's result can't be written") },
+    { Reason::DestinationNameNotText, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's name can't be represented as text. Please choose another one.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsFolder, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.", "Why a conversion's result can't be written") },
     { Reason::DestinationLeadsNowhere, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a link that leads nowhere.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsDevice, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.", "Why a conversion's result can't be written") },

@@ -24,6 +24,7 @@ enum class Reason {
     // The destination
     DestinationExists,
     DestinationNotWritable,
+    DestinationNameNotText,
     DestinationIsFolder,
     DestinationLeadsNowhere,
     DestinationIsDevice,

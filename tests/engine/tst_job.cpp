@@ -181,7 +181,14 @@ private Q_SLOTS:
     {
         write(u"out-target"_s, "older");
         QVERIFY(QFile::link(u"out-target"_s, path(u"out.mkv"_s)));
-        QCOMPARE(done(job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s)), Outcome{});
+        const ConversionJob request = job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s);
+        {
+            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
+            QCOMPARE(kindOf(done(request)), OutcomeKind::Failed);
+            QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
+            QCOMPARE(read(u"out-target"_s), "older");
+        }
+        QCOMPARE(done(request), Outcome{});
         QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
         QVERIFY(read(u"out-target"_s).size() > 1000);
     }
