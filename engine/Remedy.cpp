@@ -24,9 +24,11 @@ struct CauseRow {
 constexpr std::array causeRows{
     CauseRow{ u"(?:width|height) not divisible by 2", Remedy::SizeMadeEven },
     CauseRow{ u"sample rate \\d+ is not supported|does not support sample rate"
+              u"|[Uu]nsupported channel layout|dts to muxer in stream 1"
               u"|[Ii]nvalid sample rate|[Uu]nsupported sample rate|\\[libvorbis @.*failed",
         Remedy::SoundEncoded },
-    CauseRow{ u"unknown timestamp|missing PTS|pts has no value|first pts value must be set"
+    CauseRow{ u"unknown timestamp|non monotonically increasing dts|missing PTS|pts has no "
+              u"value|first pts value must be set"
               u"|[Nn]ot currently supported in container|incompatible with output codec id"
               u"|bitstream malformed|is not compatible with",
         Remedy::PictureEncoded },
@@ -99,6 +101,9 @@ void makeRateUsual(ConversionJob &job)
     editStreams(job, [](QJsonObject &stream, qsizetype) {
         if (stream[u"codec_type"_s] == u"audio"_s)
             stream[u"sample_rate"_s] = u"48000"_s;
+        // No output holds more than eight channels.
+        if (stream[u"channels"_s].toInt() > 8)
+            stream[u"channels"_s] = 2;
     });
 }
 
