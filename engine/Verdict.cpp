@@ -146,13 +146,16 @@ SourceData dataOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     SourceData data;
-    const QByteArray head = file.read(8);
+    const QByteArray head = file.read(4096);
     const auto size = static_cast<double>(file.size());
-    if (head.size() == 8 && head.startsWith("RIFF")) {
-        const auto claimed = qFromLittleEndian<quint32>(head.constData() + 4);
+    for (const char *chunk : { "RIFF", "data" }) {
+        const qsizetype start = head.startsWith("RIFF") ? head.indexOf(chunk) + 4 : -1;
+        if (start < 4 || start + 4 > head.size())
+            break;
+        const auto claimed = qFromLittleEndian<quint32>(head.constData() + start);
         // The largest numbers are left by a program that did not know the size beforehand.
-        if (claimed < 0x7fffff00 && claimed + 8.0 > size)
-            data.claim = (claimed + 8.0) / size;
+        if (claimed < 0x7fffff00)
+            data.claim = std::max(data.claim, static_cast<double>(claimed) / size);
     }
     // One place may be silence between pictures; so many in a row are nothing at all.
     constexpr int places = 64;
