@@ -49,7 +49,8 @@ QStringList namesNear(const QString &text)
     QStringList sought{ text };
     for (const QString &word : QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' '))
         sought << word;
-    sought << text.first(std::min<qsizetype>(text.size(), 3));
+    for (const qsizetype length : { 3, 2 })
+        sought << text.first(std::min(text.size(), length));
     for (const QString &part : sought) {
         const QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
