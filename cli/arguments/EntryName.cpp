@@ -49,14 +49,17 @@ QStringList namesNear(const QString &text)
     QStringList sought{ text };
     for (const QString &word : QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' '))
         sought << word;
-    for (const qsizetype length : { 3, 2 })
-        sought << text.first(std::min(text.size(), length));
+    sought << text.first(std::min<qsizetype>(text.size(), 3));
     for (const QString &part : sought) {
         const QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
     }
-    return {};
+    QStringList near = entryNames();
+    near.removeIf([&](const QString &name) {
+        return text.size() < 2 || !name.startsWith(text.first(2), Qt::CaseInsensitive);
+    });
+    return near;
 }
 
 bool promisesOtherFormat(const QString &path, const VideoConstraints &entry)

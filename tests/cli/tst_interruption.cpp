@@ -91,14 +91,17 @@ private Q_SLOTS:
     void signal_endsTheWholeList()
     {
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|forever");
-        const auto process
-            = m_command.start(u"convert --to MKV video.mp4 second.mp4 -d . --json"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(files().size() == 2, 10'000);
+        m_command.prepare(u"cp video.mp4 second.mp4; cp video.mp4 third.mp4"_s);
+        const auto process = m_command.start(
+            u"convert --to MKV video.mp4 second.mp4 third.mp4 -d . -j 2 --json"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(files().size(), 5, 10'000);
         send(SIGTERM, process->processId());
         const Finished stopped = Command::wait(*process);
         QCOMPARE(stopped.exitCode, 143);
-        QVERIFY2(stopped.out.contains(u"\"cancelled\""_s), qPrintable(stopped.out));
-        QVERIFY2(!stopped.out.contains(u"second.mp4"_s), qPrintable(stopped.out));
+        QCOMPARE(stopped.out.count(u"\"cancelled\",\"input\""_s), 2);
+        QVERIFY2(!stopped.out.contains(u"third.mp4"_s), qPrintable(stopped.out));
+        QVERIFY(QFile::remove(m_command.path(u"second.mp4"_s)));
+        QVERIFY(QFile::remove(m_command.path(u"third.mp4"_s)));
     }
 
     void readerThatGoes_cancels()

@@ -4,6 +4,9 @@
 #include "cli/report/ShownText.h"
 #include "tests/fixtures/Rows.h"
 
+#include <QRegularExpression>
+#include <QSet>
+
 #include <clocale>
 
 using namespace Qt::StringLiterals;
@@ -39,16 +42,22 @@ private Q_SLOTS:
                 { "", usage, "Usage" },
                 { "burn a.mov", usage, "no command named \"burn\"" },
                 { "convert --to MP4 -o b -i.mov", usage, "Unknown option" },
-                { "probe", usage, "exactly one" },
+                { "probe", usage, "needs a file" },
                 { "probe a --overwrite", usage, "'probe' does not take --overwrite" },
-                { "plan --to MP4", usage, "either" },
-                { "plan --to MP4 a b --info c", usage, "either" },
+                { "plan --to MP4", usage, "'plan' takes" },
+                { "plan --to MP4 a b --info c", usage, "'plan' takes" },
                 { "convert --to MP4 -o b", usage, "no video" },
                 { "convert --to MP4 a", usage, "--output or --folder" },
                 { "convert --to MP4 a -o b -d c", usage, "--output or --folder" },
                 { "convert --to MP4 a b -o c", usage, "use --folder" },
                 { "convert --to MP4 --to AVI a -o b", usage, "--to needs one value" },
-                { "convert --to mp4_hd_720 a -o b", usage, "did you mean \"MP4 HD 720\"" },
+                { "convert --to mp4_hd_72 a -o b", usage, "\"MP4 HD 720\"" },
+                { "convert --to MP5 a -o b", usage, "did you mean \"MP4\"" },
+                { "convert --to MP4 a -o clip.avi", usage, "\"clip.avi\" is no name for \"MP4\"" },
+                { "convert --to MP4 -r a -o b", usage, "use --folder" },
+                { "convert --to MP4 a -d b --overwrite --skip-existing", usage, "exclude" },
+                { "convert --to MP4 a -d b -j x", usage, "--jobs takes" },
+                { "convert --to MP4 a -d b --shard 3/2", usage, "--shard two" },
                 { "convert --to all a -o b", usage, "'formats' lists" },
                 { "-h", done, "Exit status" },
                 { "--help plan", done, "--info" },
@@ -80,6 +89,47 @@ private Q_SLOTS:
             for (const bool option : { line->json, line->verbose, line->overwrite })
                 QCOMPARE(option, words.startsWith(u"--json"_s));
         }
+    }
+
+    void entry_isKnownByExtension()
+    {
+        for (const auto &[text, name] : { std::pair("mkv", "MKV"), std::pair("Mp3", "audio"),
+                 std::pair("mp4", "MP4"), std::pair("AUDIO", "audio"), std::pair("gif", "GIF") }) {
+            const auto result = parsed(u"convert -d . a --to "_s + QLatin1StringView(text));
+            const auto *line = std::get_if<CommandLine>(&result);
+            QVERIFY2(line, text);
+            QCOMPARE(line->entries.front().destDevice, QLatin1StringView(name));
+        }
+    }
+
+    // What the package is made with names the options that the parser knows, no more and no less.
+    void generatedTexts_nameTheOptions_data()
+    {
+        addRows<Utf8>({ "pattern" },
+            {
+                { "man", R"(\\fB(?:[^ ]+ )?\\?-?\\?-?\\-\\-([a-z\\-]+)\\fR)" },
+                { "bash", "--([a-z][a-z-]+)" },
+                { "zsh", R"((?:'|,)--([a-z][a-z-]+)[}'\[])" },
+                { "fish", " -l ([a-z-]+)" },
+            });
+    }
+    void generatedTexts_nameTheOptions()
+    {
+        QFETCH(const QString, pattern);
+        const auto result = parsed(u"--generate "_s + QString::fromUtf8(QTest::currentDataTag()));
+        QSet<QString> named;
+        for (auto found = QRegularExpression(pattern).globalMatch(std::get<UsageText>(result).text);
+             found.hasNext();)
+            named << found.next().captured(1).remove(u'\\');
+        QSet<QString> known;
+        for (const OptionRow &row : optionRows) {
+            known << row.name;
+            const auto help = parsed(u"--help convert plan"_s);
+            const QString text = std::get<UsageText>(help).text
+                + std::get<UsageText>(parsed(u"--help plan"_s)).text;
+            QVERIFY2(text.contains(u"--"_s + row.name), row.name.data());
+        }
+        QCOMPARE(named, known);
     }
 
     void progress_tellsWhatIsKnown_data()
