@@ -44,7 +44,7 @@ ExitCode shown(const UsageText &usage)
     else
         Output::errorLine(usage.text);
     if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
-        JsonReporter::misused(usage.text.section(u'\n', 0, 0));
+        JsonReporter::misused(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
     return usage.code;
 }
 
