@@ -72,6 +72,7 @@ Outcome Conversion::converted()
          remedy != Remedy::None && !remedies.contains(remedy) && !m_progress->isCancelled();
          remedy = remedyFor(outcome, m_output, job)) {
         remedies << remedy;
+        m_progress->setRemedy(remedy);
         job = remedied(job, remedy);
         outcome = tried(job, staged);
     }

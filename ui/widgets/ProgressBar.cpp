@@ -60,7 +60,7 @@ void ProgressBar::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Mid));
     painter.drawRoundedRect(groove, radius, radius);
-    painter.setBrush(palette().color(QPalette::Highlight));
+    painter.setBrush(palette().color(QPalette::Link));
     QRectF filled = groove;
     if (isBusy()) {
         const double position = double(m_busyStep) / busyFrames;
