@@ -118,7 +118,7 @@ private Q_SLOTS:
         m_user.names << u"result"_s;
         m_user.saysYes = true;
         choose(u"MKV"_s);
-        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone, 90000));
         take(u"5-short"_s);
         m_user.whileAnswering = [] {};
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         choose(u"MP4"_s);
         QVERIFY(QTest::qWaitFor([this] { return view("secondTryLabel")->isVisible(); }));
         take(u"4-second-try"_s);
-        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone, 90000));
         take(u"5-repaired"_s);
 
         QVERIFY(convert("reports:3000:100000"));

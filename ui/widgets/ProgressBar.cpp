@@ -33,6 +33,8 @@ void ProgressBar::setDoubleValue(double value)
     m_doubleValue = value;
     if (!isBusy())
         setValue(static_cast<int>(std::clamp(value, 0.0, 1.0) * steps));
+    // The base class would wait for a whole chunk of its style.
+    update();
 }
 
 void ProgressBar::setBusy(bool busy)

@@ -3,6 +3,7 @@
 
 #include "analytics/Analytics.h"
 #include "engine/Outcome.h"
+#include "planning/ConversionDescriptor.h"
 #include "planning/VideoConstraints.h"
 #include "support/Console.h"
 #include "support/Format.h"
@@ -322,6 +323,10 @@ void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
     const QString &path = m_intake->processingFilePath();
     setUiState(WindowUIState::CoverIsSet);
     m_outlets->movieCoverImageView->setImage(cover);
+    const bool hasPicture = conversionDescriptor(ConversionFormat::mkv)
+                                .videoStream(*m_intake->processingInfo())
+                                .has_value();
+    m_outlets->movieCoverImageView->setArtwork(hasPicture ? QString() : u":/artwork/note.svg"_s);
     m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
     // A tool tip guesses whether it is mark-up; a file's name is none.
     m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
