@@ -39,6 +39,7 @@ vc_install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md share/doc/video-converter
 vc_install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog share/doc/video-converter changelog.Debian)
 
 install(FILES debian/copyright ${CMAKE_SOURCE_DIR}/docs/privacy.md DESTINATION share/doc/video-converter)
+install(FILES debian/lintian-overrides DESTINATION share/lintian/overrides RENAME video-converter)
 install(FILES ${id}.desktop DESTINATION share/applications)
 install(FILES ${id}.metainfo.xml DESTINATION share/metainfo)
 install(FILES ${CMAKE_SOURCE_DIR}/app/icons/video-converter.svg

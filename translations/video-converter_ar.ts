@@ -698,6 +698,61 @@ A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -
 يوضع الاسم الذي يبدأ بشَرطة بعد --، مثلًا:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لا يمكن إرسال الناتج إلى الخرج القياسي؛ حدِّد ملفًا.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>لا يمكن تمثيل اسم الملف كنص. يُرجى إعادة تسميته.</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>لا يحتوي الناتج على صورة متحركة مع أن الفيديو يحتوي عليها.</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>لا يحتوي الناتج على صوت مع أن الفيديو يحتوي عليه.</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>حُذفت صورة الغلاف لأن هذا الخرج لا يستطيع عرضها.</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>صُغِّرت الصورة قليلًا لأن هذا الخرج يتطلب أبعادًا زوجية.</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>أُعيد ترميز الصوت لأن هذا الخرج لا يقبله كما هو.</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>أُعيد ترميز الصورة لأن هذا الخرج لا يقبلها كما هي.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>الفيديو تالف في بعض المواضع، أولها عند %@.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>الفيديو تالف في بعض المواضع.</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>احتُفظ بالملف الأقدم باسم «%@».</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

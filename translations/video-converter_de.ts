@@ -702,6 +702,61 @@ Konvertiert Videos nacheinander. Strg+C bricht ab und hinterlässt keine unferti
 Ein Name mit einem Minus am Anfang gehört hinter --, zum Beispiel:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Das Ergebnis kann nicht auf die Standardausgabe gehen. Geben Sie eine Datei an.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>Der Name der Datei lässt sich nicht als Text darstellen. Bitte benennen Sie sie um.</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>Das Ergebnis enthält kein bewegtes Bild, obwohl das Video eines hat.</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>Das Ergebnis hat keinen Ton, obwohl das Video welchen hat.</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Das Titelbild wurde weggelassen, weil dieses Ausgabeformat es nicht anzeigen kann.</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Das Bild wurde etwas verkleinert, weil dieses Ausgabeformat gerade Abmessungen braucht.</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Der Ton wurde neu codiert, weil dieses Ausgabeformat ihn nicht unverändert aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Das Bild wurde neu codiert, weil dieses Ausgabeformat es nicht unverändert aufnehmen kann.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>Das Video ist stellenweise beschädigt, zuerst bei %@.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>Das Video ist stellenweise beschädigt.</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>Die ältere Datei wurde als „%@“ aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

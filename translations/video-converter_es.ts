@@ -700,6 +700,61 @@ Convierte vídeos, uno tras otro. Ctrl-C detiene y no deja ningún archivo a med
 Un nombre que empieza con un guion va después de --, como en:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>El resultado no puede enviarse a la salida estándar; indique un archivo.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>El nombre del archivo no puede representarse como texto. Cámbielo.</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>El resultado no tiene imagen en movimiento, aunque el vídeo sí la tiene.</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>El resultado no tiene sonido, aunque el vídeo sí lo tiene.</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Se omitió la carátula porque esta salida no puede mostrarla.</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>La imagen se redujo un poco porque esta salida necesita dimensiones pares.</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>El sonido se recodificó porque esta salida no lo admite tal como está.</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>La imagen se recodificó porque esta salida no la admite tal como está.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>El vídeo está dañado en algunos puntos, el primero en %@.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>El vídeo está dañado en algunos puntos.</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>El archivo anterior se conservó como «%@».</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

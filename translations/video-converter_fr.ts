@@ -701,6 +701,61 @@ Convertit des vidéos l’une après l’autre. Ctrl-C arrête sans laisser de f
 Un nom qui commence par un tiret se place après --, par exemple&#xa0;:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Le résultat ne peut pas être envoyé sur la sortie standard ; indiquez un fichier.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>Le nom du fichier ne peut pas être représenté sous forme de texte. Veuillez le renommer.</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>Le résultat ne contient pas d’image animée, alors que la vidéo en a une.</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>Le résultat n’a pas de son, alors que la vidéo en a.</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>L’image de couverture a été omise, car cette sortie ne peut pas l’afficher.</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>L’image a été légèrement réduite, car cette sortie exige des dimensions paires.</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>Le son a été réencodé, car cette sortie ne l’accepte pas tel quel.</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>L’image a été réencodée, car cette sortie ne l’accepte pas telle quelle.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>La vidéo est endommagée par endroits, d’abord à %@.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>La vidéo est endommagée par endroits.</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>L’ancien fichier a été conservé sous le nom « %@ ».</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -698,6 +698,61 @@ A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -
 ダッシュで始まる名前は -- の後に指定します。例:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>結果を標準出力へ書き出すことはできません。ファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>ファイル名をテキストとして表せません。名前を変更してください。</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>元のビデオには動画がありますが、結果には含まれていません。</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>元のビデオには音声がありますが、結果には含まれていません。</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>この出力では表示できないため、カバー画像は省かれました。</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>この出力では偶数のサイズが必要なため、画像を少し縮小しました。</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>この出力ではそのまま使えないため、音声を再エンコードしました。</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>この出力ではそのまま使えないため、映像を再エンコードしました。</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>ビデオにはところどころ破損があります（最初は%@）。</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>ビデオにはところどころ破損があります。</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>以前のファイルは「%@」として残されました。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -698,6 +698,61 @@ Converte vídeos, um após o outro. Ctrl-C interrompe e não deixa nenhum arquiv
 Um nome que começa com hífen vem depois de --, como em:
 convert --to GIF -o a.gif -- -a.mov</translation>
     </message>
+    <message>
+        <source>The result can&apos;t go to standard output; name a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>O resultado não pode ir para a saída padrão; informe um arquivo.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name can&apos;t be represented as text. Please rename it.</source>
+        <comment>Why a video can&apos;t be converted</comment>
+        <translation>O nome do arquivo não pode ser representado como texto. Renomeie-o.</translation>
+    </message>
+    <message>
+        <source>The result has no moving picture, although the video has one.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>O resultado não tem imagem em movimento, embora o vídeo tenha.</translation>
+    </message>
+    <message>
+        <source>The result has no sound, although the video has some.</source>
+        <comment>What is wrong with a conversion&apos;s result</comment>
+        <translation>O resultado não tem som, embora o vídeo tenha.</translation>
+    </message>
+    <message>
+        <source>The cover picture was left out, because this output can&apos;t show it.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>A imagem de capa foi omitida porque esta saída não pode exibi-la.</translation>
+    </message>
+    <message>
+        <source>The picture was made a little smaller, because this output needs even sizes.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>A imagem foi um pouco reduzida porque esta saída exige dimensões pares.</translation>
+    </message>
+    <message>
+        <source>The sound was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>O som foi recodificado porque esta saída não o aceita como está.</translation>
+    </message>
+    <message>
+        <source>The picture was encoded anew, because this output can&apos;t take it as it is.</source>
+        <comment>What was done to make a conversion work</comment>
+        <translation>A imagem foi recodificada porque esta saída não a aceita como está.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places, first at %@.</source>
+        <comment>Remark on a whole result, with a time</comment>
+        <translation>O vídeo está danificado em alguns pontos, o primeiro em %@.</translation>
+    </message>
+    <message>
+        <source>The video is damaged in places.</source>
+        <comment>Remark on a whole result</comment>
+        <translation>O vídeo está danificado em alguns pontos.</translation>
+    </message>
+    <message>
+        <source>The older file was kept as “%@”.</source>
+        <comment>Remark on a short result, with a file&apos;s name</comment>
+        <translation>O arquivo anterior foi mantido como “%@”.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
