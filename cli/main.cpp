@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/report/Diagnostics.h"
+#include "cli/report/JsonReporter.h"
 #include "cli/report/Output.h"
 #include "engine/Async.h"
 #include "engine/FFMPEG.h"
@@ -26,7 +27,7 @@ ExitCode run(const CommandLine &line)
     case Verb::Formats:
         return listFormats(line);
     case Verb::Probe:
-        return probeVideo(line, interruption);
+        return probeVideos(line, interruption);
     case Verb::Plan:
         return planConversions(line, interruption);
     case Verb::Convert:
@@ -41,6 +42,8 @@ ExitCode shown(const UsageText &usage)
         Output::line(usage.text);
     else
         Output::errorLine(usage.text);
+    if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
+        JsonReporter::misused(usage.text.section(u'\n', 0, 0));
     return usage.code;
 }
 

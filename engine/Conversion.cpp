@@ -130,8 +130,7 @@ Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) cons
     if (outcome.isDone() && isInDoubt(run, report, expected)) {
         // What the tool had to guess says nothing about the end.
         if (report.lengthIsGuessed)
-            expected = { expected.picture ? std::optional(0.0) : std::nullopt,
-                expected.sound ? std::optional(0.0) : std::nullopt };
+            expected = expected.withoutLengths();
         const auto lengths = measured(job.destPath);
         outcome = lengths ? judged(*lengths, expected) : run;
     }
@@ -147,7 +146,7 @@ Outcome Conversion::placed(StagedFile &staged, Outcome outcome) const
     if (m_progress->isCancelled())
         return { Reason::Cancelled };
     const bool replaces = m_overwrite && QFileInfo::exists(m_job.destPath);
-    if (replaces && !outcome.isDone()) {
+    if (replaces && !outcome.isDone() && !staged.equalsOlder()) {
         outcome.olderPath = staged.keepOlder();
         if (outcome.olderPath.isEmpty())
             return { Reason::DestinationNotWritable };

@@ -20,6 +20,8 @@ enum class Reason {
     NameNotText,
     SizeDiffers,
     InfoNotReadable,
+    ListNotReadable,
+    TreeNotReadable,
     InfoNoJson,
     // The destination
     DestinationExists,
@@ -91,6 +93,8 @@ struct Outcome {
 };
 
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
+/// The reason as a word for programs, such as "destination-exists". Such words never change.
+[[nodiscard]] QLatin1StringView nameOf(const Outcome &outcome);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);
 /// What else is to be said of a result: a second try, damage of the source, an older file that was

@@ -113,6 +113,21 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite)
     return std::nullopt;
 }
 
+bool StagedFile::equalsOlder() const
+{
+    QFile staged(m_path);
+    QFile older(m_destPath);
+    if (staged.size() != older.size() || !staged.open(QIODevice::ReadOnly)
+        || !older.open(QIODevice::ReadOnly))
+        return false;
+    constexpr qint64 piece = 1 << 20;
+    while (!staged.atEnd()) {
+        if (staged.read(piece) != older.read(piece))
+            return false;
+    }
+    return true;
+}
+
 QString StagedFile::keepOlder() const
 {
     const QString extension = Path::pathExtension(m_destPath);

@@ -22,6 +22,8 @@ public:
     /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it
     /// gives its permissions.
     [[nodiscard]] std::optional<Outcome> moveIntoPlace(bool overwrite);
+    /// The same bytes stand in the place already.
+    [[nodiscard]] bool equalsOlder() const;
     /// Gives what stands in the place a second name, "NAME (earlier).ext", and returns it; empty
     /// without such a file.
     [[nodiscard]] QString keepOlder() const;

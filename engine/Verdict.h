@@ -20,6 +20,12 @@ struct Lengths {
     {
         return std::max(picture.value_or(0), sound.value_or(0));
     }
+    /// The same streams, however long.
+    [[nodiscard]] Lengths withoutLengths() const
+    {
+        return { picture ? std::optional(0.0) : std::nullopt,
+            sound ? std::optional(0.0) : std::nullopt };
+    }
 };
 
 /// What a result has to hold, as the source declares it; 0 where it does not say how long. Thread:
