@@ -120,11 +120,14 @@ def engine(folder):
 
 
 def main():
-    wanted = sys.argv[2:] or ["engine", "window"]
+    wanted = sys.argv[2:] or ["engine", "many", "window"]
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
         if "engine" in wanted:
             engine(folder)
+        if "many" in wanted:
+            import many
+            many.measure(CLI, folder, video)
         if "window" in wanted:
             import window
             window.measure(BUILD, folder)

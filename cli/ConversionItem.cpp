@@ -4,46 +4,61 @@
 #include "planning/ConversionDescriptor.h"
 #include "support/Path.h"
 
-#include <QDir>
-#include <QRegularExpression>
+#include <QCryptographicHash>
+#include <QFile>
 #include <QSet>
+#include <QtEndian>
+
+#include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The name, numbered until it differs from all others in more than letter case.
-QString uniqueName(const QString &base, const QString &ext, QSet<QString> &taken)
+/// The path, numbered until it differs from all others in more than letter case.
+QString uniquePath(const QString &base, const QString &ext, QSet<QString> &taken)
 {
-    QString name = base + u'.' + ext;
-    for (int number = 2; taken.contains(name.toCaseFolded()); ++number)
-        name = base + u' ' + QString::number(number) + u'.' + ext;
-    taken.insert(name.toCaseFolded());
-    return name;
+    QString path = base + u'.' + ext;
+    for (int number = 2; taken.contains(path.toCaseFolded()); ++number)
+        path = base + u' ' + QString::number(number) + u'.' + ext;
+    taken.insert(path.toCaseFolded());
+    return path;
+}
+
+/// The same on every machine, whatever else is in the list.
+bool isInShard(const QString &name, const Shard &shard)
+{
+    const QByteArray hash
+        = QCryptographicHash::hash(QFile::encodeName(name), QCryptographicHash::Sha256);
+    const auto number = qFromBigEndian<quint64>(hash.constData());
+    return number % static_cast<quint64>(shard.parts) == static_cast<quint64>(shard.part - 1);
 }
 
 }
 
-std::vector<ConversionItem> conversionItems(const CommandLine &line)
+std::vector<ConversionItem> conversionItems(
+    const CommandLine &line, const VideoConstraints &entry, const std::vector<Input> &inputs)
 {
-    const QString ext = conversionDescriptor(line.entries.front().format).ext;
+    if (line.folder.isEmpty())
+        return { { inputs.front(), absolutePath(line.output) } };
+    std::vector<std::size_t> order(inputs.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
+        return inputs[left].path < inputs[right].path;
+    });
+    const QString ext = conversionDescriptor(entry.format).ext;
+    const QString folder = absolutePath(line.folder + u'/');
     QSet<QString> taken;
-    std::vector<ConversionItem> items;
-    for (const QString &input : line.inputs) {
-        const QString base = Path::stringByDeletingPathExtension(Path::lastPathComponent(input));
-        const QString destPath = line.folder.isEmpty()
-            ? line.output
-            : line.folder + u'/' + uniqueName(base, ext, taken);
-        items.push_back({ input, absolutePath(input), absolutePath(destPath) });
+    std::vector<ConversionItem> items(inputs.size());
+    for (const std::size_t index : order) {
+        const Input &input = inputs[index];
+        const QString name
+            = Path::stringByDeletingPathExtension(Path::lastPathComponent(input.path));
+        const QString subfolder = input.subfolder.isEmpty() ? QString() : input.subfolder + u'/';
+        items[index] = { input, uniquePath(folder + subfolder + name, ext, taken) };
     }
+    std::erase_if(
+        items, [&](const ConversionItem &item) { return !isInShard(item.input.name, line.shard); });
     return items;
-}
-
-QString absolutePath(const QString &path)
-{
-    static const QRegularExpression nothing(u"/(?:\\.?/)+"_s);
-    // A removed current folder has no path; without the dot the path would begin at the root.
-    const QString folder = QDir::currentPath().isEmpty() ? u"."_s : QDir::currentPath();
-    QString absolute = path.startsWith(u'/') ? path : folder + u'/' + path;
-    return absolute.replace(nothing, u"/"_s);
 }

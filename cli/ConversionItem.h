@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/arguments/CommandLine.h"
-
-#include <vector>
+#include "cli/Inputs.h"
 
 struct ConversionItem {
-    QString input;
-    QString path;
+    Input input;
     QString destPath;
 };
 
-/// The inputs with their destinations. In a folder each result gets its input's name with the
-/// output's extension, and a number where two bear the same name.
-[[nodiscard]] std::vector<ConversionItem> conversionItems(const CommandLine &line);
-
-/// Made absolute, because the tools take a dash for an option and a colon for a protocol. A ".."
-/// may lead through a link and stays.
-[[nodiscard]] QString absolutePath(const QString &path);
+/// The inputs with their destinations, in the inputs' order. In a folder each result gets its
+/// input's name with the output's extension, and a number where two bear the same name. Who gets
+/// which number depends on the set of inputs alone, not on their order. Of a divided list only this
+/// part is given.
+[[nodiscard]] std::vector<ConversionItem> conversionItems(
+    const CommandLine &line, const VideoConstraints &entry, const std::vector<Input> &inputs);

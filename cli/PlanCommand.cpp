@@ -8,6 +8,7 @@
 #include "engine/Destination.h"
 #include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
+#include "support/Interruption.h"
 #include "support/StandardInput.h"
 
 #include <QFile>
@@ -38,63 +39,94 @@ std::variant<JSON, Outcome> savedInfo(const QString &name)
     return inner.value().isObject() ? inner : json;
 }
 
-QStringList builtArguments(const VideoConstraints &entry, const JSON &info)
+/// The arguments for a video and its result, or without them only those that depend on the video.
+QStringList plannedArguments(
+    const ConversionItem *item, const VideoConstraints &entry, const JSON &info)
 {
+    if (item)
+        return conversionArguments({ .path = item->input.path,
+            .destPath = item->destPath,
+            .constraints = entry,
+            .conversionInfo = info });
     return conversionDescriptor(entry.format)
         .ffmpegArguments(QString(), QString(), info, entry.dimension);
 }
 
-QStringList plannedArguments(
-    const CommandLine &line, const VideoConstraints &entry, const JSON &info)
+QString shellLine(const ConversionItem *item, const QStringList &arguments)
 {
-    if (!line.info.isEmpty())
-        return builtArguments(entry, info);
-    return conversionArguments({ .path = absolutePath(line.inputs.at(0)),
-        .destPath = absolutePath(line.inputs.at(1)),
-        .constraints = entry,
-        .conversionInfo = info });
+    return item ? shellQuoted(QStringList{ toolPath(Tool::Ffmpeg) } + arguments)
+                : shellQuoted(arguments);
 }
 
-QString shellLine(const CommandLine &line, const QStringList &arguments)
-{
-    return line.info.isEmpty() ? shellQuoted(QStringList{ toolPath(Tool::Ffmpeg) } + arguments)
-                               : shellQuoted(arguments);
-}
-
-void print(const CommandLine &line, const JSON &info)
+void print(const CommandLine &line, const ConversionItem *item, const JSON &info)
 {
     QJsonObject object;
     for (const VideoConstraints &entry : line.entries) {
-        const QStringList arguments = plannedArguments(line, entry, info);
+        const QStringList arguments = plannedArguments(item, entry, info);
         object[entry.destDevice] = QJsonArray::fromStringList(arguments);
         if (line.json)
             continue;
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(shellLine(line, arguments));
+        Output::line(shellLine(item, arguments));
     }
     if (line.json)
         Output::json(QJsonDocument(object), QJsonDocument::Indented);
+}
+
+ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption &interruption)
+{
+    if (const auto refusal
+        = sourceRefusal({ .path = item.destPath, .sources = { item.input.path } }))
+        return Output::failure(item.destPath, *refusal);
+    // What lies beside the videos of a folder is left out without a word.
+    const auto result = examined(item.input.path, Cover::LeftOut, interruption);
+    const auto *refusal = std::get_if<Outcome>(&result);
+    if (refusal && item.input.isFound && kindOf(*refusal) == OutcomeKind::InputRefused)
+        return ExitCode::Done;
+    if (refusal)
+        return Output::failure(item.input.name, *refusal);
+    print(line, &item, std::get<VideoDescription>(result).info);
+    return ExitCode::Done;
+}
+
+/// Videos into a folder: a line, or an object in a line, for each and each output.
+ExitCode planAll(const CommandLine &line, Interruption &interruption)
+{
+    const auto inputs = inputsOf(line);
+    if (const auto *refusal = std::get_if<InputRefusal>(&inputs))
+        return Output::failure(refusal->name, refusal->outcome);
+    ExitCode code = ExitCode::Done;
+    for (const VideoConstraints &entry : line.entries) {
+        CommandLine one = line;
+        one.entries = { entry };
+        for (const ConversionItem &item :
+            conversionItems(one, entry, std::get<std::vector<Input>>(inputs))) {
+            const ExitCode end = plan(one, item, interruption);
+            code = code == ExitCode::Done ? end : code;
+            if (Interruption::signal() != 0)
+                return code;
+        }
+    }
+    return code;
 }
 
 }
 
 ExitCode planConversions(const CommandLine &line, Interruption &interruption)
 {
-    if (!line.info.isEmpty()) {
-        const auto saved = savedInfo(line.info);
-        if (const auto *refusal = std::get_if<Outcome>(&saved))
-            return Output::failure(line.info, *refusal);
-        print(line, std::get<JSON>(saved));
-        return ExitCode::Done;
+    if (!line.folder.isEmpty())
+        return planAll(line, interruption);
+    if (line.info.isEmpty()) {
+        const QString &name = line.inputs.front();
+        return plan(line,
+            { .input = { .name = name, .path = absolutePath(name) },
+                .destPath = absolutePath(line.inputs.at(1)) },
+            interruption);
     }
-    const QString path = absolutePath(line.inputs.at(0));
-    const QString destPath = absolutePath(line.inputs.at(1));
-    if (const auto refusal = sourceRefusal({ .path = destPath, .sources = { path } }))
-        return Output::failure(line.inputs.at(1), *refusal);
-    const auto result = examined(path, Cover::LeftOut, interruption);
-    if (const auto *refusal = std::get_if<Outcome>(&result))
-        return Output::failure(line.inputs.first(), *refusal);
-    print(line, std::get<VideoDescription>(result).info);
+    const auto saved = savedInfo(line.info);
+    if (const auto *refusal = std::get_if<Outcome>(&saved))
+        return Output::failure(line.info, *refusal);
+    print(line, nullptr, std::get<JSON>(saved));
     return ExitCode::Done;
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
+#include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "support/Format.h"
+#include "support/Interruption.h"
 #include "support/Localized.h"
 
 #include <QJsonObject>
@@ -68,16 +69,30 @@ void printText(const VideoDescription &video)
 
 }
 
-ExitCode probeVideo(const CommandLine &line, Interruption &interruption)
+ExitCode probeVideos(const CommandLine &line, Interruption &interruption)
 {
-    const QString &name = line.inputs.first();
-    const auto result = examined(absolutePath(name), Cover::Taken, interruption);
-    if (const auto *refusal = std::get_if<Outcome>(&result))
-        return Output::failure(name, *refusal);
-    const auto &video = std::get<VideoDescription>(result);
-    if (line.json)
-        Output::json(QJsonDocument(jsonOf(video)), QJsonDocument::Indented);
-    else
+    const bool isOne = line.inputs.size() == 1;
+    ExitCode code = ExitCode::Done;
+    for (const QString &name : line.inputs) {
+        const auto result = examined(absolutePath(name), Cover::Taken, interruption);
+        if (const auto *refusal = std::get_if<Outcome>(&result)) {
+            const ExitCode failure = Output::failure(name, *refusal);
+            code = code == ExitCode::Done ? failure : code;
+            if (Interruption::signal() != 0)
+                break;
+            continue;
+        }
+        const auto &video = std::get<VideoDescription>(result);
+        if (line.json) {
+            QJsonObject object = jsonOf(video);
+            object[u"input"_s] = absolutePath(name);
+            Output::json(
+                QJsonDocument(object), isOne ? QJsonDocument::Indented : QJsonDocument::Compact);
+            continue;
+        }
+        if (!isOne)
+            Output::line(printable(name));
         printText(video);
-    return ExitCode::Done;
+    }
+    return code;
 }

@@ -7,11 +7,10 @@
 #include "engine/Verdict.h"
 #include "support/FileSystem.h"
 
-#include <QFileInfo>
-
 #include <condition_variable>
 #include <mutex>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -64,18 +63,21 @@ Outcome Conversion::converted()
             { .path = m_job.destPath, .sources = { m_job.path }, .overwrite = m_overwrite }))
         return *refusal;
     StagedFile staged(m_job.destPath);
-    const Outcome first = tried(m_job, staged);
-    const Remedy remedy = first.reason == Reason::PictureMissing && takesCoverForPicture(m_job)
-        ? Remedy::CoverLeftOut
-        : remedyFor(first, m_output, m_job);
-    if (remedy == Remedy::None || m_progress->isCancelled())
-        return placed(staged, first);
-    m_progress->setRemedy(remedy);
-    Outcome second = tried(remedied(m_job, remedy), staged);
-    if (kindOf(second) == OutcomeKind::Failed)
-        return { Reason::StreamNotTaken };
-    second.remedy = remedy;
-    return placed(staged, second);
+    ConversionJob job = m_job;
+    Outcome outcome = tried(job, staged);
+    QList<Remedy> remedies;
+    // Music may come with a cover and with a sample rate that the output can't hold: one more try
+    // for each cause.
+    for (Remedy remedy = remedyFor(outcome, m_output, job);
+         remedy != Remedy::None && !remedies.contains(remedy) && !m_progress->isCancelled();
+         remedy = remedyFor(outcome, m_output, job)) {
+        remedies << remedy;
+        m_progress->setRemedy(remedy);
+        job = remedied(job, remedy);
+        outcome = tried(job, staged);
+    }
+    outcome.remedies = remedies;
+    return placed(staged, outcome);
 }
 
 Outcome Conversion::tried(const ConversionJob &job, StagedFile &staged)
@@ -127,15 +129,19 @@ Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) cons
 {
     const RunReport report = reportOf(m_output, { job.path, job.destPath });
     Lengths expected = expectedOf(job);
-    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
-    if (outcome.isDone() && isInDoubt(run, report, expected)) {
-        // What the tool had to guess says nothing about the end.
-        if (report.lengthIsGuessed)
-            expected = { expected.picture ? std::optional(0.0) : std::nullopt,
-                expected.sound ? std::optional(0.0) : std::nullopt };
-        const auto lengths = measured(job.destPath);
-        outcome = lengths ? judged(*lengths, expected) : run;
+    const SourceData data = dataOf(job.path);
+    expected.isGuessed = report.lengthIsGuessed && data.claim <= 1;
+    for (std::optional<double> *length : { &expected.picture, &expected.sound }) {
+        if (*length)
+            **length *= data.claim;
     }
+    // A copy has all packets, whatever is in them.
+    const bool copiesHole = data.hasHole && conversionArguments(job).contains(u"copy");
+    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
+    if (outcome.isDone() && (copiesHole || isInDoubt(run, report, expected)))
+        outcome
+            = inspected(job, expected, copiesHole ? Reading::Frames : Reading::Packets, *m_progress)
+                  .value_or(run);
     outcome.damagedPlaces = report.damagedPlaces;
     outcome.firstDamage = report.firstDamage;
     return outcome;
@@ -147,12 +153,7 @@ Outcome Conversion::placed(StagedFile &staged, Outcome outcome) const
         return outcome;
     if (m_progress->isCancelled())
         return { Reason::Cancelled };
-    const bool replaces = m_overwrite && QFileInfo::exists(m_job.destPath);
-    if (replaces && !outcome.isDone()) {
-        outcome.olderPath = staged.keepOlder();
-        if (outcome.olderPath.isEmpty())
-            return { Reason::DestinationNotWritable };
-    }
-    const auto refusal = staged.moveIntoPlace(m_overwrite);
+    const auto refusal
+        = staged.moveIntoPlace(m_overwrite, outcome.isDone() ? nullptr : &outcome.olderPath);
     return refusal ? *refusal : outcome;
 }

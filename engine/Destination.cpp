@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
 #include <unistd.h>
 
 namespace {
@@ -26,12 +25,6 @@ std::optional<Outcome> obstacleAt(const QString &path)
     if (file.exists() && !isRegularFile(path))
         return Outcome{ Reason::DestinationIsDevice };
     return std::nullopt;
-}
-
-bool isOneOf(const QString &path, const QStringList &paths)
-{
-    return std::any_of(paths.begin(), paths.end(),
-        [&](const QString &otherPath) { return isSameFile(path, otherPath); });
 }
 
 }

@@ -2,6 +2,7 @@
 #include "engine/Remedy.h"
 
 #include "engine/RunReport.h"
+#include "engine/Verdict.h"
 #include "planning/ConversionDescriptor.h"
 
 #include <QJsonArray>
@@ -21,11 +22,14 @@ struct CauseRow {
 
 // As the tool words it; the first row that fits counts.
 constexpr std::array causeRows{
-    CauseRow{ u"(?:width|height) not divisible by 2", Remedy::SizeMadeEven },
+    CauseRow{ u"(?:width|height) not divisible by 2|Xvid: Could not create encoder",
+        Remedy::SizeMadeEven },
     CauseRow{ u"sample rate \\d+ is not supported|does not support sample rate"
+              u"|[Uu]nsupported channel layout|dts to muxer in stream 1"
               u"|[Ii]nvalid sample rate|[Uu]nsupported sample rate|\\[libvorbis @.*failed",
         Remedy::SoundEncoded },
-    CauseRow{ u"unknown timestamp|missing PTS|pts has no value|first pts value must be set"
+    CauseRow{ u"unknown timestamp|non monotonically increasing dts|missing PTS|pts has no "
+              u"value|first pts value must be set"
               u"|[Nn]ot currently supported in container|incompatible with output codec id"
               u"|bitstream malformed|is not compatible with",
         Remedy::PictureEncoded },
@@ -39,13 +43,6 @@ std::optional<ChosenStream> pictureOf(const ConversionJob &job)
 bool isAttachedPicture(const QJsonObject &stream)
 {
     return stream[u"disposition"_s][u"attached_pic"_s].toInt() == 1;
-}
-
-bool hasAttachedPicture(const ConversionJob &job)
-{
-    const QJsonArray streams = job.conversionInfo[u"streams"_s].value().toArray();
-    return std::any_of(streams.begin(), streams.end(),
-        [](const auto &stream) { return isAttachedPicture(stream.toObject()); });
 }
 
 // The streams keep their places, which are their numbers.
@@ -74,8 +71,7 @@ void leaveCoverOut(ConversionJob &job)
 {
     const auto picture = pictureOf(job);
     editStreams(job, [&](QJsonObject &stream, qsizetype index) {
-        if (isAttachedPicture(stream)
-            || (picture && picture->index == index && !hasAttachedPicture(job)))
+        if (isAttachedPicture(stream) || (picture && picture->index == index))
             stream[u"codec_type"_s] = u"attachment"_s;
     });
 }
@@ -88,6 +84,8 @@ void makeSizeEven(ConversionJob &job)
         return;
     const qint64 longest
         = std::max(picture->item[u"width"_s].intValue(), picture->item[u"height"_s].intValue());
+    if (longest < 2)
+        return;
     const qint64 even = (longest - 1) / 2 * 2;
     job.constraints.dimension
         = VideoDimensionsConstraints::maximum({ .width = even, .height = even });
@@ -99,6 +97,9 @@ void makeRateUsual(ConversionJob &job)
     editStreams(job, [](QJsonObject &stream, qsizetype) {
         if (stream[u"codec_type"_s] == u"audio"_s)
             stream[u"sample_rate"_s] = u"48000"_s;
+        // No output holds more than eight channels.
+        if (stream[u"channels"_s].toInt() > 8)
+            stream[u"channels"_s] = 2;
     });
 }
 
@@ -106,13 +107,15 @@ void makeRateUsual(ConversionJob &job)
 
 Remedy remedyFor(const Outcome &failure, const QByteArray &output, const ConversionJob &job)
 {
-    const bool mayBeTheVideos = failure.reason == Reason::ToolFailed
-        || failure.reason == Reason::StreamNotTaken || failure.reason == Reason::DamagedData;
-    if (!mayBeTheVideos)
+    const bool fails = mayBeTheVideos(failure);
+    if (!fails && failure.reason != Reason::PictureMissing)
         return Remedy::None;
     const auto picture = pictureOf(job);
-    if (picture && isAttachedPicture(picture->item.value().toObject()))
+    const bool isAttached = picture && isAttachedPicture(picture->item.value().toObject());
+    if (takesCoverForPicture(job) || (fails && isAttached))
         return Remedy::CoverLeftOut;
+    if (!fails)
+        return Remedy::None;
     const QStringList lines = ownLines(output, { job.path, job.destPath });
     for (const CauseRow &row : causeRows) {
         if (!lines.filter(QRegularExpression(QString::fromUtf16(row.pattern))).isEmpty())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArrayList>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -18,8 +19,26 @@ namespace ToolOutput {
 /// Whole seconds of the first "hours:minutes:seconds" in a text. Errors: a number of seconds beyond
 /// 64 bits stops the program.
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
+/// The same for a text that the tool printed; absent when it is longer than any of the tool's own
+/// times, as a video's texts and names may be.
+[[nodiscard]] std::optional<qint64> printedSeconds(const QString &text);
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
 /// A block of output as text. When the tool cut a character, only its line is lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
+
+/// Drops a video's own texts, such as "    title           : Duration: 9:0:0.0, start:", from
+/// output that keeps coming. The tool indents them by four spaces. Thread: one at a time.
+class OwnLines {
+public:
+    /// `paths` are the names that the tool was given; what they say is not its word either.
+    explicit OwnLines(const QStringList &paths);
+    [[nodiscard]] QByteArray in(QByteArray chunk);
+
+private:
+    QByteArrayList m_paths;
+    // Spaces at the start of the line that the last chunk ended with.
+    int m_indent = 0;
+    bool m_isIndenting = true;
+};
 
 }

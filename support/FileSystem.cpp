@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <optional>
 #include <sys/stat.h>
 
@@ -30,11 +31,13 @@ bool isRegularFile(const QString &path)
     return file && S_ISREG(file->st_mode);
 }
 
-bool isSameFile(const QString &path, const QString &otherPath)
+bool isOneOf(const QString &path, const QStringList &paths)
 {
     const auto file = attributes(path);
-    const auto other = attributes(otherPath);
-    return file && other && file->st_dev == other->st_dev && file->st_ino == other->st_ino;
+    return file && std::any_of(paths.begin(), paths.end(), [&](const QString &otherPath) {
+        const auto other = attributes(otherPath);
+        return other && file->st_dev == other->st_dev && file->st_ino == other->st_ino;
+    });
 }
 
 QString linkTarget(const QString &path)

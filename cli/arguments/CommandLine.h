@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/ExitCode.h"
+#include "cli/arguments/Options.h"
 #include "planning/VideoConstraints.h"
 
 #include <QString>
@@ -10,20 +11,36 @@
 #include <variant>
 #include <vector>
 
-enum class Verb { Formats, Probe, Plan, Convert };
+/// One part of a list of videos that is divided between several machines; K counts from 1.
+struct Shard {
+    int part = 1;
+    int parts = 1;
+};
 
 struct CommandLine {
     Verb verb = Verb::Formats;
     bool json = false;
-    bool overwrite = false;
+    bool quiet = false;
     bool verbose = false;
+    bool overwrite = false;
+    bool skipExisting = false;
     /// The entries named by --to; more than one only for "all".
-    std::vector<VideoConstraints> entries;
-    QStringList inputs;
-    QString output;
-    QString folder;
+    std::vector<VideoConstraints> entries = {};
+    QStringList inputs = {};
+    /// Folder whose videos are taken too.
+    QString tree = {};
+    /// File with names of videos, "-" for standard input.
+    QString list = {};
+    bool listIsNullSeparated = false;
+    QString output = {};
+    QString folder = {};
     /// File with a saved media information, "-" for standard input.
-    QString info;
+    QString info = {};
+    int jobs = 1;
+    Shard shard = {};
+
+    /// The videos are found by the program, not all named by the user.
+    [[nodiscard]] bool hasList() const { return !tree.isEmpty() || !list.isEmpty(); }
 };
 
 struct UsageText {

@@ -1,77 +1,120 @@
 // SPDX-License-Identifier: MIT
 #include "cli/arguments/Help.h"
 
-#include "support/Localized.h"
+#include "cli/report/ShownText.h"
+#include "support/Format.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int textColumn = 26;
+constexpr int lastColumn = 80;
+
+struct VerbRow {
+    /// What stands after the command's name; lines of one usage each.
+    QLatin1StringView usage;
+    LocalizedText text;
+};
+
+// In the order of the verbs.
+constexpr std::array verbRows{
+    VerbRow{ "formats [--json]"_L1,
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Lists the outputs that --to takes: devices, formats and MP4 qualities.",
+            "Help: command formats") },
+    VerbRow{ "probe FILE... [--json]"_L1,
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Describes videos. With --json: everything that the tool reports (info), the length "
+            "(duration, seconds) and the size of the cover picture or null (cover).",
+            "Help: command probe") },
+    VerbRow{ "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]"_L1,
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Prints the tool's command line, quoted for a shell, without running it. --to all "
+            "prints one for each output.",
+            "Help: command plan") },
+    VerbRow{ "convert --to NAME (FILE -o OUT | FILE... -d FOLDER) [OPTIONS]\n"
+             "convert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"_L1,
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins "
+            "with "
+            "a dash goes after --.",
+            "Help: command convert") },
+};
+
+const VerbRow &rowOf(Verb verb) { return verbRows.at(static_cast<std::size_t>(verb)); }
+
+/// Broken into lines between words; the first line begins in `column`, further ones too.
+QString wrapped(const QString &text, int column)
+{
+    QString lines;
+    QString line;
+    for (const QString &word : text.split(u' ')) {
+        if (!line.isEmpty() && column + columnsOf(line + u' ' + word) > lastColumn) {
+            lines += line + u'\n' + QString(column, u' ');
+            line = word;
+        } else {
+            line += line.isEmpty() ? word : u' ' + word;
+        }
+    }
+    return lines + line;
+}
+
+QString optionLine(const OptionRow &row)
+{
+    QString words = row.letter.isEmpty() ? u"      --"_s : u"  -"_s + row.letter + u", --"_s;
+    words += row.name;
+    if (!row.value.isEmpty())
+        words += u' ' + row.value;
+    const bool isLong = columnsOf(words) > textColumn - 2;
+    return (isLong ? words + u'\n' + QString(textColumn, u' ') : leftJustified(words, textColumn))
+        + wrapped(localized(row.text), textColumn) + u'\n';
+}
+
+QString usageOf(Verb verb)
+{
+    const QString program = u"video-converter-cli "_s;
+    return program + QString(rowOf(verb).usage).replace(u'\n', u"\n       "_s + program);
+}
+
+}
 
 namespace Help {
 
 QString general()
 {
-    return localized(QT_TRANSLATE_NOOP3("Localizable",
-        "Usage: video-converter-cli COMMAND [OPTIONS]\n"
-        "Converts videos.\n"
-        "\n"
-        "  formats   lists the outputs that --to takes\n"
-        "  probe     describes a video\n"
-        "  plan      prints the tool's command line without running it\n"
-        "  convert   converts videos\n"
-        "\n"
-        "video-converter-cli COMMAND --help explains a command. All commands take:\n"
-        "  --json      prints JSON\n"
-        "  --verbose   prints diagnostics and the tool's full output to standard error\n"
-        "  -h, --help  prints this help\n"
-        "  --version   prints the version\n"
-        "\n"
-        "Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 "
-        "destination\n"
-        "refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).\n"
-        "With several videos, the first one that was not converted decides.",
-        "Help of the headless command; words in capitals stand for what the user types"));
+    QString text = formatted(QT_TRANSLATE_NOOP3("Localizable", "Usage: %@", "Help of the command"),
+                       { u"video-converter-cli COMMAND [OPTIONS]"_s })
+        + u"\n\n"_s;
+    for (std::size_t verb = 0; verb < verbNames.size(); ++verb)
+        text += u"  "_s + leftJustified(verbNames.at(verb), 10)
+            + wrapped(localized(verbRows.at(verb).text), 12) + u'\n';
+    text += u'\n';
+    for (const OptionRow &row : optionRows) {
+        if (row.isTakenBy(Verb::Formats))
+            text += optionLine(row);
+    }
+    return text + u'\n'
+        + wrapped(
+            localized(QT_TRANSLATE_NOOP3("Localizable",
+                "Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong "
+                "usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N "
+                "stopped by signal N (130 after Ctrl-C). With several videos, the first one "
+                "that was not converted decides.",
+                "Help of the command")),
+            0);
 }
 
 QString of(Verb verb)
 {
-    switch (verb) {
-    case Verb::Formats:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Usage: video-converter-cli formats [--json]\n"
-            "Lists the outputs that --to takes: devices, formats and MP4 qualities.",
-            "Help of the headless command"));
-    case Verb::Probe:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Usage: video-converter-cli probe FILE [--json]\n"
-            "Describes a video. With --json: everything that the tool reports (info), its length\n"
-            "(duration, seconds) and the size of its cover picture or null (cover).",
-            "Help of the headless command"));
-    case Verb::Plan:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Usage: video-converter-cli plan --to NAME FILE OUT [--json]\n"
-            "       video-converter-cli plan --to NAME --info JSONFILE [--json]\n"
-            "Prints the tool's command line, quoted for a shell, without running it.\n"
-            "\n"
-            "  --to NAME        the output, one of those that 'formats' lists, or all\n"
-            "  --info JSONFILE  takes the video's description from a file made by 'probe --json'\n"
-            "                   (- for standard input) and prints only the arguments that depend\n"
-            "                   on it\n"
-            "  --json           prints one object: name of the output, list of arguments",
-            "Help of the headless command"));
-    case Verb::Convert:
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Usage: video-converter-cli convert --to NAME FILE -o OUT\n"
-            "       video-converter-cli convert --to NAME FILE... -d FOLDER\n"
-            "Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.\n"
-            "\n"
-            "  --to NAME            the output, one of those that 'formats' lists\n"
-            "  -o, --output OUT     the file to write\n"
-            "  -d, --folder FOLDER  the folder to write to; the files get the videos' names\n"
-            "  --overwrite          replaces files that exist; a video itself is never replaced\n"
-            "  --json               prints one JSON object a line\n"
-            "\n"
-            "A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- "
-            "-a.mov",
-            "Help of the headless command"));
+    QString text = formatted(QT_TRANSLATE_NOOP3("Localizable", "Usage: %@", "Help of the command"),
+                       { usageOf(verb) })
+        + u'\n' + wrapped(localized(rowOf(verb).text), 0) + u"\n\n"_s;
+    for (const OptionRow &row : optionRows) {
+        if (row.isTakenBy(verb))
+            text += optionLine(row);
     }
-    return {};
+    return text.trimmed();
 }
 
 }

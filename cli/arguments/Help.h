@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/arguments/CommandLine.h"
+#include "cli/arguments/Options.h"
+
+#include <QString>
 
 namespace Help {
 

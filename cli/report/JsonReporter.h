@@ -3,19 +3,25 @@
 
 #include "cli/report/Reporter.h"
 
-class QJsonObject;
+#include <QHash>
 
-/// One JSON object a line, each with an "event". Failures also go to standard error.
+/// One JSON object a line, as docs/json.md describes it. Failures also go to standard error.
 class JsonReporter : public Reporter {
 public:
     [[nodiscard]] std::chrono::milliseconds interval() const override;
     void started(const ConversionItem &item) override;
-    void progressed(const ConversionItem &item, const ProgressSample &sample) override;
-    void converted(const ConversionItem &item, const Outcome &outcome,
-        std::chrono::milliseconds elapsed) override;
+    void progressed(const std::vector<RunningSample> &running, const BatchSum &sum,
+        const ProgressSample &whole) override;
+    void converted(const ConversionItem &item, const ConvertedVideo &video) override;
+    void skipped(const ConversionItem &item) override;
+    void leftOut(const ConversionItem &item, const Outcome &outcome) override;
     void failed(const ConversionItem &item, const Outcome &outcome) override;
-    void summedUp(int converted, int all) override;
+    void summedUp(const BatchSum &sum) override;
+    ExitCode refused(const QString &name, const Outcome &outcome) override;
+
+    /// The command line itself is wrong.
+    static void misused(const QString &message);
 
 private:
-    qint64 m_lastCompleted = -1;
+    QHash<QString, qint64> m_lastCompleted;
 };

@@ -15,7 +15,7 @@ QString proposedName(const QString &sourcePath, const QString &folder, const QSt
     const auto pathOf = [&](const QString &candidate) {
         return Path::stringByAppendingPathComponent(folder, candidate + u'.' + ext);
     };
-    if (!isSameFile(pathOf(name), sourcePath))
+    if (!isOneOf(pathOf(name), { sourcePath }))
         return name;
     QString numbered;
     int number = 2;

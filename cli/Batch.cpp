@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Batch.h"
+
+#include "cli/report/Diagnostics.h"
+#include "engine/Async.h"
+#include "engine/Conversion.h"
+#include "engine/ExistingResult.h"
+#include "support/Interruption.h"
+#include "support/MainQueue.h"
+#include "support/Path.h"
+#include "support/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QThread>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Encoders use several threads themselves: more jobs than cores only cost memory.
+std::size_t jobsWanted(int number)
+{
+    const int jobs = number == 0 ? QThread::idealThreadCount() : number;
+    return static_cast<std::size_t>(std::max(jobs, 1));
+}
+
+/// What a folder or a list holds beside videos is no failure.
+bool isLeftOut(const Input &input, const Outcome &outcome)
+{
+    return input.isFound
+        && (outcome.reason == Reason::NotMedia || outcome.reason == Reason::NoDuration
+            || outcome.reason == Reason::TooShort || outcome.reason == Reason::EmptyFile
+            || outcome.reason == Reason::NotRegularFile);
+}
+
+/// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
+bool isVideoOrMusic(const JSON &info)
+{
+    if (info[QStringLiteral("format")][QStringLiteral("format_name")].stringValue() == u"tty")
+        return false;
+    const std::vector<JSON> streams = info[QStringLiteral("streams")].array();
+    return std::any_of(streams.begin(), streams.end(), [](const JSON &stream) {
+        const QString kind = stream[QStringLiteral("codec_type")].stringValue();
+        return kind == u"video" || kind == u"audio";
+    });
+}
+
+Outcome outcomeOf(const Progress &progress)
+{
+    Outcome outcome = progress.outcome();
+    const bool hasFailed = kindOf(outcome) == OutcomeKind::Failed;
+    // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
+    if (hasFailed && Interruption::signal() != 0)
+        return { Reason::Cancelled };
+    // The engine prints the output of a failed tool itself, unless it can't be decoded.
+    const QByteArray output = progress.toolOutput();
+    if (!hasFailed || Text::stringValue(output).isEmpty())
+        Diagnostics::write(output);
+    return outcome;
+}
+
+}
+
+Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter,
+    Interruption &interruption)
+    : m_line(line)
+    , m_items(std::move(items))
+    , m_reporter(reporter)
+    , m_interruption(interruption)
+    , m_jobs(jobsWanted(line.jobs))
+    , m_firstFailed(m_items.size())
+{
+    m_sum.all = m_items.size();
+    for (const ConversionItem &item : m_items) {
+        m_others.sources << item.input.path;
+        m_others.otherResults << item.destPath;
+    }
+}
+
+ExitCode Batch::run()
+{
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &m_loop, [this] { report(); });
+    QObject::connect(&m_interruption, &Interruption::arrived, &m_loop, [this] { stop(); });
+    timer.start(m_reporter.interval());
+    m_clock.start();
+    MainQueue::post([this] { goOn(); });
+    m_loop.exec();
+    if (Interruption::signal() != 0 && m_sum.ended() < m_sum.all)
+        m_code = ExitCode::Cancelled;
+    if (m_sum.all > 1)
+        m_reporter.summedUp(m_sum);
+    return m_code;
+}
+
+void Batch::goOn()
+{
+    if (Interruption::signal() != 0)
+        stop();
+    while (!m_isStopped && m_running.size() < m_jobs && !m_ready.empty()) {
+        const Examined video = std::move(m_ready.front());
+        m_ready.pop_front();
+        start(video);
+    }
+    while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
+        examine(m_next++);
+    if (isOver())
+        m_loop.quit();
+}
+
+bool Batch::isOver() const
+{
+    // Who was interrupted does not wait for examinations.
+    const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
+    return m_running.empty() && (m_isStopped || !isWaiting);
+}
+
+ConversionJob Batch::jobOf(std::size_t index, const JSON &info) const
+{
+    const ConversionItem &item = m_items[index];
+    return { item.input.path, item.destPath, m_line.entries.front(), info };
+}
+
+std::optional<Outcome> Batch::refusalOfDestination(std::size_t index) const
+{
+    Destination destination = m_others;
+    destination.path = m_items[index].destPath;
+    destination.overwrite = m_line.overwrite || m_line.skipExisting;
+    return refusalOf(destination);
+}
+
+void Batch::examine(std::size_t index)
+{
+    const Input &input = m_items[index].input;
+    if (!input.isFound) {
+        if (const auto refusal = refusalOfDestination(index))
+            return settle(index, *refusal);
+    }
+    ++m_examining;
+    FFMPEG::collectMovieInfo(
+        input.path,
+        [this, index](const Outcome &refusal) {
+            --m_examining;
+            // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
+            if (Interruption::signal() == 0)
+                settle(index, refusal);
+            goOn();
+        },
+        [this, index](const JSON &info, const QImage &, const QString &) {
+            --m_examining;
+            wasExamined({ .index = index, .info = info });
+            goOn();
+        },
+        Cover::LeftOut);
+}
+
+void Batch::wasExamined(Examined video)
+{
+    const Input &input = m_items[video.index].input;
+    if (m_isStopped)
+        return;
+    if (input.isFound) {
+        if (!isVideoOrMusic(video.info))
+            return settle(video.index, { Reason::NotMedia });
+        // The results' tree is made as far as it is needed.
+        QDir().mkpath(Path::stringByDeletingLastPathComponent(m_items[video.index].destPath));
+        if (const auto refusal = refusalOfDestination(video.index))
+            return settle(video.index, *refusal);
+    }
+    video.replaces = m_line.overwrite;
+    if (m_line.skipExisting && QFileInfo::exists(m_items[video.index].destPath))
+        checkExisting(video);
+    else
+        m_ready.push_back(std::move(video));
+}
+
+void Batch::checkExisting(const Examined &video)
+{
+    ++m_examining;
+    Async::background([this, video, looking = m_looking, job = jobOf(video.index, video.info)] {
+        const bool isWhole = holdsWholeResult(job, *looking);
+        MainQueue::post([this, video, isWhole] {
+            --m_examining;
+            if (isWhole) {
+                ++m_sum.skipped;
+                m_reporter.skipped(m_items[video.index]);
+            } else {
+                m_ready.push_back({ video.index, video.info, true });
+            }
+            goOn();
+        });
+    });
+}
+
+void Batch::start(const Examined &video)
+{
+    Running &running = m_running[video.index];
+    running.info = video.info;
+    running.clock.start();
+    m_reporter.started(m_items[video.index]);
+    running.progress = Conversion::start(jobOf(video.index, video.info),
+        video.replaces ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
+    running.progress->setEndHandler(
+        [this, index = video.index] { MainQueue::post([this, index] { hasEnded(index); }); });
+}
+
+void Batch::report()
+{
+    std::vector<RunningSample> samples;
+    double fraction = 0;
+    for (auto &[index, running] : m_running) {
+        ProgressSample sample{ .completed = running.progress->completedUnitCount(),
+            .total = running.progress->totalUnitCount(),
+            .elapsed = std::chrono::milliseconds(running.clock.elapsed()) };
+        sample.left = running.steadyTime.shown(sample.secondsLeft());
+        fraction += running.progress->fractionCompleted();
+        samples.push_back({ &m_items[index], sample });
+    }
+    // What was skipped took no time and says nothing about the rest.
+    constexpr qint64 parts = 1000;
+    const auto done = static_cast<double>(m_sum.ended() - m_sum.skipped) + fraction;
+    ProgressSample whole{ .completed = static_cast<qint64>(done * static_cast<double>(parts)),
+        .total = static_cast<qint64>(m_sum.all - m_sum.skipped) * parts,
+        .elapsed = std::chrono::milliseconds(m_clock.elapsed()) };
+    whole.left = m_steadyTime.shown(whole.secondsLeft());
+    m_reporter.progressed(samples, m_sum, whole);
+}
+
+void Batch::hasEnded(std::size_t index)
+{
+    const auto node = m_running.extract(index);
+    const Running &running = node.mapped();
+    const Outcome outcome = outcomeOf(*running.progress);
+    if (outcome.isDone()) {
+        ++m_sum.converted;
+        ConversionJob job = jobOf(index, running.info);
+        for (const Remedy remedy : outcome.remedies)
+            job = remedied(job, remedy);
+        m_reporter.converted(m_items[index],
+            { .outcome = outcome,
+                .work = plannedWork(job.constraints, job.conversionInfo),
+                .seconds = running.progress->totalUnitCount(),
+                .elapsed = std::chrono::milliseconds(running.clock.elapsed()) });
+    } else {
+        settle(index, outcome);
+    }
+    goOn();
+}
+
+void Batch::settle(std::size_t index, const Outcome &outcome)
+{
+    if (isLeftOut(m_items[index].input, outcome)) {
+        --m_sum.all;
+        return m_reporter.leftOut(m_items[index], outcome);
+    }
+    ++m_sum.failed;
+    m_reporter.failed(m_items[index], outcome);
+    if (index < m_firstFailed) {
+        m_firstFailed = index;
+        m_code = exitCodeOf(kindOf(outcome));
+    }
+    // The other videos have no better chance.
+    if (kindOf(outcome) == OutcomeKind::ToolMissing)
+        stop();
+}
+
+void Batch::stop()
+{
+    m_isStopped = true;
+    m_ready.clear();
+    m_looking->cancel();
+    for (const auto &[index, running] : m_running)
+        running.progress->cancel();
+    if (isOver())
+        m_loop.quit();
+}

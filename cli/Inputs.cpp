@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Inputs.h"
+
+#include "cli/ConversionItem.h"
+#include "planning/ConversionDescriptor.h"
+#include "support/Path.h"
+#include "support/StandardInput.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto listLimit = qint64{ 256 } * 1024 * 1024;
+
+/// Leaves out what an earlier run into the same tree has made: the names that this run would write.
+/// Any other file of the output's format is a video like the rest.
+void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
+{
+    const VideoConstraints &entry = line.entries.front();
+    const QString extension = conversionDescriptor(entry.format).ext;
+    const auto mayBeResult
+        = [&](const Input &input) { return Path::pathExtension(input.path) == extension; };
+    std::vector<Input> sources = inputs;
+    std::erase_if(sources, mayBeResult);
+    // Results of the other parts of a divided list are results too.
+    line.shard = {};
+    QSet<QString> results;
+    if (!sources.empty()) {
+        for (const ConversionItem &item : conversionItems(line, entry, sources))
+            results << item.destPath;
+    }
+    std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
+}
+
+std::vector<Input> inputsIn(const CommandLine &line)
+{
+    const QString root = absolutePath(line.tree + u'/');
+    const QString results = absolutePath(line.folder + u'/');
+    std::vector<Input> inputs;
+    // Links to folders are not followed: they may lead in a circle.
+    for (QDirIterator files(line.tree, QDir::Files, QDirIterator::Subdirectories);
+         files.hasNext();) {
+        const QString name = files.next();
+        const QString path = absolutePath(name);
+        const bool isBelow = results.size() > root.size() && path.startsWith(results);
+        const QString subfolder = Path::stringByDeletingLastPathComponent(path.sliced(root.size()));
+        if (!isBelow)
+            inputs.push_back(
+                { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
+    }
+    dropEarlierResults(inputs, line);
+    std::sort(inputs.begin(), inputs.end(),
+        [](const Input &left, const Input &right) { return left.path < right.path; });
+    return inputs;
+}
+
+std::optional<QStringList> namesIn(const CommandLine &line)
+{
+    QByteArray bytes;
+    if (line.list == u"-") {
+        bytes = StandardInput::readAll(listLimit);
+    } else {
+        QFile file(line.list);
+        if (!file.open(QIODevice::ReadOnly))
+            return std::nullopt;
+        bytes = file.read(listLimit);
+    }
+    QStringList names;
+    for (const QByteArray &name : bytes.split(line.listIsNullSeparated ? '\0' : '\n'))
+        names << QFile::decodeName(name);
+    names.removeAll(QString());
+    return names;
+}
+
+}
+
+std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
+{
+    QStringList names = line.inputs;
+    if (!line.list.isEmpty()) {
+        const auto listed = namesIn(line);
+        if (!listed)
+            return InputRefusal{ line.list, { Reason::ListNotReadable } };
+        names += *listed;
+    }
+    std::vector<Input> inputs;
+    for (const QString &name : names)
+        inputs.push_back({ .name = name, .path = absolutePath(name) });
+    if (!line.tree.isEmpty()) {
+        const QDir tree(line.tree);
+        if (!tree.exists() || !tree.isReadable())
+            return InputRefusal{ line.tree, { Reason::TreeNotReadable } };
+        const std::vector<Input> found = inputsIn(line);
+        inputs.insert(inputs.end(), found.begin(), found.end());
+    }
+    QSet<QString> known;
+    std::erase_if(inputs, [&](const Input &input) {
+        const qsizetype before = known.size();
+        return known.insert(input.path), known.size() == before;
+    });
+    return inputs;
+}
+
+QString absolutePath(const QString &path)
+{
+    static const QRegularExpression nothing(u"/(?:\\.?/)+"_s);
+    // A removed current folder has no path; without the dot the path would begin at the root.
+    const QString folder = QDir::currentPath().isEmpty() ? u"."_s : QDir::currentPath();
+    QString absolute = path.startsWith(u'/') ? path : folder + u'/' + path;
+    return absolute.replace(nothing, u"/"_s);
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/arguments/CommandLine.h"
+#include "engine/Outcome.h"
+
+#include <variant>
+#include <vector>
+
+/// A file to convert.
+struct Input {
+    /// As the user wrote it, or found below a folder that the user named.
+    QString name;
+    /// Absolute.
+    QString path;
+    /// Where it lies below that folder: "" or "a/b".
+    QString subfolder = {};
+    /// Found, not named: what is no video is left out without a word.
+    bool isFound = false;
+};
+
+/// Why a list or a folder of inputs can't be read.
+struct InputRefusal {
+    QString name;
+    Outcome outcome;
+};
+
+/// The videos of a command line, each once, with those of a folder and a list. Hidden files and
+/// what an earlier run made beside a video are left out. No file is opened. Thread: main.
+[[nodiscard]] std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line);
+
+/// Made absolute, because the tools take a dash for an option and a colon for a protocol. A ".."
+/// may lead through a link and stays.
+[[nodiscard]] QString absolutePath(const QString &path);
