@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QThread>
 #include <QTimer>
 
@@ -26,13 +27,16 @@ std::size_t jobsWanted(int number)
     return static_cast<std::size_t>(std::max(jobs, 1));
 }
 
-/// What a folder or a list holds beside videos is no failure.
+/// What a folder holds beside videos is no failure; what is called a video there and can't be read
+/// is one.
 bool isLeftOut(const Input &input, const Outcome &outcome)
 {
-    return input.isFound
-        && (outcome.reason == Reason::NotMedia || outcome.reason == Reason::NoDuration
-            || outcome.reason == Reason::TooShort || outcome.reason == Reason::EmptyFile
-            || outcome.reason == Reason::NotRegularFile);
+    static const QSet<Reason> reasons{ Reason::NotMedia, Reason::NoDuration, Reason::TooShort,
+        Reason::EmptyFile, Reason::NotRegularFile };
+    const QMimeType type
+        = QMimeDatabase().mimeTypeForFile(input.name, QMimeDatabase::MatchExtension);
+    return input.isFound && reasons.contains(outcome.reason)
+        && !type.name().startsWith(QLatin1StringView("video/"));
 }
 
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
@@ -88,8 +92,11 @@ ExitCode Batch::run()
     m_clock.start();
     MainQueue::post([this] { goOn(); });
     m_loop.exec();
-    if (Interruption::signal() != 0 && m_sum.ended() < m_sum.all)
+    if (Interruption::signal() != 0 && (m_isCancelled || m_sum.ended() < m_sum.all))
         m_code = ExitCode::Cancelled;
+    // Those that stayed empty go; the others stay.
+    for (const QString &folder : std::as_const(m_madeFolders))
+        QDir().rmdir(folder);
     if (m_sum.all > 1)
         m_reporter.summedUp(m_sum);
     return m_code;
@@ -164,8 +171,7 @@ void Batch::wasExamined(Examined video)
     if (input.isFound) {
         if (!isVideoOrMusic(video.info))
             return settle(video.index, { Reason::NotMedia });
-        // The results' tree is made as far as it is needed.
-        QDir().mkpath(Path::stringByDeletingLastPathComponent(m_items[video.index].destPath));
+        makeFolder(Path::stringByDeletingLastPathComponent(m_items[video.index].destPath));
         if (const auto refusal = refusalOfDestination(video.index))
             return settle(video.index, *refusal);
     }
@@ -174,6 +180,16 @@ void Batch::wasExamined(Examined video)
         checkExisting(video);
     else
         m_ready.push_back(std::move(video));
+}
+
+/// The results' tree is made as far as it is needed.
+void Batch::makeFolder(const QString &path)
+{
+    if (path.isEmpty() || QFileInfo::exists(path))
+        return;
+    makeFolder(Path::stringByDeletingLastPathComponent(path));
+    if (QDir().mkdir(path))
+        m_madeFolders.prepend(path);
 }
 
 void Batch::checkExisting(const Examined &video)
@@ -256,6 +272,7 @@ void Batch::settle(std::size_t index, const Outcome &outcome)
         return m_reporter.leftOut(m_items[index], outcome);
     }
     ++m_sum.failed;
+    m_isCancelled |= kindOf(outcome) == OutcomeKind::Cancelled;
     m_reporter.failed(m_items[index], outcome);
     if (index < m_firstFailed) {
         m_firstFailed = index;

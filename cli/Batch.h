@@ -45,6 +45,7 @@ private:
     void goOn();
     void examine(std::size_t index);
     void wasExamined(Examined video);
+    void makeFolder(const QString &path);
     void checkExisting(const Examined &video);
     void start(const Examined &video);
     void report();
@@ -71,6 +72,9 @@ private:
     std::deque<Examined> m_ready;
     std::map<std::size_t, Running> m_running;
     bool m_isStopped = false;
+    bool m_isCancelled = false;
+    /// Inner ones first.
+    QStringList m_madeFolders;
     /// Cancels looks at existing results.
     std::shared_ptr<Progress> m_looking = std::make_shared<Progress>(-1);
     BatchSum m_sum;

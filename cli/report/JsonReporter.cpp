@@ -152,7 +152,8 @@ void JsonReporter::summedUp(const BatchSum &sum)
 ExitCode JsonReporter::refused(const QString &name, const Outcome &outcome)
 {
     const bool isInput = kindOf(outcome) == OutcomeKind::InputRefused;
-    print(u"refused"_s, isInput ? name : QString(), isInput ? QString() : name,
+    const QString path = absolutePath(name);
+    print(u"refused"_s, isInput ? path : QString(), isInput ? QString() : path,
         failureFields(outcome));
     return Reporter::refused(name, outcome);
 }

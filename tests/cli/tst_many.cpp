@@ -63,14 +63,15 @@ private Q_SLOTS:
         m_command.prepare(
             u"mkdir -p in/sub in/.git out; cp video.mp4 in/sub/a.mov; cp video.mp4 in/b.mov;"
             "cp video.mp4 in/.git/c.mov; cp video.mp4 in/.d.mov; echo text > in/notes.txt;"
-            "ln -s .. in/sub/circle; echo nothing > in/empty.srt"_s);
+            "ln -s .. in/sub/circle; echo nothing > in/empty.srt; echo x > in/broken.mov"_s);
     }
 
     void tree_isConvertedOnce()
     {
         const QString line = u"convert --to mkv -r in -d out -j 2 --json"_s;
         QCOMPARE(ends(eventsOf(line)),
-            (QStringList{ u"converted a.mkv"_s, u"converted b.mkv"_s, u"skipped  not-media"_s,
+            (QStringList{ u"converted a.mkv"_s, u"converted b.mkv"_s,
+                u"failed broken.mkv not-media"_s, u"skipped  not-media"_s,
                 u"skipped  not-media"_s }));
         QCOMPARE(m_command.listing().filter(u"out/"_s).filter(u".mkv"_s).size(), 2);
         QVERIFY(QFile::exists(m_command.path(u"out/sub/a.mkv"_s)));
@@ -80,6 +81,7 @@ private Q_SLOTS:
         const qint64 size = QFileInfo(cut).size();
         QVERIFY(QFile::resize(cut, size / 2));
         const QDateTime whole = QFileInfo(m_command.path(u"out/sub/a.mkv"_s)).lastModified();
+        m_command.prepare(u"rm in/broken.mov"_s);
         QCOMPARE(ends(eventsOf(line + u" --skip-existing"_s)).filter(u"mkv"_s),
             (QStringList{ u"converted b.mkv"_s, u"skipped a.mkv whole-result-exists"_s }));
         QCOMPARE(QFileInfo(cut).size(), size);
