@@ -929,9 +929,9 @@ Are you sure you want to continue?</source>
         <translation>نسخ الأمر</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>لم تنجح المحاولة الأولى، وهذه محاولة ثانية بطريقة أخرى.</translation>
+        <translation>محاولة ثانية بطريقة أخرى: لم تنجح الأولى.</translation>
     </message>
     <message>
         <source>Try another format</source>

@@ -921,7 +921,7 @@ Möchten Sie wirklich fortfahren?</translation>
     <message>
         <source>One video is converted at a time here. Left out: %d</source>
         <comment>several videos were dropped, with the number of the others</comment>
-        <translation>Hier wird immer nur ein Video auf einmal konvertiert. Ausgelassen: %d</translation>
+        <translation>Nur ein Video auf einmal. Ausgelassen: %d</translation>
     </message>
     <message>
         <source>Copy command</source>
@@ -929,9 +929,9 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Befehl kopieren</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>Der erste Versuch konnte nicht gelingen, daher folgt ein zweiter auf anderem Weg.</translation>
+        <translation>Zweiter Versuch auf anderem Weg; der erste misslang.</translation>
     </message>
     <message>
         <source>Try another format</source>

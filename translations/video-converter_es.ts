@@ -921,7 +921,7 @@ Are you sure you want to continue?</source>
     <message>
         <source>One video is converted at a time here. Left out: %d</source>
         <comment>several videos were dropped, with the number of the others</comment>
-        <translation>Aquí se convierte un vídeo a la vez. Omitidos: %d</translation>
+        <translation>Un vídeo a la vez. Omitidos: %d</translation>
     </message>
     <message>
         <source>Copy command</source>
@@ -929,9 +929,9 @@ Are you sure you want to continue?</source>
         <translation>Copiar comando</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>El primer intento no podía funcionar; se está probando de otra manera.</translation>
+        <translation>Segundo intento, de otro modo: el primero falló.</translation>
     </message>
     <message>
         <source>Try another format</source>

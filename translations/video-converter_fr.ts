@@ -921,7 +921,7 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
     <message>
         <source>One video is converted at a time here. Left out: %d</source>
         <comment>several videos were dropped, with the number of the others</comment>
-        <translation>Une seule vidéo est convertie à la fois ici. Vidéos ignorées&#xa0;: %d</translation>
+        <translation>Une vidéo à la fois. Laissées de côté&#xa0;: %d</translation>
     </message>
     <message>
         <source>Copy command</source>
@@ -929,9 +929,9 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Copier la commande</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>La première tentative ne pouvait pas aboutir&#xa0;; en voici une seconde, par une autre méthode.</translation>
+        <translation>Deuxième essai, par une autre voie&#xa0;: le premier a échoué.</translation>
     </message>
     <message>
         <source>Try another format</source>

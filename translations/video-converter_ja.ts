@@ -929,9 +929,9 @@ Are you sure you want to continue?</source>
         <translation>コマンドをコピー</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>最初の方法では変換できないため、別の方法で再試行しています。</translation>
+        <translation>最初の試行に失敗したため、別の方法で再試行しています。</translation>
     </message>
     <message>
         <source>Try another format</source>

@@ -921,7 +921,7 @@ Tem certeza de que deseja continuar?</translation>
     <message>
         <source>One video is converted at a time here. Left out: %d</source>
         <comment>several videos were dropped, with the number of the others</comment>
-        <translation>Aqui é convertido um vídeo por vez. Deixados de fora: %d</translation>
+        <translation>Um vídeo por vez. Deixados de fora: %d</translation>
     </message>
     <message>
         <source>Copy command</source>
@@ -929,9 +929,9 @@ Tem certeza de que deseja continuar?</translation>
         <translation>Copiar comando</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>A primeira tentativa não tinha como funcionar; esta é a segunda, de outra maneira.</translation>
+        <translation>Segunda tentativa, de outro modo: a primeira falhou.</translation>
     </message>
     <message>
         <source>Try another format</source>

@@ -921,7 +921,7 @@ Are you sure you want to continue?</source>
     <message>
         <source>One video is converted at a time here. Left out: %d</source>
         <comment>several videos were dropped, with the number of the others</comment>
-        <translation>Здесь видео конвертируются по одному. Пропущено: %d</translation>
+        <translation>По одному видео за раз. Пропущено: %d</translation>
     </message>
     <message>
         <source>Copy command</source>
@@ -929,9 +929,9 @@ Are you sure you want to continue?</source>
         <translation>Скопировать команду</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>Первая попытка не удалась, поэтому идёт вторая — другим способом.</translation>
+        <translation>Вторая попытка, другим способом: первая не удалась.</translation>
     </message>
     <message>
         <source>Try another format</source>

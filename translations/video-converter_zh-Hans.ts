@@ -929,9 +929,9 @@ Are you sure you want to continue?</source>
         <translation>复制命令</translation>
     </message>
     <message>
-        <source>The first try could not work, so this is a second one in another way.</source>
+        <source>Second try, in another way: the first one could not work.</source>
         <comment>while converting</comment>
-        <translation>第一次尝试无法完成，正在换一种方式重试。</translation>
+        <translation>首次尝试失败，正以另一种方式重试。</translation>
     </message>
     <message>
         <source>Try another format</source>

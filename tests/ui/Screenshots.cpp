@@ -96,7 +96,7 @@ private Q_SLOTS:
         click("cancelProgressButton");
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         m_user.names << u"done"_s;
-        QVERIFY(convert("reports:100:100", WindowUIState::ConversionIsDone, name));
+        QVERIFY(convert("copy|reports:100:100", WindowUIState::ConversionIsDone, name));
         take(u"5-done"_s);
         SettingsDialog settings(m_delegate->window());
         settings.show();

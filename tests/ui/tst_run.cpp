@@ -121,8 +121,8 @@ private Q_SLOTS:
             u"mpeg4"_s, path(u"odd.avi"_s) });
         QCOMPARE(comment(u"odd.avi"_s, u"MP4"_s),
             u"The picture was made a little smaller, because this output needs even sizes."_s);
-        QCOMPARE(said("secondTryLabel"),
-            u"The first try could not work, so this is a second one in another way."_s);
+        QCOMPARE(
+            said("secondTryLabel"), u"Second try, in another way: the first one could not work."_s);
 
         Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));

@@ -117,8 +117,7 @@ void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
 {
     m_outlets.secondTryLabel->setText(isSecondTry
             ? localized(QT_TRANSLATE_NOOP3("Localizable",
-                "The first try could not work, so this is a second one in another way.",
-                "while converting"))
+                "Second try, in another way: the first one could not work.", "while converting"))
             : QString());
     if (isSecondTry)
         applyAddedControls(m_outlets, WindowUIState::Converting);
