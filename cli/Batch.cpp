@@ -143,7 +143,9 @@ void Batch::examine(std::size_t index)
         input.path,
         [this, index](const Outcome &refusal) {
             --m_examining;
-            settle(index, Interruption::signal() != 0 ? Outcome{ Reason::Cancelled } : refusal);
+            // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
+            if (Interruption::signal() == 0)
+                settle(index, refusal);
             goOn();
         },
         [this, index](const JSON &info, const QImage &, const QString &) {
@@ -177,8 +179,8 @@ void Batch::wasExamined(Examined video)
 void Batch::checkExisting(const Examined &video)
 {
     ++m_examining;
-    Async::background([this, video, job = jobOf(video.index, video.info)] {
-        const bool isWhole = holdsWholeResult(job);
+    Async::background([this, video, looking = m_looking, job = jobOf(video.index, video.info)] {
+        const bool isWhole = holdsWholeResult(job, *looking);
         MainQueue::post([this, video, isWhole] {
             --m_examining;
             if (isWhole) {
@@ -233,7 +235,9 @@ void Batch::hasEnded(std::size_t index)
     const Outcome outcome = outcomeOf(*running.progress);
     if (outcome.isDone()) {
         ++m_sum.converted;
-        const ConversionJob job = remedied(jobOf(index, running.info), outcome.remedy);
+        ConversionJob job = jobOf(index, running.info);
+        for (const Remedy remedy : outcome.remedies)
+            job = remedied(job, remedy);
         m_reporter.converted(m_items[index],
             { .outcome = outcome,
                 .work = plannedWork(job.constraints, job.conversionInfo),
@@ -266,6 +270,7 @@ void Batch::stop()
 {
     m_isStopped = true;
     m_ready.clear();
+    m_looking->cancel();
     for (const auto &[index, running] : m_running)
         running.progress->cancel();
     if (isOver())

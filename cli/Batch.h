@@ -71,6 +71,8 @@ private:
     std::deque<Examined> m_ready;
     std::map<std::size_t, Running> m_running;
     bool m_isStopped = false;
+    /// Cancels looks at existing results.
+    std::shared_ptr<Progress> m_looking = std::make_shared<Progress>(-1);
     BatchSum m_sum;
     /// The first video, in their order, that was not converted decides the exit status.
     std::size_t m_firstFailed;

@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <mutex>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -64,17 +65,20 @@ Outcome Conversion::converted()
             { .path = m_job.destPath, .sources = { m_job.path }, .overwrite = m_overwrite }))
         return *refusal;
     StagedFile staged(m_job.destPath);
-    const Outcome first = tried(m_job, staged);
-    const Remedy remedy = first.reason == Reason::PictureMissing && takesCoverForPicture(m_job)
-        ? Remedy::CoverLeftOut
-        : remedyFor(first, m_output, m_job);
-    if (remedy == Remedy::None || m_progress->isCancelled())
-        return placed(staged, first);
-    Outcome second = tried(remedied(m_job, remedy), staged);
-    if (kindOf(second) == OutcomeKind::Failed)
-        return { Reason::StreamNotTaken };
-    second.remedy = remedy;
-    return placed(staged, second);
+    ConversionJob job = m_job;
+    Outcome outcome = tried(job, staged);
+    QList<Remedy> remedies;
+    // Music may come with a cover and with a sample rate that the output can't hold: one more try
+    // for each cause.
+    for (Remedy remedy = remedyFor(outcome, m_output, job);
+         remedy != Remedy::None && !remedies.contains(remedy) && !m_progress->isCancelled();
+         remedy = remedyFor(outcome, m_output, job)) {
+        remedies << remedy;
+        job = remedied(job, remedy);
+        outcome = tried(job, staged);
+    }
+    outcome.remedies = remedies;
+    return placed(staged, outcome);
 }
 
 Outcome Conversion::tried(const ConversionJob &job, StagedFile &staged)
@@ -126,14 +130,19 @@ Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) cons
 {
     const RunReport report = reportOf(m_output, { job.path, job.destPath });
     Lengths expected = expectedOf(job);
-    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
-    if (outcome.isDone() && isInDoubt(run, report, expected)) {
-        // What the tool had to guess says nothing about the end.
-        if (report.lengthIsGuessed)
-            expected = expected.withoutLengths();
-        const auto lengths = measured(job.destPath);
-        outcome = lengths ? judged(*lengths, expected) : run;
+    const SourceData data = dataOf(job.path);
+    expected.isGuessed = report.lengthIsGuessed && data.claim <= 1;
+    for (std::optional<double> *length : { &expected.picture, &expected.sound }) {
+        if (*length)
+            **length *= data.claim;
     }
+    // A copy has all packets, whatever is in them.
+    const bool copiesHole = data.hasHole && conversionArguments(job).contains(u"copy");
+    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
+    if (outcome.isDone() && (copiesHole || isInDoubt(run, report, expected)))
+        outcome
+            = inspected(job, expected, copiesHole ? Reading::Frames : Reading::Packets, *m_progress)
+                  .value_or(run);
     outcome.damagedPlaces = report.damagedPlaces;
     outcome.firstDamage = report.firstDamage;
     return outcome;

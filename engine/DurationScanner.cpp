@@ -44,7 +44,7 @@ std::optional<qint64> DurationScanner::duration()
     if (match.hasMatch()) {
         // Only the first match counts, even when it holds no time ("N/A").
         m_decided = true;
-        m_duration = ToolOutput::getFFMpegDuration(Pattern::substringFromCheckingResult(match, 1));
+        m_duration = ToolOutput::printedSeconds(Pattern::substringFromCheckingResult(match, 1));
         m_tail.clear();
     } else {
         dropSearchedLines(searchedEnd);

@@ -19,14 +19,13 @@ bool lengthIsGuessed(const JSON &info)
 
 }
 
-bool holdsWholeResult(const ConversionJob &job)
+bool holdsWholeResult(const ConversionJob &job, const Progress &progress)
 {
     const QFileInfo result(job.destPath);
     if (!result.isFile() || result.lastModified() < QFileInfo(job.path).lastModified())
         return false;
     Lengths expected = expectedOf(job);
-    if (lengthIsGuessed(job.conversionInfo))
-        expected = expected.withoutLengths();
-    const auto lengths = measured(job.destPath);
-    return lengths && judged(*lengths, expected).isDone();
+    expected.isGuessed = lengthIsGuessed(job.conversionInfo);
+    const auto outcome = inspected(job, expected, Reading::Packets, progress);
+    return outcome && outcome->isDone();
 }

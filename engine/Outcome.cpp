@@ -88,22 +88,27 @@ constexpr bool isInOrder()
 }
 static_assert(isInOrder());
 
-// In the order of the remedies.
-constexpr std::array remedyTexts{
-    LocalizedText{ "", "" },
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The cover picture was left out, because this output can't show it.",
-        "What was done to make a conversion work"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The picture was made a little smaller, because this output needs even sizes.",
-        "What was done to make a conversion work"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The sound was encoded anew, because this output can't take it as it is.",
-        "What was done to make a conversion work"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The picture was encoded anew, because this output can't take it as it is.",
-        "What was done to make a conversion work"),
+struct RemedyRow {
+    LocalizedText cause;
+    LocalizedText remark;
 };
+
+// In the order of the remedies.
+// clang-format off
+constexpr std::array remedyRows{
+    RemedyRow { { "", "" }, { "", "" } },
+    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the cover picture.", "Why a conversion failed"),
+                QT_TRANSLATE_NOOP3("Localizable", "The cover picture was left out, because this output can't show it.", "What was done to make a conversion work") },
+    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold a picture of odd width or height.", "Why a conversion failed"),
+                QT_TRANSLATE_NOOP3("Localizable", "The picture was made a little smaller, because this output needs even sizes.", "What was done to make a conversion work") },
+    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's sound.", "Why a conversion failed"),
+                QT_TRANSLATE_NOOP3("Localizable", "The sound was encoded anew, because this output can't take it as it is.", "What was done to make a conversion work") },
+    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's picture.", "Why a conversion failed"),
+                QT_TRANSLATE_NOOP3("Localizable", "The picture was encoded anew, because this output can't take it as it is.", "What was done to make a conversion work") },
+};
+// clang-format on
+
+const RemedyRow &rowOf(Remedy remedy) { return remedyRows.at(static_cast<std::size_t>(remedy)); }
 
 const ReasonRow &rowOf(const Outcome &outcome)
 {
@@ -116,10 +121,19 @@ OutcomeKind kindOf(const Outcome &outcome) { return rowOf(outcome).kind; }
 
 QLatin1StringView nameOf(const Outcome &outcome) { return rowOf(outcome).name; }
 
+bool mayBeTheVideos(const Outcome &failure)
+{
+    return failure.reason == Reason::ToolFailed || failure.reason == Reason::StreamNotTaken
+        || failure.reason == Reason::DamagedData;
+}
+
 QString sentenceOf(const Outcome &outcome)
 {
     if (outcome.isDone())
         return {};
+    // What the last of several tries met may be the remedy's own doing.
+    if (mayBeTheVideos(outcome) && !outcome.remedies.isEmpty())
+        return localized(rowOf(outcome.remedies.first()).cause);
     const QString detail = outcome.reason == Reason::Incomplete
         ? DurationInfo(outcome.seconds).toString()
         : outcome.detail;
@@ -129,8 +143,10 @@ QString sentenceOf(const Outcome &outcome)
 QStringList remarksOn(const Outcome &outcome)
 {
     QStringList remarks;
-    if (outcome.remedy != Remedy::None)
-        remarks << localized(remedyTexts.at(static_cast<std::size_t>(outcome.remedy)));
+    if (kindOf(outcome) == OutcomeKind::Failed)
+        return remarks;
+    for (const Remedy remedy : outcome.remedies)
+        remarks << localized(rowOf(remedy).remark);
     if (outcome.firstDamage)
         remarks << formatted(
             QT_TRANSLATE_NOOP3("Localizable", "The video is damaged in places, first at %@.",

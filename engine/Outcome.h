@@ -72,7 +72,7 @@ enum class OutcomeKind {
     Cancelled,
 };
 
-/// What a second try did differently when the first one could not work.
+/// What a further try does differently when the one before could not work.
 enum class Remedy { None, CoverLeftOut, SizeMadeEven, SoundEncoded, PictureEncoded };
 
 struct Outcome {
@@ -80,7 +80,8 @@ struct Outcome {
     /// Fills the sentence: a program's path, an encoder's or muxer's name, or the tool's own words.
     QString detail = {};
     qint64 seconds = 0;
-    Remedy remedy = Remedy::None;
+    /// What further tries did differently, in their order.
+    QList<Remedy> remedies = {};
     /// Places in the source's data where the tool met errors and went on, and the second of the
     /// first one.
     int damagedPlaces = 0;
@@ -95,6 +96,8 @@ struct Outcome {
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
 /// The reason as a word for programs, such as "destination-exists". Such words never change.
 [[nodiscard]] QLatin1StringView nameOf(const Outcome &outcome);
+/// A failure that the video's own streams may have caused, not the computer.
+[[nodiscard]] bool mayBeTheVideos(const Outcome &failure);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);
 /// What else is to be said of a result: a second try, damage of the source, an older file that was

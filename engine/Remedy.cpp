@@ -2,6 +2,7 @@
 #include "engine/Remedy.h"
 
 #include "engine/RunReport.h"
+#include "engine/Verdict.h"
 #include "planning/ConversionDescriptor.h"
 
 #include <QJsonArray>
@@ -41,11 +42,9 @@ bool isAttachedPicture(const QJsonObject &stream)
     return stream[u"disposition"_s][u"attached_pic"_s].toInt() == 1;
 }
 
-bool hasAttachedPicture(const ConversionJob &job)
+bool hasOddSize(const JSON &picture)
 {
-    const QJsonArray streams = job.conversionInfo[u"streams"_s].value().toArray();
-    return std::any_of(streams.begin(), streams.end(),
-        [](const auto &stream) { return isAttachedPicture(stream.toObject()); });
+    return picture[u"width"_s].intValue() % 2 != 0 || picture[u"height"_s].intValue() % 2 != 0;
 }
 
 // The streams keep their places, which are their numbers.
@@ -74,8 +73,7 @@ void leaveCoverOut(ConversionJob &job)
 {
     const auto picture = pictureOf(job);
     editStreams(job, [&](QJsonObject &stream, qsizetype index) {
-        if (isAttachedPicture(stream)
-            || (picture && picture->index == index && !hasAttachedPicture(job)))
+        if (isAttachedPicture(stream) || (picture && picture->index == index))
             stream[u"codec_type"_s] = u"attachment"_s;
     });
 }
@@ -88,6 +86,8 @@ void makeSizeEven(ConversionJob &job)
         return;
     const qint64 longest
         = std::max(picture->item[u"width"_s].intValue(), picture->item[u"height"_s].intValue());
+    if (longest < 2)
+        return;
     const qint64 even = (longest - 1) / 2 * 2;
     job.constraints.dimension
         = VideoDimensionsConstraints::maximum({ .width = even, .height = even });
@@ -106,20 +106,25 @@ void makeRateUsual(ConversionJob &job)
 
 Remedy remedyFor(const Outcome &failure, const QByteArray &output, const ConversionJob &job)
 {
-    const bool mayBeTheVideos = failure.reason == Reason::ToolFailed
-        || failure.reason == Reason::StreamNotTaken || failure.reason == Reason::DamagedData;
-    if (!mayBeTheVideos)
+    const bool fails = mayBeTheVideos(failure);
+    if (!fails && failure.reason != Reason::PictureMissing)
         return Remedy::None;
     const auto picture = pictureOf(job);
-    if (picture && isAttachedPicture(picture->item.value().toObject()))
+    const bool isAttached = picture && isAttachedPicture(picture->item.value().toObject());
+    if (takesCoverForPicture(job) || (fails && isAttached))
         return Remedy::CoverLeftOut;
+    if (!fails)
+        return Remedy::None;
     const QStringList lines = ownLines(output, { job.path, job.destPath });
     for (const CauseRow &row : causeRows) {
         if (!lines.filter(QRegularExpression(QString::fromUtf16(row.pattern))).isEmpty())
             return row.remedy == Remedy::PictureEncoded && !picture ? Remedy::SoundEncoded
                                                                     : row.remedy;
     }
-    return Remedy::None;
+    // Not every encoder says what it has against an odd size.
+    return failure.reason == Reason::StreamNotTaken && picture && hasOddSize(picture->item)
+        ? Remedy::SizeMadeEven
+        : Remedy::None;
 }
 
 ConversionJob remedied(ConversionJob job, Remedy remedy)

@@ -48,6 +48,12 @@ std::optional<qint64> getFFMpegDuration(const QString &text)
     return group(1) * 3600 + group(2) * 60 + group(3);
 }
 
+std::optional<qint64> printedSeconds(const QString &text)
+{
+    // The longest one is "2562047788:00:54.77".
+    return text.size() <= 19 ? getFFMpegDuration(text) : std::nullopt;
+}
+
 std::optional<qint64> lastReportedPosition(const QString &block)
 {
     QRegularExpressionMatch last;
@@ -55,7 +61,7 @@ std::optional<qint64> lastReportedPosition(const QString &block)
         last = matches.next();
     if (!last.hasMatch())
         return std::nullopt;
-    return getFFMpegDuration(Pattern::substringFromCheckingResult(last, 1));
+    return printedSeconds(Pattern::substringFromCheckingResult(last, 1));
 }
 
 QString decodedBlock(const QByteArray &block)

@@ -18,6 +18,9 @@ namespace ToolOutput {
 /// Whole seconds of the first "hours:minutes:seconds" in a text. Errors: a number of seconds beyond
 /// 64 bits stops the program.
 [[nodiscard]] std::optional<qint64> getFFMpegDuration(const QString &text);
+/// The same for a text that the tool printed; absent when it is longer than any of the tool's own
+/// times, as a video's texts and names may be.
+[[nodiscard]] std::optional<qint64> printedSeconds(const QString &text);
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
 /// A block of output as text. When the tool cut a character, only its line is lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Verdict.h"
 
+#include "engine/Progress.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
+
+#include <QFile>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -22,23 +26,70 @@ double secondsIn(const QString &text)
     return std::isfinite(seconds) ? std::max(seconds, 0.0) : 0;
 }
 
-double lengthOf(const JSON &stream, const JSON &info)
+double secondsOf(const JSON &object, const QString &key)
 {
-    for (const JSON &text : { stream[u"duration"_s], stream[u"tags"_s][u"DURATION"_s],
-             info[u"format"_s][u"duration"_s] }) {
-        if (const double seconds = secondsIn(text.stringValue()); seconds > 0)
-            return seconds;
-    }
-    return 0;
+    return secondsIn(object[key].stringValue());
 }
 
-bool isCover(const JSON &stream)
+// What the stream itself says; the tag tells where it ends. 0 where it says nothing.
+double ownLength(const JSON &stream)
 {
-    return stream[u"disposition"_s][u"attached_pic"_s].intValue() == 1
-        || stream[u"nb_frames"_s].stringValue() == u"1";
+    const double length = secondsOf(stream, u"duration"_s);
+    const double end = secondsOf(stream[u"tags"_s], u"DURATION"_s);
+    return length > 0 ? length : std::max(end - secondsOf(stream, u"start_time"_s), 0.0);
+}
+
+double lengthOf(const JSON &stream, const JSON &info)
+{
+    const double whole = secondsOf(info[u"format"_s], u"duration"_s);
+    const double own = ownLength(stream);
+    return own > 0 && whole > 0 ? std::min(own, whole) : std::max(own, whole);
+}
+
+// Containers that count frames or tag their streams know each stream's own length; of others the
+// tool may have spread the file's length over all streams.
+bool statesOwnLength(const JSON &stream)
+{
+    return !stream[u"nb_frames"_s].stringValue().isEmpty()
+        || !stream[u"tags"_s][u"DURATION"_s].stringValue().isEmpty();
+}
+
+bool isPicture(const JSON &stream) { return stream[u"codec_type"_s].stringValue() == u"video"; }
+
+bool isImageFormat(const JSON &stream)
+{
+    static const QStringList formats{ u"mjpeg"_s, u"png"_s, u"bmp"_s, u"tiff"_s, u"webp"_s };
+    return formats.contains(stream[u"codec_name"_s].stringValue());
+}
+
+// Matroska keeps no mark of a cover that is a track of its own; beside a video, an image is one.
+bool isCover(const JSON &stream, const JSON &info)
+{
+    if (stream[u"disposition"_s][u"attached_pic"_s].intValue() == 1
+        || stream[u"nb_frames"_s].stringValue() == u"1")
+        return true;
+    const std::vector<JSON> all = info[u"streams"_s].array();
+    return isImageFormat(stream) && std::any_of(all.begin(), all.end(), [](const JSON &each) {
+        return isPicture(each) && !isImageFormat(each);
+    });
 }
 
 double tolerance(double expected) { return std::max(1.0, expected / 100); }
+
+// The file claims more than any of its streams does: some of it is gone.
+bool claimsMoreThanItsStreams(const JSON &info)
+{
+    const double first = secondsOf(info[u"format"_s], u"start_time"_s);
+    const double whole = secondsOf(info[u"format"_s], u"duration"_s);
+    double last = 0;
+    for (const JSON &stream : info[u"streams"_s].array()) {
+        const double length = ownLength(stream);
+        if (length <= 0 && stream[u"codec_type"_s].stringValue() != u"attachment")
+            return false;
+        last = std::max(last, secondsOf(stream, u"start_time"_s) - first + length);
+    }
+    return last > 0 && last < whole - tolerance(whole);
+}
 
 bool isShort(const std::optional<double> &length, const std::optional<double> &expected)
 {
@@ -50,14 +101,19 @@ bool isShort(const std::optional<double> &length, const std::optional<double> &e
 Lengths expectedOf(const ConversionJob &job)
 {
     const ConversionFormat format = job.constraints.format;
+    const bool claimsMore = claimsMoreThanItsStreams(job.conversionInfo);
     Lengths expected;
     for (const JSON &stream : job.conversionInfo[u"streams"_s].array()) {
         const QString kind = stream[u"codec_type"_s].stringValue();
-        const double length = lengthOf(stream, job.conversionInfo);
-        if (kind == u"video" && !isCover(stream) && format != ConversionFormat::mp3)
+        const double length = claimsMore ? secondsOf(job.conversionInfo[u"format"_s], u"duration"_s)
+                                         : lengthOf(stream, job.conversionInfo);
+        if (kind == u"video" && !isCover(stream, job.conversionInfo)
+            && format != ConversionFormat::mp3)
             expected.picture = std::max(expected.picture.value_or(0), length);
         if (kind == u"audio" && !expected.sound && format != ConversionFormat::gif)
             expected.sound = length;
+        if (kind == u"video" || kind == u"audio")
+            expected.isOfAllStreams |= !statesOwnLength(stream);
     }
     return expected;
 }
@@ -66,7 +122,7 @@ bool takesCoverForPicture(const ConversionJob &job)
 {
     const auto chosen
         = conversionDescriptor(job.constraints.format).videoStream(job.conversionInfo);
-    return chosen && isCover(chosen->item) && expectedOf(job).picture;
+    return chosen && isCover(chosen->item, job.conversionInfo) && expectedOf(job).picture;
 }
 
 bool isInDoubt(const Outcome &run, const RunReport &report, const Lengths &expected)
@@ -75,6 +131,31 @@ bool isInDoubt(const Outcome &run, const RunReport &report, const Lengths &expec
     const bool lacksSound = expected.sound && report.soundBytes.value_or(0) == 0;
     return !run.isDone() || lacksPicture || lacksSound || report.damagedPlaces > 0
         || expected.longest() <= 0 || report.position.value_or(0) < expected.longest() - 1;
+}
+
+SourceData dataOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    SourceData data;
+    const QByteArray head = file.read(8);
+    const auto size = static_cast<double>(file.size());
+    if (head.size() == 8 && head.startsWith("RIFF")) {
+        const auto claimed = qFromLittleEndian<quint32>(head.constData() + 4);
+        // The largest numbers are left by a program that did not know the size beforehand.
+        if (claimed < 0x7fffff00 && claimed + 8.0 > size)
+            data.claim = (claimed + 8.0) / size;
+    }
+    // One place may be silence between pictures; so many in a row are nothing at all.
+    constexpr int places = 64;
+    for (int place = 1, run = 0; place < places; ++place) {
+        file.seek(file.size() / places * place);
+        const QByteArray sample = file.read(512);
+        run = sample.count('\0') == 512 ? run + 1 : 0;
+        data.hasHole |= run >= 4;
+    }
+    return data;
 }
 
 void PacketReader::append(const QByteArray &chunk)
@@ -89,7 +170,7 @@ void PacketReader::append(const QByteArray &chunk)
 void PacketReader::readLine(const QByteArray &line)
 {
     const QList<QByteArray> cells = line.split(',');
-    if (cells.size() < 5 || (cells[0] != "video" && cells[0] != "audio"))
+    if (cells.size() < 5)
         return;
     bool hasTime = false;
     double time = cells[2].toDouble(&hasTime);
@@ -98,7 +179,7 @@ void PacketReader::readLine(const QByteArray &line)
     if (!hasTime)
         return;
     Stream &stream = m_streams[cells[1].toInt()];
-    stream.isPicture = cells[0] == "video";
+    stream.kind = cells[0];
     const double end = time + cells[4].toDouble();
     const bool isFirst = stream.packets++ == 0;
     stream.start = isFirst ? time : std::min(stream.start, time);
@@ -108,29 +189,39 @@ void PacketReader::readLine(const QByteArray &line)
 Lengths PacketReader::lengths() const
 {
     Lengths lengths;
+    double first = m_streams.isEmpty() ? 0 : m_streams.first().start;
+    double last = first;
     for (const Stream &stream : m_streams) {
-        auto &length = stream.isPicture ? lengths.picture : lengths.sound;
-        if (stream.packets > 1 || !stream.isPicture)
-            length = std::max(length.value_or(0), stream.end - stream.start);
+        first = std::min(first, stream.start);
+        last = std::max(last, stream.end);
+        const double length = stream.end - stream.start;
+        if (stream.kind == "video" && stream.packets > 1)
+            lengths.picture = std::max(lengths.picture.value_or(0), length);
+        else if (stream.kind == "audio")
+            lengths.sound = std::max(lengths.sound.value_or(0), length);
     }
+    lengths.whole = last - first;
     return lengths;
 }
 
-std::optional<Lengths> measured(const QString &path)
+std::optional<Lengths> measured(const QString &path, const Progress &job, Reading reading)
 {
+    const QString entries = reading == Reading::Packets
+        ? u"packet=codec_type,stream_index,pts_time,dts_time,duration_time"_s
+        : u"frame=media_type,stream_index,pts_time,pkt_dts_time,pkt_duration_time"_s;
     Task task;
     task.setLaunchPath(toolPath(Tool::Ffprobe));
-    task.setArguments({ u"-v"_s, u"quiet"_s, u"-show_entries"_s,
-        u"packet=codec_type,stream_index,pts_time,dts_time,duration_time"_s, u"-of"_s, u"csv=p=0"_s,
-        path });
+    task.setArguments(
+        { u"-v"_s, u"quiet"_s, u"-show_entries"_s, entries, u"-of"_s, u"csv=p=0"_s, path });
     task.setAccess({ { path }, {} });
     if (!task.tryLaunch())
         return std::nullopt;
     PacketReader reader;
-    while (task.isRunning() && !task.isSilentForTooLong())
+    while (task.isRunning() && !task.isSilentForTooLong() && !job.isCancelled())
         reader.append(task.availableData());
+    const bool wasStopped = task.isRunning();
     task.terminate();
-    return task.terminationStatus() == 0 ? std::optional(reader.lengths()) : std::nullopt;
+    return wasStopped ? std::nullopt : std::optional(reader.lengths());
 }
 
 Outcome judged(const Lengths &result, const Lengths &expected)
@@ -147,4 +238,34 @@ Outcome judged(const Lengths &result, const Lengths &expected)
         : shortPicture                                ? *result.picture
                                                       : *result.sound;
     return { .reason = Reason::Incomplete, .seconds = static_cast<qint64>(reached) };
+}
+
+Lengths corrected(const Lengths &expected, const Lengths &source)
+{
+    Lengths lengths = expected;
+    if (!source.picture)
+        lengths.picture.reset();
+    const double whole = expected.longest();
+    if (!expected.isOfAllStreams
+        || (!expected.isGuessed && source.whole < whole - tolerance(whole)))
+        return lengths;
+    if (lengths.picture)
+        lengths.picture = std::min(*lengths.picture, *source.picture);
+    if (lengths.sound)
+        lengths.sound = std::min(*lengths.sound, source.sound.value_or(0));
+    return lengths;
+}
+
+std::optional<Outcome> inspected(
+    const ConversionJob &job, const Lengths &expected, Reading reading, const Progress &progress)
+{
+    const auto result = measured(job.destPath, progress, reading);
+    if (!result)
+        return std::nullopt;
+    const Outcome outcome = judged(*result, expected);
+    const bool hangsOnSource = expected.isOfAllStreams || outcome.reason == Reason::PictureMissing;
+    if (outcome.isDone() || !hangsOnSource)
+        return outcome;
+    const auto source = measured(job.path, progress);
+    return source ? judged(*result, corrected(expected, *source)) : outcome;
 }

@@ -10,21 +10,21 @@
 
 struct RunReport;
 
-/// Lengths of the moving picture and the sound of a file. Units: seconds; absent where there is
-/// none.
+/// Lengths of the moving picture and the sound of a file, each from its own start. Units: seconds;
+/// absent where there is none.
 struct Lengths {
     std::optional<double> picture;
     std::optional<double> sound;
+    /// From the first start of all streams to the last end; 0 where not measured.
+    double whole = 0;
+    /// The source says only how long all of its streams are together.
+    bool isOfAllStreams = false;
+    /// The tool made it up from the source's size.
+    bool isGuessed = false;
 
     [[nodiscard]] double longest() const
     {
         return std::max(picture.value_or(0), sound.value_or(0));
-    }
-    /// The same streams, however long.
-    [[nodiscard]] Lengths withoutLengths() const
-    {
-        return { picture ? std::optional(0.0) : std::nullopt,
-            sound ? std::optional(0.0) : std::nullopt };
     }
 };
 
@@ -33,6 +33,15 @@ struct Lengths {
 [[nodiscard]] Lengths expectedOf(const ConversionJob &job);
 /// The stream that is to be the result's picture is a cover although there is a moving one.
 [[nodiscard]] bool takesCoverForPicture(const ConversionJob &job);
+
+/// What a few bytes of a source say of the rest. Thread: any.
+struct SourceData {
+    /// The size that it claims to have, by the one it has; 1 where it claims no more.
+    double claim = 1;
+    /// A part was never written, as in a download that broke off.
+    bool hasHole = false;
+};
+[[nodiscard]] SourceData dataOf(const QString &path);
 
 /// Cheap signs that a result has to be looked at. `run` is how its run ended. Thread: any.
 [[nodiscard]] bool isInDoubt(const Outcome &run, const RunReport &report, const Lengths &expected);
@@ -48,7 +57,7 @@ private:
     void readLine(const QByteArray &line);
 
     struct Stream {
-        bool isPicture = false;
+        QByteArray kind;
         qint64 packets = 0;
         double start = 0;
         double end = 0;
@@ -57,9 +66,18 @@ private:
     QMap<int, Stream> m_streams;
 };
 
-/// Reads a file packet by packet with the tool. Thread: a run's own; blocks. Errors: absent when
-/// the tool fails.
-[[nodiscard]] std::optional<Lengths> measured(const QString &path);
+/// Frames have to be decoded, which takes long.
+enum class Reading { Packets, Frames };
+/// Reads a file packet by packet with the tool; what it can't read has no length. Thread: a run's
+/// own; blocks. Errors: absent when the tool can't be run, or the job is cancelled.
+[[nodiscard]] std::optional<Lengths> measured(
+    const QString &path, const Progress &job, Reading reading = Reading::Packets);
 
 /// Done, or what is missing. Thread: any.
 [[nodiscard]] Outcome judged(const Lengths &result, const Lengths &expected);
+/// What can be expected once the source was read as well: its streams may end before its length,
+/// but not all of them.
+[[nodiscard]] Lengths corrected(const Lengths &expected, const Lengths &source);
+/// Reads the result, and the source where the answer hangs on it. Thread and errors: as measured().
+[[nodiscard]] std::optional<Outcome> inspected(
+    const ConversionJob &job, const Lengths &expected, Reading reading, const Progress &progress);

@@ -32,9 +32,22 @@ function(vc_install_compressed source folder name)
     add_custom_target(compressed-${name} ALL DEPENDS ${compressed})
     install(FILES ${compressed} DESTINATION ${folder})
 endfunction()
-foreach(program IN LISTS programs)
-    vc_install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/man/${program}.1 share/man/man1 ${program}.1)
+# The command writes its own options, for its manual page and for the completion of each shell.
+set(generated ${CMAKE_CURRENT_BINARY_DIR}/generated)
+file(MAKE_DIRECTORY ${generated})
+foreach(document IN ITEMS man bash zsh fish)
+    add_custom_command(OUTPUT ${generated}/${document}
+        COMMAND video-converter-cli --generate ${document} > ${generated}/${document}
+        DEPENDS video-converter-cli VERBATIM)
 endforeach()
+set(page ${generated}/video-converter-cli.1)
+add_custom_command(OUTPUT ${page}
+    COMMAND sed -e "/^@OPTIONS@/{r ${generated}/man" -e "d}"
+        ${CMAKE_CURRENT_SOURCE_DIR}/man/video-converter-cli.1.in > ${page}
+    DEPENDS man/video-converter-cli.1.in ${generated}/man VERBATIM)
+add_custom_target(generated ALL DEPENDS ${page} ${generated}/bash ${generated}/zsh ${generated}/fish)
+vc_install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/man/video-converter.1 share/man/man1 video-converter.1)
+vc_install_compressed(${page} share/man/man1 video-converter-cli.1)
 vc_install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md share/doc/video-converter changelog)
 vc_install_compressed(${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog share/doc/video-converter changelog.Debian)
 
@@ -44,7 +57,9 @@ install(FILES ${id}.desktop DESTINATION share/applications)
 install(FILES ${id}.metainfo.xml DESTINATION share/metainfo)
 install(FILES ${CMAKE_SOURCE_DIR}/app/icons/video-converter.svg
     DESTINATION share/icons/hicolor/scalable/apps RENAME ${id}.svg)
-install(FILES completion.bash DESTINATION share/bash-completion/completions RENAME video-converter-cli)
+install(FILES ${generated}/bash DESTINATION share/bash-completion/completions RENAME video-converter-cli)
+install(FILES ${generated}/zsh DESTINATION share/zsh/vendor-completions RENAME _video-converter-cli)
+install(FILES ${generated}/fish DESTINATION share/fish/vendor_completions.d RENAME video-converter-cli.fish)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME video-converter)

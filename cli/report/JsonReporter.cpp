@@ -52,9 +52,11 @@ Fields remarkFields(const Outcome &outcome)
     constexpr std::array remedies{ ""_L1, "cover-left-out"_L1, "size-made-even"_L1,
         "sound-encoded"_L1, "picture-encoded"_L1 };
     Fields fields;
-    if (outcome.remedy != Remedy::None)
-        fields.append(
-            { u"remedy"_s, QString(remedies.at(static_cast<std::size_t>(outcome.remedy))) });
+    QStringList names;
+    for (const Remedy remedy : outcome.remedies)
+        names << remedies.at(static_cast<std::size_t>(remedy));
+    if (!names.isEmpty())
+        fields.append({ u"remedy"_s, names.join(u' ') });
     if (outcome.damagedPlaces > 0)
         fields.append({ u"damage"_s,
             QJsonObject{ { u"places"_s, outcome.damagedPlaces },

@@ -116,12 +116,14 @@ private Q_SLOTS:
 
     void resultsOfOneRun_doNotReplaceEachOther()
     {
-        m_command->prepare(u"cp video.mp4 other.mov; ln -s video.mkv folder/other.mkv"_s);
+        m_command->prepare(
+            u"cp video.mp4 other.mov; touch folder/video.mkv; ln -s video.mkv folder/other.mkv"_s);
         const Finished converted
             = m_command->run(u"convert --to MKV video.mp4 other.mov -d folder --overwrite"_s);
         QCOMPARE(converted.end(),
-            u"4: %1: The result would replace another one of this run.\n"_s.arg(
-                m_command->path(u"folder/other.mkv"_s)));
+            u"4: %1/video.mkv: The result would replace another one of this run.\n"
+            "%1/other.mkv: The result would replace another one of this run.\n"_s.arg(
+                m_command->path(u"folder"_s)));
     }
 
     void videosOfOneName_getNumbers()
@@ -130,7 +132,7 @@ private Q_SLOTS:
         const Finished converted
             = m_command->run(u"convert --to MKV -d folder video.mp4 other/video.mov VIDEO.mov"_s);
         QCOMPARE(converted.end(), u"0: "_s);
-        QCOMPARE(files(), u"VIDEO 3.mkv|video 2.mkv|video.mkv"_s);
+        QCOMPARE(files(), u"VIDEO.mkv|video 2.mkv|video 3.mkv"_s);
     }
 
     void simultaneousRuns_writeOneFileOnce()

@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/arguments/CommandLine.h"
+#include "cli/arguments/Generated.h"
+#include "cli/arguments/Help.h"
 #include "cli/report/ProgressLine.h"
 #include "cli/report/ShownText.h"
+#include "engine/Outcome.h"
 #include "tests/fixtures/Rows.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <clocale>
 
@@ -39,16 +46,22 @@ private Q_SLOTS:
                 { "", usage, "Usage" },
                 { "burn a.mov", usage, "no command named \"burn\"" },
                 { "convert --to MP4 -o b -i.mov", usage, "Unknown option" },
-                { "probe", usage, "exactly one" },
+                { "probe", usage, "needs a file" },
                 { "probe a --overwrite", usage, "'probe' does not take --overwrite" },
-                { "plan --to MP4", usage, "either" },
-                { "plan --to MP4 a b --info c", usage, "either" },
+                { "plan --to MP4", usage, "--info alone" },
+                { "plan --to MP4 a b --info c", usage, "--info alone" },
+                { "plan --to MP4 a -r b", usage, "--info alone" },
                 { "convert --to MP4 -o b", usage, "no video" },
                 { "convert --to MP4 a", usage, "--output or --folder" },
                 { "convert --to MP4 a -o b -d c", usage, "--output or --folder" },
                 { "convert --to MP4 a b -o c", usage, "use --folder" },
                 { "convert --to MP4 --to AVI a -o b", usage, "--to needs one value" },
-                { "convert --to mp4_hd_720 a -o b", usage, "did you mean \"MP4 HD 720\"" },
+                { "convert --to hd a -o b", usage, "did you mean \"MP4 HD 720\", \"MP4 FullHD" },
+                { "convert --to mp4 a -o b.avi", usage, "\"b.avi\" is no name for \"MP4\"" },
+                { "convert --to mp4 -r a -o b", usage, "use --folder" },
+                { "convert --to mp4 a -d b -j two", usage, "--jobs takes a number" },
+                { "convert --to mp4 a -d b --shard 3/2", usage, "2/8" },
+                { "convert --to mp4 a -d b --overwrite --skip-existing", usage, "exclude" },
                 { "convert --to all a -o b", usage, "'formats' lists" },
                 { "-h", done, "Exit status" },
                 { "--help plan", done, "--info" },
@@ -79,6 +92,38 @@ private Q_SLOTS:
             QCOMPARE(line->entries.front().destDevice, u"iPhone 6, 6s"_s);
             for (const bool option : { line->json, line->verbose, line->overwrite })
                 QCOMPARE(option, words.startsWith(u"--json"_s));
+        }
+    }
+
+    void documents_nameTheSameOptions()
+    {
+        static const QRegularExpression option(u"(?:--| -l )([a-z][a-z-]+)"_s);
+        const auto optionsIn = [](const QString &text) {
+            QSet<QString> names;
+            for (const QRegularExpressionMatch &match : option.globalMatch(text))
+                names << match.captured(1);
+            return names;
+        };
+        QString help = Help::general();
+        for (std::size_t verb = 0; verb < verbNames.size(); ++verb)
+            help += Help::of(static_cast<Verb>(verb));
+        const QSet<QString> all = optionsIn(help);
+        QCOMPARE(all.size(), qsizetype(optionRows.size()));
+        for (const QString &document : { u"man"_s, u"bash"_s, u"zsh"_s, u"fish"_s }) {
+            const QString text = Generated::named(document).replace(u"\\-"_s, u"-"_s);
+            QCOMPARE(optionsIn(text), all);
+            QVERIFY(document == u"man" || text.contains(u"MP4 HD 720\n"_s));
+        }
+    }
+
+    void reasons_areDocumented()
+    {
+        QFile file(QStringLiteral(JSON_PAGE));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString page = QString::fromUtf8(file.readAll());
+        for (int reason = 1; reason <= static_cast<int>(Reason::Cancelled); ++reason) {
+            const QString name = nameOf({ static_cast<Reason>(reason) });
+            QVERIFY2(page.contains(u'`' + name + u'`'), qPrintable(name));
         }
     }
 

@@ -49,9 +49,10 @@ class TestJob : public QObject {
         QCoreApplication::processEvents();
         return progress->outcome();
     }
-    /// The exit code's group, the sentence and the remarks.
-    static QString told(const Outcome &outcome)
+    /// The sentence and the remarks. Where the first damage lies depends on the tool's speed.
+    static QString told(Outcome outcome)
     {
+        outcome.firstDamage.reset();
         return (QStringList{ sentenceOf(outcome) } + remarksOn(outcome)).join(u'|');
     }
     void write(const QString &name, const QByteArray &bytes) const
@@ -97,10 +98,23 @@ private Q_SLOTS:
             u"cover.mp3"_s);
         make(u"-i PATH/whole.mp4 -t 3 -c:v copy -c:a pcm_s16le -ar 192000"_s, u"rate.mkv"_s);
         make(u"-i PATH/whole.mp4 -c:v libx264 -bf 3 -an"_s, u"bframes.avi"_s);
-        for (const QString &name : { u"fast.mp4"_s, u"whole.mkv"_s }) {
+        make(u"-i PATH/cover.mp3 -c:a flac -ar 192000 -c:v copy -disposition:v attached_pic"_s,
+            u"studio.flac"_s);
+        make(u"-i PATH/cover.png -i PATH/whole.mp4 -map 0 -map 1:v -c:v:0 mjpeg -c:v:1 copy"_s,
+            u"cover.mkv"_s);
+        make(u"-f lavfi -i testsrc2=d=4 -i PATH/whole.mp4 -map 0 -map 1:a -c:v flv -c:a mp3"_s,
+            u"short-picture.flv"_s);
+        make(u"-i PATH/whole.mp4"_s, u"sound.wav"_s);
+        for (const QString &name : { u"fast.mp4"_s, u"whole.mkv"_s, u"sound.wav"_s }) {
             const QByteArray bytes = read(name);
             write(u"cut-"_s + name, bytes.first(bytes.size() / 2));
         }
+        QByteArray holed = read(u"fast.mp4"_s);
+        write(u"holed.mp4"_s, holed.first(holed.size() / 2).leftJustified(holed.size(), '\0'));
+        holed = read(u"whole.mp4"_s);
+        // The movie header's length, in milliseconds.
+        holed.replace(holed.indexOf("mvhd") + 20, 4, QByteArray("\0\1\0\0", 4));
+        write(u"boasting.mp4"_s, holed);
     }
     void cleanup()
     {
@@ -127,6 +141,18 @@ private Q_SLOTS:
                     "sizes." },
                 { "192 kHz", "rate.mkv", "MP4",
                     "|The sound was encoded anew, because this output can't take it as it is." },
+                { "two causes", "studio.flac", "MP4",
+                    "|The cover picture was left out, because this output can't show it."
+                    "|The sound was encoded anew, because this output can't take it as it is." },
+                { "cover as a track", "cover.mkv", "MKV",
+                    "|The cover picture was left out, because this output can't show it." },
+                { "picture shorter than the file", "short-picture.flv", "GIF", "" },
+                { "cut sound", "cut-sound.wav", "MKV",
+                    "The converting progress was finished at 4s|The video is damaged in places." },
+                { "second half never written, copied", "holed.mp4", "MKV",
+                    "The converting progress was finished at 4s|The video is damaged in places." },
+                { "longer than its streams", "boasting.mp4", "MKV",
+                    "The converting progress was finished at 8s" },
                 { "frames without time stamps", "bframes.avi", "MKV",
                     "|The picture was encoded anew, because this output can't take it as it is." },
             });
@@ -196,6 +222,7 @@ private Q_SLOTS:
         QTRY_VERIFY(progress->isEnded());
         QCOMPARE(progress->outcome().reason, Reason::DestinationExists);
         QCOMPARE(read(u"out.mkv"_s), "somebody's");
+        QTRY_COMPARE(m_errors.size(), 1);
     }
 
     void missingTool_looksCancelled()
@@ -209,6 +236,15 @@ private Q_SLOTS:
         QCOMPARE(progress->outcome().reason, Reason::ToolMissing);
         QCOMPARE(m_errors, QStringList());
         QCOMPARE(read(u"out.mkv"_s), "older");
+    }
+
+    void failureOfAllTries_namesTheFirstCause()
+    {
+        const ConversionJob request = job(u"odd.avi"_s, u"out.mp4"_s, u"MP4"_s);
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
+            "print:[libx264 @ 0x5] height not divisible by 2 (320x181)\\n|exit:1");
+        QCOMPARE(
+            told(done(request)), u"This output can't hold a picture of odd width or height."_s);
     }
 
     // The next start removes what a killed program left, and nothing that somebody holds.

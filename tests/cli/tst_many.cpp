@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "tests/cli/Command.h"
+#include "tests/fixtures/Media.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The words between backticks in a text.
+QStringList wordsIn(const QString &text)
+{
+    static const QRegularExpression word(u"`([a-zA-Z-]+)`"_s);
+    QStringList words;
+    for (const QRegularExpressionMatch &match : word.globalMatch(text))
+        words << match.captured(1);
+    return words;
+}
+
+}
+
+/// Folders and lists of videos, and what a script reads of their conversion.
+class TestMany : public QObject {
+    Q_OBJECT
+
+    QList<QJsonObject> eventsOf(const QString &line)
+    {
+        QList<QJsonObject> events;
+        for (const QString &text : m_command.run(line).out.split(u'\n', Qt::SkipEmptyParts))
+            events << QJsonDocument::fromJson(text.toUtf8()).object();
+        m_events += events;
+        return events;
+    }
+
+    /// Such as "converted a.mkv", without the steps between; sorted, as they may come in any order.
+    static QStringList ends(const QList<QJsonObject> &events)
+    {
+        QStringList texts;
+        for (const QJsonObject &event : events) {
+            const QString name = event[u"event"_s].toString();
+            const QString output = event[u"output"_s].toString().section(u'/', -1);
+            if (name != u"started" && name != u"progress" && name != u"summary")
+                texts << (name + u' ' + output + u' ' + event[u"reason"_s].toString()).trimmed();
+        }
+        texts.sort();
+        return texts;
+    }
+
+    Command m_command;
+    QList<QJsonObject> m_events;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        Media::video(m_command.path(u"video.mp4"_s), 3);
+        m_command.prepare(
+            u"mkdir -p in/sub in/.git out; cp video.mp4 in/sub/a.mov; cp video.mp4 in/b.mov;"
+            "cp video.mp4 in/.git/c.mov; cp video.mp4 in/.d.mov; echo text > in/notes.txt;"
+            "ln -s .. in/sub/circle; echo nothing > in/empty.srt"_s);
+    }
+
+    void tree_isConvertedOnce()
+    {
+        const QString line = u"convert --to mkv -r in -d out -j 2 --json"_s;
+        QCOMPARE(ends(eventsOf(line)),
+            (QStringList{ u"converted a.mkv"_s, u"converted b.mkv"_s, u"skipped  not-media"_s,
+                u"skipped  not-media"_s }));
+        QCOMPARE(m_command.listing().filter(u"out/"_s).filter(u".mkv"_s).size(), 2);
+        QVERIFY(QFile::exists(m_command.path(u"out/sub/a.mkv"_s)));
+
+        // A cut result is made again, a whole one is left alone, also in the videos' own tree.
+        const QString cut = m_command.path(u"out/b.mkv"_s);
+        const qint64 size = QFileInfo(cut).size();
+        QVERIFY(QFile::resize(cut, size / 2));
+        const QDateTime whole = QFileInfo(m_command.path(u"out/sub/a.mkv"_s)).lastModified();
+        QCOMPARE(ends(eventsOf(line + u" --skip-existing"_s)).filter(u"mkv"_s),
+            (QStringList{ u"converted b.mkv"_s, u"skipped a.mkv whole-result-exists"_s }));
+        QCOMPARE(QFileInfo(cut).size(), size);
+        QCOMPARE(QFileInfo(m_command.path(u"out/sub/a.mkv"_s)).lastModified(), whole);
+        m_command.prepare(u"touch -d '1 hour' in/b.mov"_s);
+        QVERIFY(ends(eventsOf(line + u" --skip-existing"_s)).contains(u"converted b.mkv"_s));
+
+        m_command.prepare(u"touch in/b.mov"_s);
+        QCOMPARE(m_command.run(u"convert --to mkv -r in -d in -j 2"_s).exitCode, 0);
+        const Finished again = m_command.run(u"convert --to mkv -r in -d in --skip-existing"_s);
+        QVERIFY2(again.out.endsWith(u"0 of 2 videos converted\n"_s), qPrintable(again.out));
+        m_command.prepare(u"rm in/b.mkv in/sub/a.mkv"_s);
+    }
+
+    void list_isDividedByNamesAlone()
+    {
+        m_command.prepare(
+            u"for i in 1 2 3 4 5 6; do mkdir n$i; cp video.mp4 n$i/v.mov; done;"
+            "ls n*/v.mov > list; ls -r n*/v.mov | tr '\\n' '\\0' > reversed; mkdir o"_s);
+        QStringList parts;
+        for (const QString &shard : { u"list --shard 1/2"_s, u"reversed -0 --shard 2/2"_s }) {
+            const QStringList part
+                = ends(eventsOf(u"convert --to mkv --json -d o --files-from "_s + shard));
+            QVERIFY(!part.isEmpty() && part.size() < 6);
+            parts += part;
+        }
+        parts.sort();
+        QCOMPARE(parts.join(u'|').remove(u"converted "_s),
+            u"v 2.mkv|v 3.mkv|v 4.mkv|v 5.mkv|v 6.mkv|v.mkv"_s);
+        const QString plan = m_command.run(u"plan --to mkv n1/v.mov n3/v.mov -d o"_s).out;
+        QCOMPARE(plan.count(u'\n'), 2);
+        QVERIFY2(
+            plan.contains(u"/n3/v.mov"_s) && plan.contains(u"/o/v 2.mkv'\n"_s), qPrintable(plan));
+    }
+
+    void failure_touchesNoOther()
+    {
+        m_command.prepare(
+            u"echo bad > bad.mov; cp video.mp4 good.mov; touch taken.flv; cp video.mp4 taken.mov"_s);
+        const auto events
+            = eventsOf(u"convert --to flv bad.mov gone.mov taken.mov good.mov -d . -j 3 --json"_s);
+        QCOMPARE(ends(events),
+            (QStringList{ u"converted good.flv"_s, u"failed bad.flv not-media"_s,
+                u"failed gone.flv no-such-file"_s, u"failed taken.flv destination-exists"_s }));
+        eventsOf(u"convert --to flv good.mov -d nowhere --json"_s);
+        eventsOf(u"convert --to flv --json"_s);
+    }
+
+    /// Reads the events of the tests above against the page.
+    void events_areAsDocumented()
+    {
+        QFile file(QStringLiteral(JSON_PAGE));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString page = QString::fromUtf8(file.readAll());
+        const QStringList common{ u"event"_s, u"input"_s, u"output"_s };
+        const QString reasons = page.section(u"## Reasons"_s, 1);
+        QStringList seen;
+        for (const QJsonObject &event : std::as_const(m_events)) {
+            const QString name = event[u"event"_s].toString();
+            const QRegularExpression row(
+                u"^\\| `%1` \\| ([^|]*)\\|"_s.arg(name), QRegularExpression::MultilineOption);
+            const QRegularExpressionMatch match = row.match(page);
+            QVERIFY2(match.hasMatch(), qPrintable(name));
+            const QString fields = match.captured(1);
+            const QStringList required = common + wordsIn(fields.section(u'(', 0, 0));
+            QStringList allowed = common + wordsIn(fields);
+            for (const QString &field : required)
+                QVERIFY2(event.contains(field), qPrintable(name + u' ' + field));
+            for (const QString &field : event.keys())
+                QVERIFY2(allowed.contains(field), qPrintable(name + u' ' + field));
+            if (event.contains(u"reason"_s))
+                QVERIFY(wordsIn(reasons).contains(event[u"reason"_s].toString()));
+            seen << name;
+        }
+        seen.removeDuplicates();
+        seen.sort();
+        QCOMPARE(seen.join(u' '), u"converted failed progress refused skipped started summary"_s);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestMany)
+#include "tst_many.moc"
