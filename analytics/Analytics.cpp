@@ -8,6 +8,7 @@
 #include "support/Dictionary.h"
 #include "support/Localized.h"
 #include "support/MainQueue.h"
+#include "support/Preferences.h"
 #include "support/Text.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,8 @@ void post(const QByteArray &body)
 
 bool maySend()
 {
-    return started && !Configuration::doNotTrack() && !Configuration::collectorUrl().isEmpty();
+    return started && Preferences::sendsUsage() && !Configuration::doNotTrack()
+        && !Configuration::collectorUrl().isEmpty();
 }
 
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/HelpMenu.h"
 
+#include "app/SettingsDialog.h"
 #include "support/Localized.h"
 #include "support/Text.h"
 #include "ui/window/AppDelegate.h"
@@ -64,6 +65,18 @@ HelpMenu::HelpMenu(AppDelegate &delegate, Updater &updater)
     check->setMenuRole(QAction::ApplicationSpecificRole);
     connect(check, &QAction::triggered, &updater, &Updater::checkForUpdates);
     menu->insertActions(menu->actions().value(0), { showLog, check });
+
+    auto *settings = delegate.window()
+                         ->findChild<QMenu *>(u"editMenu"_s)
+                         ->addAction(localized(
+                             QT_TRANSLATE_NOOP3("Localizable", "Settings…", "menu command")));
+    settings->setMenuRole(QAction::PreferencesRole);
+    settings->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    connect(settings, &QAction::triggered, this, [window = delegate.window()] {
+        auto *dialog = new SettingsDialog(window);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    });
 }
 
 void HelpMenu::showConversionLog()

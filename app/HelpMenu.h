@@ -8,7 +8,7 @@
 class AppDelegate;
 class Updater;
 
-/// The help menu's commands beyond the window's own: updates and the conversion log.
+/// The commands beyond the window's own: updates, the conversion log and the settings.
 class HelpMenu : public QObject {
     Q_OBJECT
 public:

@@ -26,7 +26,11 @@
 #include <QIcon>
 #include <QTimer>
 
+#include <chrono>
+#include <optional>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -97,9 +101,10 @@ int runWindow(SingleInstance &instance, const QStringList &videos)
         });
     delegate.takeFiles(videos);
     Async::background(StagedList::removeAbandoned);
-    Services services(delegate);
-    // Once the window stands: its first question may be one about an earlier crash.
-    QTimer::singleShot(0, &delegate, [&services] { services.start(); });
+    std::optional<Services> services;
+    // Once the window stands: its first question may be one about an earlier crash, and the network
+    // takes time to set up.
+    QTimer::singleShot(100ms, &delegate, [&] { services.emplace(delegate).start(); });
     return QApplication::exec();
 }
 

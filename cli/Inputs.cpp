@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Inputs.h"
 
+#include "cli/ConversionItem.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Path.h"
 #include "support/StandardInput.h"
@@ -19,30 +20,24 @@ namespace {
 
 constexpr auto listLimit = qint64{ 256 } * 1024 * 1024;
 
-/// "clip" for "a/clip.mov" and for "a/clip 2.mp4"
-QString baseName(const QString &path)
+/// Leaves out what an earlier run into the same tree has made: the names that this run would write.
+/// Any other file of the output's format is a video like the rest.
+void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
-    static const QRegularExpression number(u" \\d+\\z"_s);
-    return Path::stringByDeletingPathExtension(path).remove(number);
-}
-
-/// Leaves out files that a run into the same tree has made: those of the output's extension beside
-/// a file of the same name.
-void dropEarlierResults(std::vector<Input> &inputs, const QString &extension)
-{
-    const auto isResult = [&](const Input &input) {
-        return Path::pathExtension(input.path).compare(extension, Qt::CaseInsensitive) == 0;
-    };
-    QSet<QString> sources;
-    for (const Input &input : inputs) {
-        if (!isResult(input))
-            sources << Path::stringByDeletingPathExtension(input.path) << baseName(input.path);
+    const VideoConstraints &entry = line.entries.front();
+    const QString extension = conversionDescriptor(entry.format).ext;
+    const auto mayBeResult
+        = [&](const Input &input) { return Path::pathExtension(input.path) == extension; };
+    std::vector<Input> sources = inputs;
+    std::erase_if(sources, mayBeResult);
+    // Results of the other parts of a divided list are results too.
+    line.shard = {};
+    QSet<QString> results;
+    if (!sources.empty()) {
+        for (const ConversionItem &item : conversionItems(line, entry, sources))
+            results << item.destPath;
     }
-    std::erase_if(inputs, [&](const Input &input) {
-        return isResult(input)
-            && (sources.contains(Path::stringByDeletingPathExtension(input.path))
-                || sources.contains(baseName(input.path)));
-    });
+    std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
 }
 
 std::vector<Input> inputsIn(const CommandLine &line)
@@ -61,7 +56,7 @@ std::vector<Input> inputsIn(const CommandLine &line)
             inputs.push_back(
                 { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
     }
-    dropEarlierResults(inputs, conversionDescriptor(line.entries.front().format).ext);
+    dropEarlierResults(inputs, line);
     std::sort(inputs.begin(), inputs.end(),
         [](const Input &left, const Input &right) { return left.path < right.path; });
     return inputs;

@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace Qt::StringLiterals;
@@ -43,8 +44,14 @@ ExitCode shown(const UsageText &usage)
     else
         Output::errorLine(usage.text);
     if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
-        JsonReporter::misused(usage.text.section(u'\n', 0, 0));
+        JsonReporter::misused(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
     return usage.code;
+}
+
+// Bytes of a name that are no text would name another file.
+bool isText(const char *argument)
+{
+    return QString::fromLocal8Bit(argument).toLocal8Bit() == argument;
 }
 
 int exitStatus(ExitCode code)
@@ -76,6 +83,10 @@ int main(int argc, char *argv[])
     const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
         Diagnostics::show();
+    if (const QString destination = line.output + line.folder;
+        destination.contains(QChar::ReplacementCharacter)
+        && !std::all_of(argv, argv + argc, isText))
+        return exitStatus(Output::failure(destination, { Reason::DestinationNameNotText }));
     Async::background(StagedList::removeAbandoned);
     const ExitCode code = run(line);
     FFMPEG::shutDown();

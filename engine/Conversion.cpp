@@ -7,8 +7,6 @@
 #include "engine/Verdict.h"
 #include "support/FileSystem.h"
 
-#include <QFileInfo>
-
 #include <condition_variable>
 #include <mutex>
 
@@ -74,6 +72,7 @@ Outcome Conversion::converted()
          remedy != Remedy::None && !remedies.contains(remedy) && !m_progress->isCancelled();
          remedy = remedyFor(outcome, m_output, job)) {
         remedies << remedy;
+        m_progress->setRemedy(remedy);
         job = remedied(job, remedy);
         outcome = tried(job, staged);
     }
@@ -154,12 +153,7 @@ Outcome Conversion::placed(StagedFile &staged, Outcome outcome) const
         return outcome;
     if (m_progress->isCancelled())
         return { Reason::Cancelled };
-    const bool replaces = m_overwrite && QFileInfo::exists(m_job.destPath);
-    if (replaces && !outcome.isDone() && !staged.equalsOlder()) {
-        outcome.olderPath = staged.keepOlder();
-        if (outcome.olderPath.isEmpty())
-            return { Reason::DestinationNotWritable };
-    }
-    const auto refusal = staged.moveIntoPlace(m_overwrite);
+    const auto refusal
+        = staged.moveIntoPlace(m_overwrite, outcome.isDone() ? nullptr : &outcome.olderPath);
     return refusal ? *refusal : outcome;
 }

@@ -3,6 +3,7 @@
 
 #include "engine/Async.h"
 #include "engine/Destination.h"
+#include "engine/MovieProbe.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
@@ -13,7 +14,6 @@
 #include "support/Text.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstdlib>
 
@@ -35,6 +35,7 @@ ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progre
     : m_job(std::move(job))
     , m_progress(std::move(progress))
     , m_errorHandler(std::move(errorHandler))
+    , m_ownLines({ m_job.path, m_job.destPath })
 {
 }
 
@@ -67,7 +68,9 @@ bool ConversionRun::launch(Task &task)
 {
     task.setLaunchPath(toolPath(Tool::Ffmpeg));
     task.setArguments(conversionArguments(m_job));
-    task.setAccess({ { m_job.path }, { QFileInfo(m_job.destPath).path() } });
+    // The tool may write this file, but create none.
+    QFile(m_job.destPath).open(QIODevice::ReadWrite);
+    task.setAccess({ MovieProbe::readPaths(m_job.path), { m_job.destPath } });
     LaunchError error;
     if (task.tryLaunch(&error))
         return true;
@@ -81,10 +84,8 @@ void ConversionRun::follow(Task &task)
 {
     while (task.isRunning() && !m_progress->isCancelled()) {
         readChunk(task.availableData());
-        if (task.isSilentForTooLong()) {
-            m_output += "\nThe tool has been silent for too long and was stopped.\n";
+        if (task.isSilentForTooLong())
             task.terminate();
-        }
     }
     Console::print(u"last delta: "_s + QString::number(m_lastDelta) + u", last pos: "_s
         + QString::number(m_progress->totalUnitCount() - m_progress->completedUnitCount()));
@@ -93,7 +94,7 @@ void ConversionRun::follow(Task &task)
 void ConversionRun::readChunk(const QByteArray &chunk)
 {
     m_output += chunk;
-    const QString text = ToolOutput::decodedBlock(chunk);
+    const QString text = ToolOutput::decodedBlock(m_ownLines.in(chunk));
     if (m_progress->totalUnitCount() < 0) {
         m_scanner.append(text);
         if (const std::optional<qint64> duration = m_scanner.duration())
@@ -114,6 +115,8 @@ void ConversionRun::judge(const Task &task)
 {
     if (m_progress->isCancelled())
         return end({ Reason::Cancelled });
+    if (task.isSilentForTooLong())
+        return end({ Reason::ToolSilent });
     if (task.terminationStatus() != 0
         || reportsLostOutput(m_output, { m_job.path, m_job.destPath }))
         return end(toolFailure(m_output));

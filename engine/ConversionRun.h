@@ -4,6 +4,7 @@
 #include "engine/DurationScanner.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
+#include "engine/ToolOutput.h"
 
 #include <QStringList>
 
@@ -43,6 +44,7 @@ private:
     std::shared_ptr<Progress> m_progress;
     FFMPEG::ConversionErrorHandler m_errorHandler;
     QByteArray m_output;
+    ToolOutput::OwnLines m_ownLines;
     DurationScanner m_scanner;
     qint64 m_lastDelta = 0;
 };

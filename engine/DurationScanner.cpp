@@ -5,19 +5,6 @@
 #include "support/Pattern.h"
 #include "support/Text.h"
 
-namespace {
-
-// "    title           : Duration: 09:00:00.00, start: 0": the tool's own line has two spaces in
-// front.
-bool isVideosOwnText(QStringView text, qsizetype position)
-{
-    const QStringView before = text.first(position);
-    const qsizetype lineStart = std::max(before.lastIndexOf(u'\n'), before.lastIndexOf(u'\r')) + 1;
-    return before.sliced(lineStart).startsWith(u"    ");
-}
-
-}
-
 void DurationScanner::append(const QString &block)
 {
     if (m_decided || block.isEmpty())
@@ -34,13 +21,7 @@ std::optional<qint64> DurationScanner::duration()
     // A search covers as many UTF-16 units as the whole text has characters.
     const qsizetype searchedEnd = std::max<qsizetype>(Text::characterCount(m_tail) - m_surplus, 0);
     const QStringView searched = Pattern::searchRange(m_tail, searchedEnd);
-    QRegularExpressionMatch match;
-    for (auto matches = ToolOutput::regexprDuration().globalMatch(searched); matches.hasNext();) {
-        match = matches.next();
-        if (!isVideosOwnText(searched, match.capturedStart()))
-            break;
-        match = {};
-    }
+    const QRegularExpressionMatch match = ToolOutput::regexprDuration().match(searched);
     if (match.hasMatch()) {
         // Only the first match counts, even when it holds no time ("N/A").
         m_decided = true;

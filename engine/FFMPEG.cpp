@@ -14,7 +14,7 @@
 #include "support/FileSystem.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QImageReader>
 
 using namespace Qt::StringLiterals;
@@ -113,9 +113,9 @@ void FFMPEG::getFFProbeOutput(
         const QStringList arguments{ u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s,
             u"-show_format"_s, u"-show_streams"_s, path };
         const std::optional<QByteArray> output
-            = toolOutput(Tool::Ffprobe, arguments, { { path }, {} });
+            = toolOutput(Tool::Ffprobe, arguments, { MovieProbe::readPaths(path), {} });
         const std::optional<JSON> json
-            = output ? std::optional(JSON::parse(*output)) : std::nullopt;
+            = output ? std::optional(MovieProbe::description(*output)) : std::nullopt;
         Async::async([json, completionHandler] { completionHandler(json); });
     });
 }
@@ -125,13 +125,13 @@ void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
 {
     Async::background([path, offset, completionHandler = std::move(completionHandler)] {
         const QString imagePath = CoverFolder::uniqueImagePath();
-        if (imagePath.isEmpty()) {
+        if (imagePath.isEmpty() || !QFile(imagePath).open(QIODevice::WriteOnly)) {
             Async::async([completionHandler] { completionHandler({}); });
             return;
         }
         const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath,
             u"-y"_s };
-        const ToolAccess access{ { path }, { QFileInfo(imagePath).path() } };
+        const ToolAccess access{ MovieProbe::readPaths(path), { imagePath } };
         const std::optional<QByteArray> output = toolOutput(Tool::Ffmpeg, arguments, access);
         QImage cover;
         if (output) {

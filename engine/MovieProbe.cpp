@@ -3,7 +3,9 @@
 
 #include "support/FileSystem.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <array>
 #include <cerrno>
@@ -62,8 +64,37 @@ std::optional<Outcome> fileRefusal(const QString &path)
     return std::nullopt;
 }
 
+QStringList readPaths(const QString &path)
+{
+    // HLS, lists of parts, DASH, and formats that keep a part in a file beside.
+    static const QRegularExpression list(
+        u"\\A(?:\\xef\\xbb\\xbf)?\\s*#EXTM3U|\\Affconcat version|<MPD\\b"_s);
+    static const QRegularExpression partName(
+        u"\\.(?:idx|mlv)\\z"_s, QRegularExpression::CaseInsensitiveOption);
+    QFile file(path);
+    const bool hasNeighbours = file.open(QIODevice::ReadOnly)
+        && (list.match(QString::fromLatin1(file.read(4096))).hasMatch()
+            || partName.match(path).hasMatch());
+    return hasNeighbours ? QStringList{ path, QFileInfo(path).path() } : QStringList{ path };
+}
+
+JSON description(const QByteArray &output)
+{
+    constexpr int mostBraces = 20;
+    qsizetype start = output.indexOf('{');
+    for (int i = 0; start >= 0 && i < mostBraces; ++i, start = output.indexOf('{', start + 1)) {
+        const JSON info = JSON::parse(output.sliced(start, output.lastIndexOf('}') + 1 - start));
+        if (!info.value().isNull())
+            return info;
+    }
+    const QStringList lines = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
+    return lines.isEmpty() ? JSON() : JSON(lines.last().left(300).trimmed());
+}
+
 std::variant<qint64, Outcome> checked(const JSON &info, quint64 sizeOnDisk)
 {
+    if (const auto words = info.string())
+        return Outcome{ .reason = Reason::ToolUnusable, .detail = *words };
     const JSON format = info[u"format"_s];
     if (format.value().isNull())
         return Outcome{ Reason::NotMedia };

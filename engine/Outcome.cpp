@@ -42,6 +42,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
 
     { Reason::DestinationExists, "destination-exists"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination exists already; --overwrite replaces it.", "Why a conversion's result can't be written") },
     { Reason::DestinationNotWritable, "destination-not-writable"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.", "Why a conversion's result can't be written") },
+    { Reason::DestinationNameNotText, "destination-name-not-text"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's name can't be represented as text. Please choose another one.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsFolder, "destination-is-folder"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.", "Why a conversion's result can't be written") },
     { Reason::DestinationLeadsNowhere, "destination-leads-nowhere"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a link that leads nowhere.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsDevice, "destination-is-device"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.", "Why a conversion's result can't be written") },
@@ -52,6 +53,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::FolderNotWritable, "folder-not-writable"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's folder may not be written to.", "Why a conversion's result can't be written") },
 
     { Reason::ToolMissing, "tool-missing"_L1, ToolMissing, QT_TRANSLATE_NOOP3("Localizable", "The tool %@ is missing or can't be run.", "Path of a program") },
+    { Reason::ToolUnusable, "tool-unusable"_L1, ToolMissing, QT_TRANSLATE_NOOP3("Localizable", "The tool can't examine videos: %@", "Why no video can be converted; the tool's own words follow") },
     { Reason::ToolFailed, "tool-failed"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool failed: %@", "Why a conversion failed; the tool's own words follow") },
     { Reason::ToolKilled, "tool-killed"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool was killed before it was done.", "Why a conversion failed") },
     { Reason::ToolSilent, "tool-silent"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool was silent for too long and was stopped.", "Why a conversion failed") },
@@ -67,6 +69,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::NameTooLong, "name-too-long"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The destination's name is too long.", "Why a conversion failed") },
     { Reason::DiskError, "disk-error"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "A disk reported an error.", "Why a conversion failed") },
     { Reason::NoMemory, "no-memory"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "There was not enough memory.", "Why a conversion failed") },
+    { Reason::LimitMet, "limit-met"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The tool needed more memory, threads or files than any video should.", "Why a conversion failed") },
     { Reason::NothingToConvert, "nothing-to-convert"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The video contains nothing that this output can hold.", "Why a conversion failed") },
     { Reason::StreamNotTaken, "stream-not-taken"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The encoder can't handle this video's picture or sound.", "Why a conversion failed") },
     { Reason::DamagedData, "damaged-data"_L1, Failed, QT_TRANSLATE_NOOP3("Localizable", "The video's data is damaged.", "Why a conversion failed") },

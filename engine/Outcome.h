@@ -26,6 +26,7 @@ enum class Reason {
     // The destination
     DestinationExists,
     DestinationNotWritable,
+    DestinationNameNotText,
     DestinationIsFolder,
     DestinationLeadsNowhere,
     DestinationIsDevice,
@@ -36,6 +37,7 @@ enum class Reason {
     FolderNotWritable,
     // The tool
     ToolMissing,
+    ToolUnusable,
     ToolFailed,
     ToolKilled,
     ToolSilent,
@@ -51,6 +53,7 @@ enum class Reason {
     NameTooLong,
     DiskError,
     NoMemory,
+    LimitMet,
     NothingToConvert,
     StreamNotTaken,
     DamagedData,

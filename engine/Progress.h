@@ -52,6 +52,9 @@ public:
     void end() { fire(m_end); }
     /// Runs at the end on the run's thread, or at once when the run has ended already.
     void setEndHandler(std::function<void()> handler) { setHandler(m_end, std::move(handler)); }
+    /// What a second try does differently while it runs.
+    [[nodiscard]] Remedy remedy() const { return read(m_remedy); }
+    void setRemedy(Remedy remedy) { write(m_remedy, remedy); }
     /// How the run ended; set before its end is marked or an error is reported.
     [[nodiscard]] Outcome outcome() const { return read(m_outcome); }
     /// Everything that the tool printed; set together with the outcome.
@@ -85,6 +88,7 @@ private:
     qint64 m_completedUnitCount = 0;
     Event m_cancellation;
     Event m_end;
+    Remedy m_remedy = Remedy::None;
     Outcome m_outcome;
     QByteArray m_toolOutput;
     struct Registration {

@@ -22,11 +22,14 @@ struct CauseRow {
 
 // As the tool words it; the first row that fits counts.
 constexpr std::array causeRows{
-    CauseRow{ u"(?:width|height) not divisible by 2", Remedy::SizeMadeEven },
+    CauseRow{ u"(?:width|height) not divisible by 2|Xvid: Could not create encoder",
+        Remedy::SizeMadeEven },
     CauseRow{ u"sample rate \\d+ is not supported|does not support sample rate"
+              u"|[Uu]nsupported channel layout|dts to muxer in stream 1"
               u"|[Ii]nvalid sample rate|[Uu]nsupported sample rate|\\[libvorbis @.*failed",
         Remedy::SoundEncoded },
-    CauseRow{ u"unknown timestamp|missing PTS|pts has no value|first pts value must be set"
+    CauseRow{ u"unknown timestamp|non monotonically increasing dts|missing PTS|pts has no "
+              u"value|first pts value must be set"
               u"|[Nn]ot currently supported in container|incompatible with output codec id"
               u"|bitstream malformed|is not compatible with",
         Remedy::PictureEncoded },
@@ -40,11 +43,6 @@ std::optional<ChosenStream> pictureOf(const ConversionJob &job)
 bool isAttachedPicture(const QJsonObject &stream)
 {
     return stream[u"disposition"_s][u"attached_pic"_s].toInt() == 1;
-}
-
-bool hasOddSize(const JSON &picture)
-{
-    return picture[u"width"_s].intValue() % 2 != 0 || picture[u"height"_s].intValue() % 2 != 0;
 }
 
 // The streams keep their places, which are their numbers.
@@ -99,6 +97,9 @@ void makeRateUsual(ConversionJob &job)
     editStreams(job, [](QJsonObject &stream, qsizetype) {
         if (stream[u"codec_type"_s] == u"audio"_s)
             stream[u"sample_rate"_s] = u"48000"_s;
+        // No output holds more than eight channels.
+        if (stream[u"channels"_s].toInt() > 8)
+            stream[u"channels"_s] = 2;
     });
 }
 
@@ -121,10 +122,7 @@ Remedy remedyFor(const Outcome &failure, const QByteArray &output, const Convers
             return row.remedy == Remedy::PictureEncoded && !picture ? Remedy::SoundEncoded
                                                                     : row.remedy;
     }
-    // Not every encoder says what it has against an odd size.
-    return failure.reason == Reason::StreamNotTaken && picture && hasOddSize(picture->item)
-        ? Remedy::SizeMadeEven
-        : Remedy::None;
+    return Remedy::None;
 }
 
 ConversionJob remedied(ConversionJob job, Remedy remedy)

@@ -5,13 +5,17 @@
 
 /// Beyond the tool itself and the system's libraries and fonts.
 struct ToolAccess {
-    QStringList readableFiles;
-    QStringList writableFolders;
+    /// Files, or folders with all that they hold.
+    QStringList readable;
+    /// Files that exist.
+    QStringList writable;
 };
 
 /// Confines a tool, because a video is hostile input to its decoders: it reads and writes only what
-/// it was granted, opens no socket, gains no privileges and leaves no core dump. Without the
-/// kernel's help only the last two hold. Thread: one; enter() runs between fork and exec.
+/// it was granted, opens no socket, starts and signals no process, gains no privileges, leaves no
+/// core dump, and has limits that no honest conversion meets. A tool that is a script may start
+/// processes. Without the kernel's help files are open to it. Thread: one; enter() runs between
+/// fork and exec.
 class Sandbox {
 public:
     Sandbox(const QString &toolPath, const ToolAccess &access);
@@ -23,5 +27,10 @@ public:
     void enter() const;
 
 private:
+    void refuseCalls() const;
+
     int m_ruleset = -1;
+    bool m_isScript = false;
+    bool m_scopesSignals = false;
+    unsigned long m_mostProcesses = 0;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/StagedFile.h"
 
+#include "support/FileSystem.h"
 #include "support/Path.h"
 
 #include <QFile>
@@ -22,12 +23,13 @@ QByteArray bytesOf(const QString &path) { return QFile::encodeName(path); }
 
 QString folderOf(const QString &path) { return QFileInfo(path).path(); }
 
-// Eight random letters and digits.
+// ".video-converter-0a1b2c.mp4"
 QString hiddenName(const QString &destPath)
 {
-    const QString random = QUuid::createUuid().toString(QUuid::Id128).first(8);
-    return u"%1/.video-converter-%2.%3"_s.arg(
-        folderOf(destPath), random, Path::pathExtension(destPath));
+    const QString random = QUuid::createUuid().toString(QUuid::Id128).first(6);
+    const QString extension = Path::pathExtension(destPath);
+    return folderOf(destPath) + u"/.video-converter-"_s + random
+        + (extension.isEmpty() ? QString() : u'.' + extension);
 }
 
 Outcome refusalFor(int error)
@@ -50,7 +52,7 @@ Outcome refusalFor(int error)
     }
 }
 
-// In one step, and only if nothing stands there. Some file systems know one way, some the other.
+// In one step, and only if nothing stands there. File systems differ in the ways that they know.
 bool renameToNew(const QByteArray &from, const QByteArray &to)
 {
 #ifdef Q_OS_LINUX
@@ -59,10 +61,56 @@ bool renameToNew(const QByteArray &from, const QByteArray &to)
     if (errno != EINVAL && errno != ENOSYS)
         return false;
 #endif
-    if (::link(from.constData(), to.constData()) != 0)
+    if (::link(from.constData(), to.constData()) == 0) {
+        ::unlink(from.constData());
+        return true;
+    }
+    if (errno == EEXIST)
         return false;
-    ::unlink(from.constData());
+    const int placeholder = ::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (placeholder < 0)
+        return false;
+    ::close(placeholder);
+    return ::rename(from.constData(), to.constData()) == 0;
+}
+
+// Gives a file a second name, "NAME (earlier).ext"; empty when that can't be.
+QString keepOlder(const QString &destPath)
+{
+    const QString extension = Path::pathExtension(destPath);
+    const QString base = extension.isEmpty() ? destPath : destPath.chopped(extension.size() + 1);
+    for (int number = 1; number < 1000; ++number) {
+        const QString mark = number == 1 ? u" (earlier)"_s : u" (earlier %1)"_s.arg(number);
+        const QString kept = extension.isEmpty() ? base + mark : base + mark + u'.' + extension;
+        // A second name first: at no moment is the older file without one.
+        if (::link(bytesOf(destPath).constData(), bytesOf(kept).constData()) == 0)
+            return kept;
+        if (errno == EEXIST)
+            continue;
+        return renameToNew(bytesOf(destPath), bytesOf(kept)) ? kept : QString();
+    }
+    return {};
+}
+
+bool haveSameBytes(const QString &path, const QString &otherPath)
+{
+    QFile file(path);
+    QFile other(otherPath);
+    if (file.size() != other.size() || !file.open(QIODevice::ReadOnly)
+        || !other.open(QIODevice::ReadOnly))
+        return false;
+    constexpr qint64 piece = 1 << 20;
+    while (!file.atEnd()) {
+        if (file.read(piece) != other.read(piece))
+            return false;
+    }
     return true;
+}
+
+void takeBack(const QString &kept, const QString &destPath)
+{
+    if (!renameToNew(bytesOf(kept), bytesOf(destPath)) && isOneOf(kept, { destPath }))
+        QFile::remove(kept);
 }
 
 void syncFolder(const QString &folder)
@@ -86,64 +134,55 @@ StagedFile::~StagedFile() { drop(); }
 std::optional<Outcome> StagedFile::create()
 {
     drop();
-    m_path = hiddenName(m_destPath);
-    m_file = ::open(bytesOf(m_path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (m_file < 0)
-        return refusalFor(errno);
+    for (int attempt = 0; m_file < 0 && attempt < 100; ++attempt) {
+        m_path = hiddenName(m_destPath);
+        // Listed first: whenever this program is killed, the next start finds the file.
+        m_entry.add(m_path);
+        m_file = ::open(bytesOf(m_path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (m_file < 0 && errno != EEXIST)
+            break;
+    }
+    if (m_file < 0) {
+        const Outcome refusal = refusalFor(errno);
+        m_entry.remove();
+        return refusal;
+    }
     ::flock(m_file, LOCK_EX | LOCK_NB);
-    m_entry.add(m_path);
     return std::nullopt;
 }
 
-std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite)
+std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPath)
 {
     const QByteArray from = bytesOf(m_path);
     const QByteArray to = bytesOf(m_destPath);
     struct stat older { };
-    if (!overwrite || ::stat(to.constData(), &older) != 0) {
-        if (!renameToNew(from, to))
-            return errno == EEXIST ? Outcome{ Reason::DestinationExists } : refusalFor(errno);
-    } else {
-        ::fchmod(m_file, older.st_mode & 07777);
-        if (::fsync(m_file) != 0 || ::rename(from.constData(), to.constData()) != 0)
-            return refusalFor(errno);
-        syncFolder(folderOf(m_destPath));
+    const bool mustBeNew = ::stat(to.constData(), &older) != 0;
+    if (mustBeNew && renameToNew(from, to)) {
+        drop();
+        return std::nullopt;
     }
+    if (mustBeNew && (errno != EEXIST || ::stat(to.constData(), &older) != 0))
+        return refusalFor(errno);
+    if (!overwrite)
+        return Outcome{ Reason::DestinationExists };
+    [[maybe_unused]] const int owner = ::fchown(m_file, older.st_uid, older.st_gid);
+    ::fchmod(m_file, older.st_mode & 0777);
+    if (::fsync(m_file) != 0)
+        return refusalFor(errno);
+    // A cut video gives the same cut result at each try.
+    if (keptPath && haveSameBytes(m_path, m_destPath))
+        keptPath = nullptr;
+    if (keptPath && (*keptPath = keepOlder(m_destPath)).isEmpty())
+        return Outcome{ Reason::DestinationNotWritable };
+    if (::rename(from.constData(), to.constData()) != 0) {
+        const Outcome refusal = refusalFor(errno);
+        if (keptPath)
+            takeBack(*keptPath, m_destPath);
+        return refusal;
+    }
+    syncFolder(folderOf(m_destPath));
     drop();
     return std::nullopt;
-}
-
-bool StagedFile::equalsOlder() const
-{
-    QFile staged(m_path);
-    QFile older(m_destPath);
-    if (staged.size() != older.size() || !staged.open(QIODevice::ReadOnly)
-        || !older.open(QIODevice::ReadOnly))
-        return false;
-    constexpr qint64 piece = 1 << 20;
-    while (!staged.atEnd()) {
-        if (staged.read(piece) != older.read(piece))
-            return false;
-    }
-    return true;
-}
-
-QString StagedFile::keepOlder() const
-{
-    const QString extension = Path::pathExtension(m_destPath);
-    const QString base
-        = extension.isEmpty() ? m_destPath : m_destPath.chopped(extension.size() + 1);
-    for (int number = 1; number < 1000; ++number) {
-        const QString mark = number == 1 ? u" (earlier)"_s : u" (earlier %1)"_s.arg(number);
-        const QString kept = extension.isEmpty() ? base + mark : base + mark + u'.' + extension;
-        // A second name first: at no moment is the older file without one.
-        if (::link(bytesOf(m_destPath).constData(), bytesOf(kept).constData()) == 0)
-            return kept;
-        if (errno == EEXIST)
-            continue;
-        return renameToNew(bytesOf(m_destPath), bytesOf(kept)) ? kept : QString();
-    }
-    return {};
 }
 
 void StagedFile::drop()

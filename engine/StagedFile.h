@@ -20,13 +20,9 @@ public:
     [[nodiscard]] std::optional<Outcome> create();
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it
-    /// gives its permissions.
-    [[nodiscard]] std::optional<Outcome> moveIntoPlace(bool overwrite);
-    /// The same bytes stand in the place already.
-    [[nodiscard]] bool equalsOlder() const;
-    /// Gives what stands in the place a second name, "NAME (earlier).ext", and returns it; empty
-    /// without such a file.
-    [[nodiscard]] QString keepOlder() const;
+    /// gives its permissions, and with `keptPath` goes on as "NAME (earlier).ext", a path that is
+    /// written there; unless it has the same bytes.
+    [[nodiscard]] std::optional<Outcome> moveIntoPlace(bool overwrite, QString *keptPath = nullptr);
 
 private:
     void drop();

@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 #include <QUuid>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -38,6 +39,17 @@ int lockedFile(const QString &path, int flags)
     return -1;
 }
 
+// One that is held, or lies on a disk that is not there now, stays on the list.
+bool isGoneOrRemoved(const QString &staged)
+{
+    const int held = lockedFile(staged, O_RDONLY);
+    if (held < 0)
+        return errno == ENOENT && QFileInfo::exists(QFileInfo(staged).path());
+    const bool isRemoved = QFile::remove(staged);
+    ::close(held);
+    return isRemoved;
+}
+
 }
 
 namespace StagedList {
@@ -46,12 +58,19 @@ void Entry::add(const QString &stagedPath)
 {
     remove();
     QDir().mkpath(folder());
-    m_path = folder() + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    m_file = lockedFile(m_path, O_WRONLY | O_CREAT | O_EXCL);
     const QByteArray bytes = QFile::encodeName(stagedPath);
-    if (m_file >= 0
-        && ::write(m_file, bytes.constData(), static_cast<std::size_t>(bytes.size())) < 0)
-        remove();
+    // Another program's start may take away an entry before it is locked.
+    for (int attempt = 0; m_file < 0 && attempt < 3; ++attempt) {
+        m_path = folder() + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
+        m_file = lockedFile(m_path, O_WRONLY | O_CREAT | O_EXCL);
+        struct stat entry { };
+        if (m_file < 0)
+            QFile::remove(m_path);
+        else if (::fstat(m_file, &entry) != 0 || entry.st_nlink == 0
+            || ::write(m_file, bytes.constData(), static_cast<std::size_t>(bytes.size()))
+                != bytes.size())
+            remove();
+    }
 }
 
 void Entry::remove()
@@ -64,7 +83,8 @@ void Entry::remove()
 
 QString stagedPathOf(const QByteArray &entry)
 {
-    static const QRegularExpression ours(uR"(\A/(?:.*/)?\.video-converter-[0-9a-f]{8}\.[^/]*\z)"_s,
+    static const QRegularExpression ours(
+        uR"(\A/(?:.*/)?\.video-converter-[0-9a-f]{6}(?:\.[^/]*)?\z)"_s,
         QRegularExpression::DotMatchesEverythingOption);
     const QString path = QFile::decodeName(entry);
     const bool isExact = QFile::encodeName(path) == entry && !entry.contains('\0');
@@ -80,11 +100,8 @@ void removeAbandoned()
         QFile file(each.filePath());
         const QString staged
             = file.open(QIODevice::ReadOnly) ? stagedPathOf(file.read(longestEntry)) : QString();
-        if (const int held = staged.isEmpty() ? -1 : lockedFile(staged, O_RDONLY); held >= 0) {
-            QFile::remove(staged);
-            ::close(held);
-        }
-        file.remove();
+        if (staged.isEmpty() || isGoneOrRemoved(staged))
+            file.remove();
         ::close(entry);
     }
 }

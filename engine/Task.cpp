@@ -2,6 +2,9 @@
 #include "engine/Task.h"
 
 #include "support/Console.h"
+#include "support/FileSystem.h"
+
+#include <QFile>
 
 #include <atomic>
 #include <csignal>
@@ -104,14 +107,40 @@ QByteArray Task::availableData()
     QByteArray data = m_process.readAllStandardOutput();
     if (data.isEmpty()) {
         // A longer wait means that Ctrl-Z stopped this program and the tool.
-        m_silence += std::min<std::chrono::steady_clock::duration>(
-            std::chrono::steady_clock::now() - start,
-            std::chrono::milliseconds(2 * waitMilliseconds));
+        addSilence(
+            std::min<std::chrono::steady_clock::duration>(std::chrono::steady_clock::now() - start,
+                std::chrono::milliseconds(2 * waitMilliseconds)));
     } else {
         m_lastOutput = std::chrono::steady_clock::now();
-        m_silence = {};
+        m_silence = m_lookedAt = {};
     }
     return data;
+}
+
+// Processor time of the tool and its children, and the sizes of what it writes.
+QByteArray Task::work() const
+{
+    QByteArray work;
+    // "1234 (ffmpeg) S ..."; the eleventh to fifteenth fields behind the name are times.
+    if (QFile stat(u"/proc/%1/stat"_s.arg(m_process.processId())); stat.open(QIODevice::ReadOnly)) {
+        const QByteArray fields = stat.readAll();
+        work = fields.mid(fields.lastIndexOf(')') + 2).split(' ').mid(11, 4).join(' ');
+    }
+    for (const QString &path : m_access.writable)
+        work += ' ' + QByteArray::number(fileSize(path));
+    return work;
+}
+
+void Task::addSilence(std::chrono::steady_clock::duration silence)
+{
+    m_silence += silence;
+    if (m_silence < m_lookedAt + std::chrono::seconds(silenceLimit()) / 10)
+        return;
+    m_lookedAt = m_silence;
+    if (QByteArray now = work(); now != m_work) {
+        m_work = std::move(now);
+        m_silence = m_lookedAt = {};
+    }
 }
 
 QByteArray Task::readDataToEndOfFile()

@@ -53,19 +53,26 @@ public:
     [[nodiscard]] int terminationStatus() const;
     void closeFile();
 
+    /// Neither prints, nor uses processor time, nor writes.
     [[nodiscard]] bool isSilentForTooLong() const;
-    /// Units: seconds a tool may be silent; process-wide, 300 at first.
+    /// Units: seconds a tool may be silent and idle; process-wide, 300 at first.
     static void setSilenceLimit(std::chrono::seconds limit);
     [[nodiscard]] static std::chrono::seconds silenceLimit();
     /// Makes every readDataToEndOfFile() end its tool soon; process-wide, for the program's end.
     static void stopReading();
 
 private:
+    [[nodiscard]] QByteArray work() const;
+    void addSilence(std::chrono::steady_clock::duration silence);
+
     QProcess m_process;
     QString m_launchPath;
     QStringList m_arguments;
     ToolAccess m_access;
     std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};
+    // What the tool had done when it was looked at last, after so much silence.
+    QByteArray m_work;
+    std::chrono::steady_clock::duration m_lookedAt{};
     int m_quickPieces = 0;
 };

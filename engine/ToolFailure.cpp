@@ -32,9 +32,9 @@ constexpr std::array failureRows {
     FailureRow { u": File name too long$", Reason::NameTooLong },
     FailureRow { u": Input/output error$", Reason::DiskError },
     FailureRow { u": Cannot allocate memory$", Reason::NoMemory },
+    FailureRow { u": (?:Resource temporarily unavailable|Too many open files)$", Reason::LimitMet },
     FailureRow { u"^Output file #\\d+ does not contain any stream$", Reason::NothingToConvert },
     FailureRow { u"^Error initializing output stream|^Could not write header for output file", Reason::StreamNotTaken },
-    FailureRow { u"^The tool has been silent for too long", Reason::ToolSilent },
     FailureRow { u"^Exiting normally, received signal", Reason::ToolStopped },
     FailureRow { u"Invalid data found when processing input$", Reason::DamagedData },
 };

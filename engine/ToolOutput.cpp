@@ -4,6 +4,8 @@
 #include "support/Pattern.h"
 #include "support/Text.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -14,6 +16,9 @@ QRegularExpression expression(const QString &pattern, QRegularExpression::Patter
     QRegularExpression compiled = Pattern::compiled(pattern, options);
     return compiled.isValid() ? compiled : QRegularExpression();
 }
+
+// "2562047788:00:54.77" is the longest that the tool can print. More would not fit 64 bits.
+constexpr qsizetype longestTime = 20;
 
 }
 
@@ -59,7 +64,7 @@ std::optional<qint64> lastReportedPosition(const QString &block)
     QRegularExpressionMatch last;
     for (auto matches = regexprProgress().globalMatch(block); matches.hasNext();)
         last = matches.next();
-    if (!last.hasMatch())
+    if (!last.hasMatch() || last.capturedLength(1) > longestTime)
         return std::nullopt;
     return printedSeconds(Pattern::substringFromCheckingResult(last, 1));
 }
@@ -78,6 +83,31 @@ QString decodedBlock(const QByteArray &block)
         start = end;
     }
     return text;
+}
+
+OwnLines::OwnLines(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        m_paths << QFile::encodeName(path);
+}
+
+QByteArray OwnLines::in(QByteArray chunk)
+{
+    constexpr int indentOfTexts = 4;
+    for (const QByteArray &path : m_paths)
+        chunk.replace(path, QByteArray());
+    QByteArray own;
+    for (const char byte : chunk) {
+        const bool isLineEnd = byte == '\n' || byte == '\r';
+        if (isLineEnd)
+            m_indent = 0;
+        else if (m_isIndenting && byte == ' ' && m_indent < indentOfTexts)
+            ++m_indent;
+        m_isIndenting = isLineEnd || (m_isIndenting && byte == ' ');
+        if (m_indent < indentOfTexts)
+            own += byte;
+    }
+    return own;
 }
 
 }

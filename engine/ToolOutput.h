@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArrayList>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -24,5 +25,20 @@ namespace ToolOutput {
 [[nodiscard]] std::optional<qint64> lastReportedPosition(const QString &block);
 /// A block of output as text. When the tool cut a character, only its line is lost.
 [[nodiscard]] QString decodedBlock(const QByteArray &block);
+
+/// Drops a video's own texts, such as "    title           : Duration: 9:0:0.0, start:", from
+/// output that keeps coming. The tool indents them by four spaces. Thread: one at a time.
+class OwnLines {
+public:
+    /// `paths` are the names that the tool was given; what they say is not its word either.
+    explicit OwnLines(const QStringList &paths);
+    [[nodiscard]] QByteArray in(QByteArray chunk);
+
+private:
+    QByteArrayList m_paths;
+    // Spaces at the start of the line that the last chunk ended with.
+    int m_indent = 0;
+    bool m_isIndenting = true;
+};
 
 }

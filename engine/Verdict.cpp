@@ -100,19 +100,26 @@ bool isShort(const std::optional<double> &length, const std::optional<double> &e
 
 Lengths expectedOf(const ConversionJob &job)
 {
+    const JSON &info = job.conversionInfo;
     const ConversionFormat format = job.constraints.format;
-    const bool claimsMore = claimsMoreThanItsStreams(job.conversionInfo);
+    const bool claimsMore = claimsMoreThanItsStreams(info);
+    // The first stream is carried, or where the tool chooses, any.
+    const bool toolChooses = conversionDescriptor(format).vCodec.isEmpty();
     Lengths expected;
-    for (const JSON &stream : job.conversionInfo[u"streams"_s].array()) {
+    for (const JSON &stream : info[u"streams"_s].array()) {
         const QString kind = stream[u"codec_type"_s].stringValue();
-        const double length = claimsMore ? secondsOf(job.conversionInfo[u"format"_s], u"duration"_s)
-                                         : lengthOf(stream, job.conversionInfo);
-        if (kind == u"video" && !isCover(stream, job.conversionInfo)
-            && format != ConversionFormat::mp3)
-            expected.picture = std::max(expected.picture.value_or(0), length);
-        if (kind == u"audio" && !expected.sound && format != ConversionFormat::gif)
-            expected.sound = length;
-        if (kind == u"video" || kind == u"audio")
+        const bool isMoving = kind == u"video" && !isCover(stream, info);
+        const double length
+            = claimsMore ? secondsOf(info[u"format"_s], u"duration"_s) : lengthOf(stream, info);
+        const auto expect = [&](std::optional<double> &known) {
+            if (!known || toolChooses)
+                known = std::min(known.value_or(length), length);
+        };
+        if (isMoving && format != ConversionFormat::mp3)
+            expect(expected.picture);
+        if (kind == u"audio" && format != ConversionFormat::gif)
+            expect(expected.sound);
+        if (isMoving || kind == u"audio")
             expected.isOfAllStreams |= !statesOwnLength(stream);
     }
     return expected;
@@ -139,13 +146,16 @@ SourceData dataOf(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     SourceData data;
-    const QByteArray head = file.read(8);
+    const QByteArray head = file.read(4096);
     const auto size = static_cast<double>(file.size());
-    if (head.size() == 8 && head.startsWith("RIFF")) {
-        const auto claimed = qFromLittleEndian<quint32>(head.constData() + 4);
+    for (const char *chunk : { "RIFF", "data" }) {
+        const qsizetype start = head.startsWith("RIFF") ? head.indexOf(chunk) + 4 : -1;
+        if (start < 4 || start + 4 > head.size())
+            break;
+        const auto claimed = qFromLittleEndian<quint32>(head.constData() + start);
         // The largest numbers are left by a program that did not know the size beforehand.
-        if (claimed < 0x7fffff00 && claimed + 8.0 > size)
-            data.claim = (claimed + 8.0) / size;
+        if (claimed < 0x7fffff00)
+            data.claim = std::max(data.claim, static_cast<double>(claimed) / size);
     }
     // One place may be silence between pictures; so many in a row are nothing at all.
     constexpr int places = 64;

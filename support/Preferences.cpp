@@ -13,6 +13,16 @@ namespace {
 // In the order of PreferencesKeys.
 constexpr std::array names{ "IsFirstRun"_L1, "FirstLaunch"_L1 };
 
+constexpr auto usageKey = "SendsUsage"_L1;
+constexpr auto updatesKey = "ChecksForUpdates"_L1;
+constexpr auto languageKey = "Language"_L1;
+
+bool isOn(const QString &key)
+{
+    const QVariant stored = Defaults::value(key);
+    return !stored.isValid() || stored.toBool();
+}
+
 }
 
 std::optional<PreferencesKeys> preferencesKey(QStringView rawValue)
@@ -52,4 +62,19 @@ QDateTime Preferences::firstLaunchDate()
 void Preferences::setFirstLaunchDate(const QDateTime &date)
 {
     Defaults::setValue(rawValue(PreferencesKeys::FirstLaunch), date);
+}
+
+bool Preferences::sendsUsage() { return isOn(usageKey); }
+
+void Preferences::setSendsUsage(bool sends) { Defaults::setValue(usageKey, sends); }
+
+bool Preferences::checksForUpdates() { return isOn(updatesKey); }
+
+void Preferences::setChecksForUpdates(bool checks) { Defaults::setValue(updatesKey, checks); }
+
+QString Preferences::language() { return Defaults::value(languageKey).toString(); }
+
+void Preferences::setLanguage(const QString &language)
+{
+    Defaults::setValue(languageKey, language);
 }

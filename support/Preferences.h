@@ -24,4 +24,13 @@ public:
     static void setFirstRun(bool isFirstRun);
     [[nodiscard]] static QDateTime firstLaunchDate();
     static void setFirstLaunchDate(const QDateTime &date);
+
+    /// What the user set in the settings.
+    [[nodiscard]] static bool sendsUsage();
+    static void setSendsUsage(bool sends);
+    [[nodiscard]] static bool checksForUpdates();
+    static void setChecksForUpdates(bool checks);
+    /// Such as "de"; empty for the desktop's language.
+    [[nodiscard]] static QString language();
+    static void setLanguage(const QString &language);
 };

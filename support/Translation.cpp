@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/Translation.h"
 
+#include "support/Preferences.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -38,7 +40,9 @@ QString language(const QStringList &wanted, const QStringList &localizations)
 
 QString install(const Bundle &bundle)
 {
-    QString chosen = language(QLocale::system().uiLanguages(), bundle.localizations());
+    const QString set = Preferences::language();
+    const QStringList wanted = set.isEmpty() ? QLocale::system().uiLanguages() : QStringList(set);
+    QString chosen = language(wanted, bundle.localizations());
     auto *toolkit = new QTranslator(QCoreApplication::instance());
     if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s,
             QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -3,6 +3,7 @@
 
 #include "support/Configuration.h"
 #include "support/Defaults.h"
+#include "support/Preferences.h"
 #include "updates/Signature.h"
 #include "updates/UpdateDownload.h"
 #include "updates/UpdaterDelegate.h"
@@ -18,6 +19,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto lastCheckKey = "LastUpdateCheck"_L1;
+constexpr auto skippedKey = "SkippedVersion"_L1;
 constexpr qint64 secondsPerDay = 86400;
 
 #ifdef Q_OS_MACOS
@@ -75,7 +77,7 @@ void Updater::checkInBackground()
     if (feed.isEmpty())
         return;
     m_hourly.start(1h);
-    if (isCheckDue())
+    if (Preferences::checksForUpdates() && isCheckDue())
         start(feed);
 }
 
@@ -101,9 +103,13 @@ void Updater::finish(bool complete)
     m_feed.close();
     UpdateCheck check = complete ? judged(m_feed.data()) : UpdateCheck{};
     check.byUser = std::exchange(m_byUser, false);
-    if (check.byUser || check.outcome == UpdateCheck::Outcome::Available)
+    const bool isNews = check.outcome == UpdateCheck::Outcome::Available
+        && check.item.versionText != Defaults::value(skippedKey).toString();
+    if (check.byUser || isNews)
         Q_EMIT checked(check);
 }
+
+void Updater::skip(const AppcastItem &item) { Defaults::setValue(skippedKey, item.versionText); }
 
 UpdateCheck Updater::judged(const QByteArray &feed) const
 {

@@ -53,8 +53,11 @@ public:
     [[nodiscard]] const UpdaterSettings &settings() const { return m_settings; }
 
     void checkForUpdates();
-    /// Checks when a day has passed since the last check, and looks again every hour.
+    /// Checks when a day has passed since the last check, and looks again every hour; not at all
+    /// when the user does not want it.
     void checkInBackground();
+    /// Checks in the background no longer tell of this version.
+    static void skip(const AppcastItem &item);
     /// A download of an item that was announced as downloadable; the caller starts it and owns it.
     [[nodiscard]] std::unique_ptr<UpdateDownload> download(const AppcastItem &item) const;
 

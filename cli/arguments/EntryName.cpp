@@ -55,7 +55,11 @@ QStringList namesNear(const QString &text)
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
     }
-    return {};
+    QStringList near = entryNames();
+    near.removeIf([&](const QString &name) {
+        return text.size() < 2 || !name.startsWith(text.first(2), Qt::CaseInsensitive);
+    });
+    return near;
 }
 
 bool promisesOtherFormat(const QString &path, const VideoConstraints &entry)

@@ -135,7 +135,10 @@ void JsonReporter::failed(const ConversionItem &item, const Outcome &outcome)
 {
     m_lastCompleted.remove(item.input.path);
     const bool isCancelled = kindOf(outcome) == OutcomeKind::Cancelled;
-    print(isCancelled ? u"cancelled"_s : u"failed"_s, item, failureFields(outcome));
+    Fields fields = failureFields(outcome);
+    if (kindOf(outcome) == OutcomeKind::Incomplete)
+        fields.append({ u"size"_s, static_cast<qint64>(fileSize(item.destPath)) });
+    print(isCancelled ? u"cancelled"_s : u"failed"_s, item, fields);
     printFailure(item, outcome);
 }
 

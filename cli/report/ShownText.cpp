@@ -16,22 +16,6 @@ QString printable(const QString &text)
     return QString(text).replace(obeyed, u"?"_s);
 }
 
-QString shellQuoted(const QString &word)
-{
-    static const QRegularExpression harmless(uR"(\A[A-Za-z0-9_@%+=:,./-]+\z)"_s);
-    if (harmless.match(word).hasMatch())
-        return word;
-    return u'\'' + QString(word).replace(u'\'', uR"('\'')"_s) + u'\'';
-}
-
-QString shellQuoted(const QStringList &words)
-{
-    QStringList quoted;
-    for (const QString &word : words)
-        quoted << shellQuoted(word);
-    return quoted.join(u' ');
-}
-
 int columnsOf(const QString &text)
 {
     int columns = 0;

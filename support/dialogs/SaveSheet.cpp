@@ -7,6 +7,8 @@
 #include "support/dialogs/Alerts.h"
 
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -20,31 +22,16 @@ QString withExtension(const QString &path, const QString &extension)
     return path.endsWith(u'.') ? path + extension : path + u'.' + extension;
 }
 
-bool mayUse(const QString &path, bool hasAsked)
-{
-    const QString name = Path::lastPathComponent(path);
-    if (QFileInfo(path).isDir()) {
-        displayError(
-            formatted(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
-                          "alert of the save panel, with the name of a folder"),
-                { name }));
-        return false;
-    }
-    return hasAsked || !QFileInfo::exists(path)
-        || displayQuestion(formatted(
-            QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
-                "question of the save panel, with the name of a file"),
-            { name }));
 }
 
-}
-
-SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QString extension)
+SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QString extension,
+    std::function<bool(const QString &path)> refuses)
     : QFileDialog(window,
         localized(
             QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
             "Convert"),
         folder)
+    , m_refuses(std::move(refuses))
     , m_extension(std::move(extension))
     , m_proposed(std::move(name))
 {
@@ -60,6 +47,12 @@ SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, QStri
                       "name label for save panel (<= 15 symbols)"),
             "Result filename:"));
     selectFile(m_proposed);
+}
+
+void SaveSheet::showNote(const QString &note)
+{
+    if (auto *grid = qobject_cast<QGridLayout *>(layout()); grid && !note.isEmpty())
+        grid->addWidget(new QLabel(note, this), grid->rowCount(), 0, 1, -1);
 }
 
 void SaveSheet::accept()
@@ -81,6 +74,33 @@ void SaveSheet::accept()
         m_refusedPath = path;
         QDialog::reject();
     }
+}
+
+// The extension is given; the name is what may be typed over.
+void SaveSheet::showEvent(QShowEvent *event)
+{
+    QFileDialog::showEvent(event);
+    if (QLineEdit *field = nameField())
+        field->setSelection(0, static_cast<int>(field->text().size() - m_extension.size() - 1));
+}
+
+bool SaveSheet::mayUse(const QString &path, bool hasAsked) const
+{
+    const QString name = Path::lastPathComponent(path);
+    if (QFileInfo(path).isDir()) {
+        displayError(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
+                          "alert of the save panel, with the name of a folder"),
+                { name }));
+        return false;
+    }
+    if (m_refuses && m_refuses(path))
+        return false;
+    return hasAsked || !QFileInfo::exists(path)
+        || displayQuestion(formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
+                "question of the save panel, with the name of a file"),
+            { name }));
 }
 
 QLineEdit *SaveSheet::nameField() const { return findChild<QLineEdit *>(u"fileNameEdit"_s); }

@@ -15,6 +15,7 @@ namespace {
 
 const QString lastOpenFolder = u"LastOpenFolder"_s;
 const QString lastSaveFolder = u"LastSaveFolder"_s;
+const QString lastSourceFolder = u"LastSourceFolder"_s;
 
 QString rememberedFolder(const QString &key, const QString &otherwise)
 {
@@ -22,25 +23,19 @@ QString rememberedFolder(const QString &key, const QString &otherwise)
     return !folder.isEmpty() && QDir(folder).exists() ? folder : otherwise;
 }
 
-void rememberFolderOf(const QString &path, const QString &key)
-{
-    Defaults::setValue(key, Path::stringByDeletingLastPathComponent(path));
-}
-
 void openSaveSheet(QWidget *window, const QString &folder, const QString &name, const QString &ext,
-    const std::function<void(const QString &path)> &path)
+    const std::function<void(const QString &path)> &path, const PathRefusal &refuses,
+    const QString &note)
 {
-    auto *sheet = new SaveSheet(window, folder, name, ext);
+    auto *sheet = new SaveSheet(window, folder, name, ext, refuses);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] {
-        rememberFolderOf(sheet->path(), lastSaveFolder);
-        path(sheet->path());
-    });
+    sheet->showNote(note);
+    QObject::connect(sheet, &QDialog::accepted, sheet, [sheet, path] { path(sheet->path()); });
     QObject::connect(sheet, &QDialog::rejected, sheet, [=] {
         const QString refused = sheet->refusedPath();
         if (!refused.isEmpty())
             openSaveSheet(window, Path::stringByDeletingLastPathComponent(refused),
-                Path::lastPathComponent(refused), ext, path);
+                Path::lastPathComponent(refused), ext, path, refuses, note);
     });
     sheet->open();
 }
@@ -50,7 +45,10 @@ void openSaveSheet(QWidget *window, const QString &folder, const QString &name, 
 void runChooseSheet(
     QWidget *window, bool files, const std::function<void(const QString &path)> &path)
 {
-    const QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    // A folder that is not there would be proposed as the name of a file.
+    QString movies = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation);
+    if (!QDir(movies).exists())
+        movies = QDir::homePath();
     auto *sheet = new QFileDialog(window, {}, rememberedFolder(lastOpenFolder, movies));
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setAcceptMode(QFileDialog::AcceptOpen);
@@ -60,19 +58,28 @@ void runChooseSheet(
         const QStringList chosen = sheet->selectedFiles();
         if (chosen.isEmpty())
             return;
-        rememberFolderOf(chosen.first(), lastOpenFolder);
+        Defaults::setValue(lastOpenFolder, Path::stringByDeletingLastPathComponent(chosen.first()));
         path(chosen.first());
     });
     sheet->open();
 }
 
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
-    const std::function<void(const QString &path)> &path, const QString &startFolder)
+    const std::function<void(const QString &path)> &path, const QString &startFolder,
+    const PathRefusal &refuses, const QString &note)
 {
-    openSaveSheet(window, saveFolder(startFolder), filename + u'.' + ext, ext, path);
+    openSaveSheet(window, saveFolder(startFolder), filename + u'.' + ext, ext, path, refuses, note);
 }
 
 QString saveFolder(const QString &startFolder)
 {
-    return rememberedFolder(lastSaveFolder, startFolder);
+    return Defaults::value(lastSourceFolder).toString() == startFolder
+        ? rememberedFolder(lastSaveFolder, startFolder)
+        : startFolder;
+}
+
+void rememberSaveFolder(const QString &startFolder, const QString &folder)
+{
+    Defaults::setValue(lastSourceFolder, startFolder);
+    Defaults::setValue(lastSaveFolder, folder);
 }

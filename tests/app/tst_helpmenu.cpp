@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/HelpMenu.h"
+#include "support/Preferences.h"
 #include "tests/ui/WindowTest.h"
 #include "updates/Updater.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 
@@ -40,6 +44,32 @@ private Q_SLOTS:
         QVERIFY(log->isVisible() && log->isReadOnly());
         const QString text = log->toPlainText();
         QVERIFY2(text.contains(u"start: 0.000000\n<b>100%\n"_s), qPrintable(text));
+    }
+
+    void settings_areKept()
+    {
+        Updater updater({ .version = u"1.0"_s });
+        const HelpMenu menu(*m_delegate, updater);
+        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", "http://localhost:9");
+        const auto change = [this](Qt::Key end) {
+            QTest::keyClick(m_delegate->window(), Qt::Key_Comma, Qt::ControlModifier);
+            auto *dialog = m_delegate->window()->findChild<QDialog *>();
+            const auto boxes = dialog->findChildren<QCheckBox *>();
+            // The feed has no address.
+            QVERIFY(boxes[0]->isEnabled() && boxes[0]->isChecked() && !boxes[1]->isEnabled());
+            QTest::keyClick(boxes[0], Qt::Key_Space);
+            QTest::keyClick(dialog->findChild<QComboBox *>(), Qt::Key_Down);
+            QTest::keyClick(dialog, end);
+            QTRY_VERIFY(!m_delegate->window()->findChild<QDialog *>());
+        };
+        change(Qt::Key_Escape);
+        QVERIFY(Preferences::sendsUsage() && Preferences::language().isEmpty());
+        change(Qt::Key_Return);
+        qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
+        QVERIFY(!Preferences::sendsUsage() && Preferences::checksForUpdates());
+        QVERIFY(!Preferences::language().isEmpty());
+        Preferences::setSendsUsage(true);
+        Preferences::setLanguage({});
     }
 };
 

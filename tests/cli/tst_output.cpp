@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 
 // A video of 100 s, converted in about 2 s.
-constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|output|reports:100:20000";
+constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|copy|reports:100:20000";
 
 /// What the program tells: outputs, descriptions, plans, and how a conversion goes.
 class TestOutput : public QObject {

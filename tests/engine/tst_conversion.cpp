@@ -102,6 +102,11 @@ private Q_SLOTS:
                 { "length in a title",
                     "    title : Duration: 99999999999999999:0, start:\\nLENGTH|@100", "100 100",
                     -100, 0, "" },
+                { "position in a title",
+                    "LENGTH    tit|le : time=9999999999999999:00:00 bitrate\\n@100", "100 100",
+                    -100, 0, "" },
+                { "position beyond 64 bits", "LENGTHtime=9999999999999999:00:00 bitrate\\n|@100",
+                    "100 100", -100, 0, "" },
                 { "length unknown", "Duration: N/A, start: 0|@90", "-1", 0, -1, "" },
                 { "nothing said", "", "-1", 0, -1, "" },
             });

@@ -207,7 +207,14 @@ private Q_SLOTS:
     {
         write(u"out-target"_s, "older");
         QVERIFY(QFile::link(u"out-target"_s, path(u"out.mkv"_s)));
-        QCOMPARE(done(job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s)), Outcome{});
+        const ConversionJob request = job(u"whole.mp4"_s, u"out.mkv"_s, u"MKV"_s);
+        {
+            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
+            QCOMPARE(kindOf(done(request)), OutcomeKind::Failed);
+            QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
+            QCOMPARE(read(u"out-target"_s), "older");
+        }
+        QCOMPARE(done(request), Outcome{});
         QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
         QVERIFY(read(u"out-target"_s).size() > 1000);
     }
@@ -270,13 +277,14 @@ private Q_SLOTS:
     {
         addRows<QByteArray, bool>({ "entry", "isOne" },
             {
-                { "staged file", "/a b/.video-converter-01abcdef.mp4", true },
-                { "line break", "/a\nb/.video-converter-01abcdef.mp4", true },
+                { "staged file", "/a b/.video-converter-01abcd.mp4", true },
+                { "line break", "/a\nb/.video-converter-01abcd.mp4", true },
                 { "somebody's file", "/home/diary.txt", false },
-                { "relative", ".video-converter-01abcdef.mp4", false },
-                { "folder behind", "/a/.video-converter-01abcdef.mp4/b", false },
-                { "zero byte", QByteArray("/a\0/.video-converter-01abcdef.mp4", 34), false },
-                { "no text", "/\xff/.video-converter-01abcdef.mp4", false },
+                { "no extension", "/a/.video-converter-01abcd", true },
+                { "relative", ".video-converter-01abcd.mp4", false },
+                { "folder behind", "/a/.video-converter-01abcd.mp4/b", false },
+                { "zero byte", QByteArray("/a\0/.video-converter-01abcd.mp4", 32), false },
+                { "no text", "/\xff/.video-converter-01abcd.mp4", false },
             });
     }
     void entry_namesAStagedFile()

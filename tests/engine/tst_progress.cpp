@@ -183,8 +183,6 @@ private Q_SLOTS:
                     "The encoder can't handle this video's picture or sound." },
                 { "damaged", "a.mov: Invalid data found when processing input\n" + end,
                     "The video's data is damaged." },
-                { "silent", "\nThe tool has been silent for too long and was stopped.\n",
-                    "The tool was silent for too long and was stopped." },
                 { "asked to end", "Exiting normally, received signal 15.\n",
                     "Another program stopped the tool." },
                 { "killed", "  Metadata:\n" + report + report, killed },

@@ -102,6 +102,13 @@ private Q_SLOTS:
     {
         Task::setSilenceLimit(1s);
         QVERIFY(outputOf("print:hello|forever").startsWith("hello="));
+        // One that works is left alone.
+        QCOMPARE(outputOf("busy:3000|print:done"), "done=0");
+        const QTemporaryDir folder;
+        const QString result = folder.filePath(u"result"_s);
+        QVERIFY(QFile(result).open(QIODevice::WriteOnly));
+        QCOMPARE(
+            outputOf("grow:3000:" + result.toUtf8() + "|print:done", { {}, { result } }), "done=0");
         Task::setSilenceLimit(300s);
         const qsizetype flood = outputOf("flood:100000000000").size();
         QVERIFY2(flood > 60'000'000 && flood < 80'000'000, qPrintable(QString::number(flood)));
@@ -119,9 +126,18 @@ private Q_SLOTS:
                 { "writes the source", "write:SOURCE/video.mp4", refused },
                 { "empties the source", "truncate:SOURCE/video.mp4", refused },
                 { "removes the source", "remove:SOURCE/video.mp4", refused },
-                { "removes the result's neighbour", "remove:DEST/other.txt", refused },
-                { "makes a folder", "mkdir:DEST/folder", refused },
+                { "empties by reading", "readtruncate:SOURCE/video.mp4",
+                    "Operation not permitted =0" },
+                { "hides the source", "chmod:SOURCE/video.mp4", refused },
                 { "writes the result", "write:DEST/result.mp4", allowed },
+                { "removes the result", "remove:DEST/result.mp4", refused },
+                { "moves the result", "rename:DEST/result.mp4", refused },
+                { "makes a file", "write:DEST/new.txt", refused },
+                { "makes a folder", "mkdir:DEST/folder", refused },
+                { "empties the result's neighbour", "write:DEST/other.txt", refused },
+                { "cuts the result's neighbour", "truncate:DEST/other.txt", refused },
+                { "moves the result's neighbour", "rename:DEST/other.txt", refused },
+                { "removes the result's neighbour", "remove:DEST/other.txt", refused },
                 { "reads the destination", "read:DEST/other.txt", refused },
                 { "lists the home folder", "read:HOME", refused },
                 { "reads in the home folder", "read:HOME/secret", refused },
@@ -133,6 +149,14 @@ private Q_SLOTS:
                 { "IPv4 socket", socket(AF_INET), refused },
                 { "IPv6 socket", socket(AF_INET6), refused },
                 { "local socket", socket(AF_UNIX), refused },
+                { "traces the parent", "ptrace", refused },
+                { "signals the parent", "kill:parent", "Operation not permitted =0" },
+                { "signals all", "kill:group", "Operation not permitted =0" },
+                { "signals itself", "kill:self", allowed },
+                { "starts processes", "fork", "Operation not permitted =0" },
+                { "starts threads", "threads:64", allowed },
+                { "starts threads without end", "threads:1000000", "no more =0" },
+                { "opens files without end", "descriptors", "Too many open files =0" },
             });
     }
     void sandbox_refusesWhatIsNotNeeded()
@@ -144,9 +168,9 @@ private Q_SLOTS:
         const QTemporaryDir dest;
         const QTemporaryDir home;
         const QString video = source.filePath(u"video.mp4"_s);
-        for (const QString &path :
-            { video, source.filePath(u"diary.txt"_s), dest.filePath(u"other.txt"_s),
-                home.filePath(u"secret"_s), home.filePath(u"program"_s) }) {
+        for (const QString &path : { video, source.filePath(u"diary.txt"_s),
+                 dest.filePath(u"other.txt"_s), dest.filePath(u"result.mp4"_s),
+                 home.filePath(u"secret"_s), home.filePath(u"program"_s) }) {
             QFile file(path);
             QVERIFY(file.open(QIODevice::WriteOnly));
             QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
@@ -155,7 +179,7 @@ private Q_SLOTS:
         attempt.replace("DEST", QFile::encodeName(dest.path()));
         attempt.replace("HOME", QFile::encodeName(home.path()));
         attempt.replace("TEMP", QFile::encodeName(QDir::tempPath()));
-        QTEST(outputOf(attempt, { { video }, { dest.path() } }), "answer");
+        QTEST(outputOf(attempt, { { video }, { dest.filePath(u"result.mp4"_s) } }), "answer");
     }
 };
 

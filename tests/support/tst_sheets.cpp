@@ -57,6 +57,7 @@ private Q_SLOTS:
         QCOMPARE(sheet()->windowTitle(), u"Convert"_s);
         QCOMPARE(sheet()->labelText(QFileDialog::FileName), u"Result filename:"_s);
         QCOMPARE(nameField()->text(), u"a'b\"c 100%d.mp4"_s);
+        QCOMPARE(nameField()->selectedText(), u"a'b\"c 100%d"_s);
 
         QTest::mouseClick(accept, Qt::LeftButton);
         QTRY_VERIFY(!sheet());
@@ -118,13 +119,16 @@ private Q_SLOTS:
         QCOMPARE(paths, QStringList{ path(u"sub/video.mp4"_s) });
     }
 
-    void saveFolder_isTheLastOneUsed()
+    void saveFolder_isTheLastOneOfSuchVideos()
     {
         QCOMPARE(saveFolder(folder->path()), folder->path());
         save(u"video"_s);
         type(u"sub/video"_s);
         QTRY_VERIFY(!sheet());
+        QCOMPARE(saveFolder(folder->path()), folder->path());
+        rememberSaveFolder(folder->path(), path(u"sub"_s));
         QCOMPARE(saveFolder(folder->path()), path(u"sub"_s));
+        QCOMPARE(saveFolder(QDir::rootPath()), QDir::rootPath());
 
         save(u"video"_s);
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));

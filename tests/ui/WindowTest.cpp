@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QPushButton>
 #include <QWindow>
 
@@ -29,7 +30,14 @@ bool WindowTest::clickCommand(QMenu *menu, const QString &title)
 void WindowTest::choose(const QString &title) const
 {
     auto *menu = find<QMenu>("formatMenu");
-    QTimer::singleShot(0, menu, [menu, title] { clickCommand(menu, title); });
+    QTimer::singleShot(0, menu, [menu, title] {
+        // It may have to be scrolled into view.
+        for (QAction *item : menu->actions()) {
+            if (item->text() == title)
+                menu->setActiveAction(item);
+        }
+        clickCommand(menu, title);
+    });
     click("convertToButton");
 }
 
@@ -94,16 +102,26 @@ void WindowTest::answer(QDialog *dialog)
     if (auto *field = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)) {
         ++m_user.sheets;
         m_user.proposal = field->text();
+        m_user.whileAnswering();
         if (m_user.names.isEmpty())
             return QTest::keyClick(dialog, Qt::Key_Escape);
-        if (const QString name = m_user.names.takeFirst(); !name.isEmpty())
+        if (const QString name = m_user.names.takeFirst(); !name.isEmpty()) {
+            // The list of files writes into a field that has no focus.
+            dialog->activateWindow();
+            field->setFocus();
+            QVERIFY(QTest::qWaitFor([field] { return field->hasFocus(); }));
             field->setText(name);
+        }
+        const QPointer<QDialog> sheet(dialog);
         QTest::keyClick(field, Qt::Key_Return);
+        // It stays when it refuses the name.
+        if (sheet && sheet->isVisible())
+            sheet->setProperty("isAnswered", false);
     } else if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
         m_user.read << box->text();
         m_user.whileReading();
         for (QAbstractButton *button : box->buttons()) {
-            if (m_user.saysYes && button->text() == "Yes"_L1)
+            if (m_user.saysYes && box->buttonRole(button) == QMessageBox::YesRole)
                 return QTest::mouseClick(button, Qt::LeftButton);
         }
         QTest::keyClick(box, Qt::Key_Return);
@@ -122,8 +140,8 @@ void WindowTest::initTestCase()
 void WindowTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    Defaults::remove(u"LastSaveFolder"_s);
-    Defaults::remove(u"LastOpenFolder"_s);
+    for (const QString &key : { u"LastSaveFolder"_s, u"LastOpenFolder"_s, u"LastEntry"_s })
+        Defaults::remove(key);
     m_video = path(u"video.mov"_s);
     QVERIFY(QFile::copy(m_sample.filePath(u"video.mov"_s), m_video));
     m_user = {};

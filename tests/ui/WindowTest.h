@@ -33,6 +33,8 @@ protected:
         QStringList read;
         /// Before a message is answered.
         std::function<void()> whileReading = [] {};
+        /// Before a file dialog is answered.
+        std::function<void()> whileAnswering = [] {};
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
         /// File dialogs so far.
@@ -63,6 +65,11 @@ protected:
         return m_delegate->window()->findChild<View *>(QLatin1String(name));
     }
     [[nodiscard]] QWidget *view(const char *name) const { return find<QWidget>(name); }
+    /// A label's text, without the marks that keep each part in its own direction.
+    [[nodiscard]] QString said(const char *name) const
+    {
+        return find<QLabel>(name)->text().remove(QChar(0x2068)).remove(QChar(0x2069));
+    }
     void click(const char *name) const { QTest::mouseClick(view(name), Qt::LeftButton); }
     /// False when the open menu's command can't be clicked.
     static bool clickCommand(QMenu *menu, const QString &title);

@@ -3,10 +3,15 @@
 #include "tests/ui/desktop/DesktopStandIn.h"
 #include "ui/desktop/KeepAwake.h"
 #include "ui/widgets/Appearance.h"
+#include "ui/widgets/DropBox.h"
+#include "ui/widgets/ImageView.h"
 #include "ui/widgets/SpinningView.h"
 
 #include <QDBusVariant>
 #include <QDesktopServices>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +26,22 @@ const QString question
     = u"Attention! Current converting process will be cancelled.\nAre you sure you want to continue?"_s;
 
 }
+
+/// Takes what is dropped on it.
+class DropTarget : public QWidget {
+public:
+    QList<QUrl> dropped;
+
+    DropTarget() { setAcceptDrops(true); }
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override { event->acceptProposedAction(); }
+    void dropEvent(QDropEvent *event) override
+    {
+        dropped = event->mimeData()->urls();
+        event->acceptProposedAction();
+    }
+};
 
 /// Conversions that fail, are cancelled or outlive their window, and what the desktop hears.
 class tst_run : public WindowTest {
@@ -68,7 +89,76 @@ private Q_SLOTS:
         QVERIFY(convert("print:100%d of %@\\n|exit:1", State::InitialState, u"100%d %@.mov"_s));
         QTRY_COMPARE(m_user.read,
             QStringList(u"Error processing 100%d %@.mov\nThe tool failed: 100%d of %@"_s));
-        QVERIFY(open(u"100%d %@.mov"_s));
+        QCOMPARE(said("refusalLabel"), u"The tool failed: 100%d of %@"_s);
+        click("logLabel");
+        QTRY_VERIFY(QApplication::activeModalWidget());
+        const auto *log = QApplication::activeModalWidget()->findChild<QPlainTextEdit *>();
+        QVERIFY(log && log->toPlainText().contains(u"100%d of %@"_s));
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+
+        click("anotherFormatLabel");
+        QCOMPARE(m_delegate->uiState(), State::CoverIsSet);
+        QVERIFY(!find<ImageView>("movieCoverImageView")->image().isNull());
+        m_delegate->setUiState(State::InitialState);
+        QVERIFY(view("anotherFormatLabel")->isHidden() && view("logLabel")->isHidden());
+        QCOMPARE(said("againLabel"), u"Open “100%d %@.mov” again"_s);
+        m_swap.reset();
+        click("againLabel");
+        QVERIFY(waitFor(State::CoverIsSet));
+    }
+
+    void result_isCommentedOn()
+    {
+        const auto comment = [this](const QString &source, const QString &entry) {
+            m_user.names << u"result"_s;
+            if (!open(source))
+                return u"not opened"_s;
+            choose(entry);
+            return waitFor(State::ConversionIsDone) ? said("remarksLabel") : u"not done"_s;
+        };
+        Media::ffmpeg({ u"-f"_s, u"lavfi"_s, u"-i"_s, u"testsrc=s=161x121:d=2"_s, u"-c:v"_s,
+            u"mpeg4"_s, path(u"odd.avi"_s) });
+        QCOMPARE(comment(u"odd.avi"_s, u"MP4"_s),
+            u"The picture was made a little smaller, because this output needs even sizes."_s);
+        QCOMPARE(said("secondTryLabel"),
+            u"The first try could not work, so this is a second one in another way."_s);
+
+        Media::video(path(u"cut.mkv"_s), 9);
+        QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
+        QVERIFY(QFile::rename(path(u"result.mp4"_s), path(u"result.mkv"_s)));
+        m_user.saysYes = true;
+        const QStringList lines = comment(u"cut.mkv"_s, u"MKV"_s).split(u'\n');
+        QVERIFY2(lines.first().startsWith(u"The converting progress was finished at "_s),
+            qPrintable(lines.first()));
+        QCOMPARE(lines.last(), u"The older file was kept as “result (earlier).mkv”."_s);
+        QCOMPARE(m_user.read.last(), u"Error processing cut.mkv\n"_s + lines.first());
+        QVERIFY(view("remarksLabel")->isVisible() && said("secondTryLabel").isEmpty());
+        QVERIFY(!find<ImageView>("movieCoverImageView")->image().isNull());
+    }
+
+    void result_isDraggedOut()
+    {
+        QVERIFY(convert("reports:100:100", State::ConversionIsDone));
+        DropTarget target;
+        target.resize(100, 100);
+        target.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&target));
+        auto *picture = view("movieCoverImageView");
+        const QPoint middle = picture->rect().center();
+        // The drag takes the events from here on until it ends.
+        QTimer::singleShot(100, &target, [&target] {
+            for (const int place : { 40, 50 })
+                QTest::mouseMove(&target, QPoint(place, place));
+            QTest::mouseRelease(&target, Qt::LeftButton, {}, QPoint(50, 50));
+        });
+        QTest::mousePress(picture, Qt::LeftButton, {}, middle);
+        QMouseEvent move(QEvent::MouseMove, middle + QPoint(40, 0),
+            picture->mapToGlobal(middle + QPoint(40, 0)), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(picture, &move);
+        QTRY_COMPARE(target.dropped, QList<QUrl>{ QUrl::fromLocalFile(path(u"result.mkv"_s)) });
+        QCOMPARE(m_delegate->uiState(), State::ConversionIsDone);
+        QVERIFY(allowDragDrop(view("dropAcceptor")));
     }
 
     void missingTool_leavesTheWindowUsable()
@@ -155,6 +245,9 @@ private Q_SLOTS:
         QDesktopServices::setUrlHandler(u"file"_s, this, "openFolder");
         click("openFolderImageView");
         QTRY_COMPARE(m_opened, QStringList(m_folder->path()));
+        click("openResultButton");
+        QTRY_COMPARE(m_opened, QStringList({ m_folder->path(), path(u"result.mkv"_s) }));
+        m_opened.removeLast();
         QTRY_COMPARE(Processes::children(), QStringList());
         QVERIFY(QFile::remove(path(u"result.mkv"_s)));
         QTest::keyClick(view("openFolderImageView"), Qt::Key_Return);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
+#include "ui/widgets/Appearance.h"
 #include "ui/widgets/ConvertPopupButtonCell.h"
 #include "ui/window/ProposedName.h"
 #include "ui/window/TimeLeft.h"
@@ -7,6 +8,8 @@
 #include <QFontMetricsF>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -27,6 +30,49 @@ private Q_SLOTS:
         const QRectF tight(3, 7, 100, height - 4);
         QCOMPARE(cell.titleRectForBounds(tight), tight);
         QCOMPARE(cell.titleRectForBounds(tight.adjusted(0, 0, 0, 14)), QRectF(3, 10, 100, height));
+    }
+
+    void colours_standOut_data()
+    {
+        using enum QPalette::ColorRole;
+        using Group = QPalette::ColorGroup;
+        addRows<Group, QPalette::ColorRole, QPalette::ColorRole, double>(
+            { "group", "ink", "ground", "least" },
+            { { "text", Group::Active, WindowText, Window, 7 },
+                { "text on the stage", Group::Active, Text, Base, 7 },
+                { "convert button", Group::Active, HighlightedText, Highlight, 4.5 },
+                { "button", Group::Active, ButtonText, Button, 7 },
+                { "link, focus ring", Group::Active, Link, Base, 4.5 },
+                { "dimmed text, dashes", Group::Active, PlaceholderText, Base, 4.5 },
+                { "dimmed label", Group::Active, PlaceholderText, Window, 4.5 },
+                { "tool tip", Group::Active, ToolTipText, ToolTipBase, 4.5 },
+                { "face of the convert button", Group::Active, Highlight, Window, 3 },
+                { "progress", Group::Active, Link, Mid, 3 },
+                { "headings of menus", Group::Disabled, Text, Base, 4.5 },
+                { "disabled text", Group::Disabled, WindowText, Window, 4.5 },
+                { "disabled button", Group::Disabled, ButtonText, Button, 4.5 } });
+    }
+    void colours_standOut()
+    {
+        QFETCH(const QPalette::ColorRole, ink);
+        QFETCH(const QPalette::ColorRole, ground);
+        QFETCH(const double, least);
+        const auto luminance = [](const QColor &color) {
+            const auto linear = [](double part) {
+                return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+            };
+            return 0.05 + 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+                + 0.0722 * linear(color.blueF());
+        };
+        for (const bool isDark : { false, true }) {
+            for (const bool hasHighContrast : { false, true }) {
+                const QPalette colors = Appearance::palette({ isDark, hasHighContrast });
+                QFETCH(const QPalette::ColorGroup, group);
+                const auto [low, high] = std::minmax({ luminance(colors.color(group, ink)),
+                    luminance(colors.color(group, ground)) });
+                QVERIFY2(high / low >= least, qPrintable(QString::number(high / low)));
+            }
+        }
     }
 
     void timeLeft_speaksWhenSteady_data()

@@ -5,9 +5,12 @@
 #include "tests/ui/WindowTest.h"
 #include "ui/widgets/ImageView.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QFileOpenEvent>
 #include <QMimeData>
+#include <QRegularExpression>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -24,11 +27,30 @@ private Q_SLOTS:
         QVERIFY(!find<ImageView>("movieCoverImageView")->image().isNull());
         QCOMPARE(m_delegate->selectedFileExt(), u"mov"_s);
 
+        QVERIFY2(said("factsLabel").endsWith(u" · 160 × 120 · H.264 · AAC"_s),
+            qPrintable(said("factsLabel")));
+        const std::pair<const char *, QString> entries[] = {
+            { "mKVMenuItem", u"Copies picture and sound, takes seconds"_s },
+            { "fLVMenuItem", u"Copies the picture, encodes the sound anew"_s },
+            { "webMMenuItem", u"Encodes picture and sound anew"_s },
+        };
+        for (const auto &[name, work] : entries) {
+            auto *entry = find<QAction>(name);
+            auto *menu = QAccessible::queryAccessibleInterface(find<QMenu>("formatMenu"));
+            auto *read = menu->child(int(find<QMenu>("formatMenu")->actions().indexOf(entry)));
+            QCOMPARE(read->text(QAccessible::Name), entry->text());
+            QCOMPARE(read->text(QAccessible::Description).sliced(1).chopped(1), work);
+            QCOMPARE(entry->icon().isNull(), !work.contains(u"seconds"_s));
+        }
+
         m_user.names << QString();
         choose(u"WebM"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_user.proposal, u"video.webm"_s);
         QCOMPARE(m_delegate->resultFilePath(), path(u"video.webm"_s));
+        QVERIFY2(said("resultLabel").startsWith(u"video.webm · "_s)
+                && said("resultLabel").endsWith(u" · 3s"_s),
+            qPrintable(said("resultLabel")));
         QTRY_COMPARE(Processes::children(), QStringList());
         QCOMPARE(Media::streamEntry(path(u"video.webm"_s), u"v:0"_s, u"codec_name"_s), u"vp8"_s);
         QCOMPARE(m_user.read, QStringList());
@@ -45,6 +67,8 @@ private Q_SLOTS:
         m_user.names << m_video;
         click("openFromFolderLabel");
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        m_delegate->takeFiles({ m_video });
+        QVERIFY(waitFor(WindowUIState::WaitingForCover) && waitFor(WindowUIState::CoverIsSet));
         QVERIFY(convert("reports:3000:20000"));
         m_user.saysYes = true;
         click("cancelProgressButton");
@@ -55,19 +79,31 @@ private Q_SLOTS:
         // Each comes on a connection of its own, in any order.
         const QStringList told{ u"adding_video click true"_s, u"adding_video drag true"_s,
             u"adding_video drag true"_s, u"adding_video size 0-1"_s, u"adding_video size 0-1"_s,
-            u"adding_video size 0-1"_s, u"behavior firstrun true"_s, u"convert abort true"_s,
-            u"convert convert_another true"_s, u"convert from_to mkv_MKV"_s,
-            u"convert from_to mkv_MKV"_s };
+            u"adding_video size 0-1"_s, u"adding_video size 0-1"_s, u"behavior firstrun true"_s,
+            u"convert abort true"_s, u"convert convert_another true"_s,
+            u"convert from_to mkv_MKV"_s, u"convert from_to mkv_MKV"_s };
         QTRY_COMPARE(collector.requests.size(), told.size());
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
+        QFile page(QStringLiteral(VC_PRIVACY_PAGE));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        QStringList rows = QString::fromUtf8(page.readAll()).split(u'\n');
+        rows = rows.filter(QRegularExpression(u"^\\| `\\w+` \\| `\\w+` \\|"_s));
         QStringList events;
+        QSet<QString> announced;
         for (const Collector::Request &request : collector.requests) {
             const QJsonObject hit = request.hit();
             const QString label = hit[u"el"_s].toVariant().toString();
             events << hit[u"ec"_s].toString() + u' ' + hit[u"ea"_s].toString() + u' ' + label;
+            const QString start
+                = u"| `%1` | `%2` |"_s.arg(hit[u"ec"_s].toString(), hit[u"ea"_s].toString());
+            const QString row = rows.filter(start).value(0);
+            QVERIFY2(row.contains(label == u"true"_s ? u"| true |"_s : u'`' + label + u'`'),
+                qPrintable(events.last()));
+            announced << row;
         }
         events.sort();
         QCOMPARE(events, told);
+        QCOMPARE(announced.size(), rows.size());
     }
 
     void keyboard_isEnough()
@@ -77,22 +113,54 @@ private Q_SLOTS:
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(QApplication::focusWidget(), view("convertToButton"));
-        QTimer::singleShot(0, this, [this] {
+        bool isInSight = false;
+        QTimer::singleShot(0, this, [this, &isInSight] {
             auto *menu = find<QMenu>("formatMenu");
-            QTest::keyClick(menu, Qt::Key_Up);
+            const QWidget *face = view("convertToButton");
+            const QRect place(face->mapToGlobal(QPoint()), face->size());
+            isInSight = menu->screen()->geometry().contains(menu->geometry())
+                && !menu->geometry().intersects(place);
+            QTest::keyClicks(menu, u"mp4 4"_s);
             QTest::keyClick(menu, Qt::Key_Return);
         });
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(isInSight);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
         QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), view("openResultButton"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QVERIFY(view("openFromFolderLabel")->hasFocus());
-        m_user.names << m_video;
+        m_user.names << m_video << u"once more"_s;
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QTest::keyClick(window, Qt::Key_T, Qt::ControlModifier);
+        QVERIFY(waitFor(WindowUIState::ConversionIsDone));
+        QCOMPARE(m_delegate->resultFilePath(), path(u"once more.mp4"_s));
+        m_delegate->takeFiles({ m_video });
+        QTest::keyClick(window, Qt::Key_Escape);
+        QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QTest::keyClick(window, Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!window->isVisible());
+    }
+
+    /// Files from elsewhere are not lost while a video is converted.
+    void file_waitsForTheOneBefore()
+    {
+        QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
+        QVERIFY(convert("reports:3000:20000"));
+        m_delegate->takeFiles({ path(u"next.mov"_s) });
+        QVERIFY(view("keptLabel")->isVisible());
+        QCOMPARE(find<QLabel>("keptLabel")->text(), u"Next: “next.mov”"_s);
+        m_swap.reset();
+        m_user.saysYes = true;
+        click("cancelProgressButton");
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
+        QVERIFY(!view("keptLabel")->isVisible());
     }
 
     void file_arrivesOnEveryWay()
@@ -127,9 +195,39 @@ private Q_SLOTS:
 
     void drop_ofSomethingElseIsIgnored()
     {
-        QVERIFY(!drop({}));
-        drop({ u"http://localhost/video.mov"_s });
+        const QString link = u"http://localhost/video.mov"_s;
+        QVERIFY(!drop({}) && !drop({ link }));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
+        QVERIFY(drop({ link, url(u"video.mov"_s) }));
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+    }
+
+    void severalVideos_areCounted()
+    {
+        QVERIFY(QFile::copy(m_video, path(u"it's.mov"_s)));
+        QVERIFY(drop({ url(u"video.mov"_s), url(u"it's.mov"_s) }));
+        QVERIFY(waitFor(WindowUIState::CoverIsSet));
+        QCOMPARE(said("leftOutLabel"), u"One video is converted at a time here. Left out: 1"_s);
+        m_delegate->window()
+            ->findChild<QMenu *>(u"formatMenu"_s)
+            ->setDefaultAction(find<QAction>("mp4LowQualityMenuItem"));
+        click("copyCommandLabel");
+        QCOMPARE(QApplication::clipboard()->text(),
+            uR"(video-converter-cli convert --to 'MP4 Low Quality' -j 0 -d %1 -- %1/video.mov '%1/it'\''s.mov')"_s
+                .arg(m_folder->path()));
+        QVERIFY(open());
+        QVERIFY(view("leftOutLabel")->isHidden() && view("copyCommandLabel")->isHidden());
+    }
+
+    void sourceWithoutSound_becomesNoAudio()
+    {
+        Media::ffmpeg({ u"-i"_s, m_video, u"-c"_s, u"copy"_s, u"-an"_s, path(u"silent.mov"_s) });
+        QVERIFY(open(u"silent.mov"_s));
+        const auto *audio = find<QAction>("audioMenuItem");
+        QVERIFY(!audio->isEnabled() && find<QAction>("mKVMenuItem")->isEnabled());
+        QCOMPARE(audio->toolTip(), u"The video has no sound"_s);
+        QVERIFY(open());
+        QVERIFY(audio->isEnabled());
     }
 
     void badFile_isRefused()
@@ -137,10 +235,7 @@ private Q_SLOTS:
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QVERIFY(open());
         // Nothing arrives while the message stands.
-        m_user.whileReading = [this] {
-            drop({ url(u"video.mov"_s) });
-            m_delegate->takeFiles({ m_video });
-        };
+        m_user.whileReading = [this] { drop({ url(u"video.mov"_s) }); };
         QVERIFY(drop({ url(u"empty.mov"_s) }));
         auto *reason = find<QLabel>("refusalLabel");
         QTRY_COMPARE(reason->text(), u"The file is empty."_s);
@@ -175,9 +270,8 @@ private Q_SLOTS:
         m_user.names << u"video.mp4"_s << u"./link.mp4"_s << u"other"_s;
         choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
-        QCOMPARE(m_user.proposal, u"video 2.mp4"_s);
-        QCOMPARE(m_user.sheets, 3);
-        QCOMPARE(m_user.read.count(u"The video can't be converted into itself"_s), 2);
+        QCOMPARE(m_user.names, QStringList());
+        QCOMPARE(m_user.read, QStringList(2, u"The video can't be converted into itself"_s));
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
         QCOMPARE(QFileInfo(path(u"video.mp4"_s)).size(), size);
     }

@@ -8,6 +8,7 @@
 #include "updates/dialog/UpdateDialogs.h"
 
 #include <QDateTime>
+#include <QDialog>
 #include <QDir>
 #include <QLabel>
 #include <QNetworkProxyFactory>
@@ -113,7 +114,9 @@ private Q_SLOTS:
             .publicKey = QString::fromLatin1(m_keys.publicKey.toBase64()),
             .downloadFolder = m_folder.filePath(u"Downloads"_s) };
         qputenv("VIDEO_CONVERTER_FEED_URL", m_server.address(u"/update.xml"_s).toLatin1());
-        Defaults::remove(u"LastUpdateCheck"_s);
+        for (const QString &key :
+            { u"LastUpdateCheck"_s, u"SkippedVersion"_s, u"ChecksForUpdates"_s })
+            Defaults::remove(key);
     }
 
     void check_judgesTheFeed_data()
@@ -174,16 +177,25 @@ private Q_SLOTS:
 
     void backgroundCheck_isDailyAndDiscreet_data()
     {
-        addRows<qint64, Utf8, int, bool>({ "hoursAgo", "version", "requests", "isTold" },
-            { { "an hour ago", 1, "1.6", 0, false }, { "a day ago", 24, "1.6", 1, true },
-                { "in a far future", -10000, "1.6", 1, true },
-                { "no news", 24, "1.5", 1, false } });
+        using List = QStringList;
+        addRows<qint64, Utf8, QStringList, int, bool>(
+            { "hoursAgo", "version", "setting", "requests", "isTold" },
+            { { "an hour ago", 1, "1.6", List(), 0, false },
+                { "a day ago", 24, "1.6", List(), 1, true },
+                { "in a far future", -10000, "1.6", List(), 1, true },
+                { "no news", 24, "1.5", List(), 1, false },
+                { "skipped", 24, "1.6", List{ u"SkippedVersion"_s, u"1.6"_s }, 1, false },
+                { "another skipped", 24, "1.6", List{ u"SkippedVersion"_s, u"1.5.9"_s }, 1, true },
+                { "unwanted", 24, "1.6", List{ u"ChecksForUpdates"_s, u"false"_s }, 0, false } });
     }
     void backgroundCheck_isDailyAndDiscreet()
     {
         QFETCH(qint64, hoursAgo);
         QFETCH(QString, version);
         QFETCH(bool, isTold);
+        QFETCH(const QStringList, setting);
+        if (!setting.isEmpty())
+            Defaults::setValue(setting[0], setting[1]);
         m_server.answers["/update.xml"] = feed(good(version.toLatin1()));
         Defaults::setValue(
             u"LastUpdateCheck"_s, QDateTime::currentDateTimeUtc().addSecs(-3600 * hoursAgo));
@@ -267,12 +279,13 @@ private Q_SLOTS:
         QCOMPARE(window.findChild<QLabel *>()->text(),
             u"Video Converter 9.0 is available. You have 1.5."_s);
         QCOMPARE(window.findChild<QPlainTextEdit *>()->toPlainText(),
-            u"Faster start\nSee http://evil.example/"_s);
+            u"•  Faster start\n•  See http://evil.example/"_s);
         QStringList buttons;
         for (const QPushButton *button : window.findChildren<QPushButton *>())
             buttons.append(button->text());
         buttons.sort();
-        QCOMPARE(buttons, (QStringList{ u"Later"_s, u"Open Web Site"_s }));
+        QCOMPARE(buttons, (QStringList{ u"Later"_s, u"Open Web Site"_s, u"Skip This Version"_s }));
+        QVERIFY(window.findChild<QDialog *>()->testAttribute(Qt::WA_ShowWithoutActivating));
     }
 };
 

@@ -39,7 +39,7 @@ constexpr Shade shades[] = {
     {QPalette::Mid,             0xffccd0dc, 0xff464b59},
     {QPalette::Dark,            0xffa5abbd, 0xff15171b},
     {QPalette::Shadow,          0xff7c8397, 0xff0b0c0e},
-    {QPalette::Highlight,       0xff4d5bd8, 0xff6876ee},
+    {QPalette::Highlight,       0xff4d5bd8, 0xff5d6ae4},
     {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
     {QPalette::Link,            0xff4350cc, 0xff9aa5ff},
     {QPalette::LinkVisited,     0xff7048c2, 0xffc3a6ff},
@@ -54,16 +54,31 @@ QPalette palette(QRgb Shade::*tone)
     for (const Shade &shade : shades)
         palette.setColor(shade.role, QColor::fromRgba(shade.*tone));
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        QColor faded = palette.color(role);
-        faded.setAlphaF(0.45F);
-        palette.setColor(QPalette::Disabled, role, faded);
+        // The menu's headings are such texts, and have to be read.
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
+    }
+    return palette;
+}
+
+QPalette withHighContrast(QPalette palette, bool dark)
+{
+    const QColor ground = dark ? Qt::black : Qt::white;
+    const QColor ink = dark ? Qt::white : Qt::black;
+    for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
+        palette.setColor(role, ground);
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+             QPalette::PlaceholderText, QPalette::Dark }) {
+        palette.setColor(QPalette::Active, role, ink);
+        palette.setColor(QPalette::Inactive, role, ink);
     }
     return palette;
 }
 
 constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
+constexpr auto contrastKey = "contrast"_L1;
 constexpr uint prefersDark = 1;
+constexpr uint prefersHighContrast = 1;
 
 /// The style's own plain colours mean that no desktop has set any.
 bool platformHasColors()
@@ -76,28 +91,31 @@ bool platformHasColors()
 
 }
 
-QPalette Appearance::lightPalette() { return palette(&Shade::light); }
-
-QPalette Appearance::darkPalette() { return palette(&Shade::dark); }
+QPalette Appearance::palette(Look look)
+{
+    const QPalette plain = ::palette(look.isDark ? &Shade::dark : &Shade::light);
+    return look.hasHighContrast ? withHighContrast(plain, look.isDark) : plain;
+}
 
 Appearance::Appearance()
 {
     if (platformHasColors())
         return;
-    setDark(false);
+    QApplication::setPalette(palette(m_look));
     askDesktop();
-}
-
-void Appearance::setDark(bool dark)
-{
-    QApplication::setPalette(dark ? darkPalette() : lightPalette());
 }
 
 #ifdef Q_OS_LINUX
 void Appearance::settingChanged(const QString &space, const QString &key, const QDBusVariant &value)
 {
-    if (space == appearanceSpace && key == schemeKey)
-        setDark(value.variant().toUInt() == prefersDark);
+    if (space != appearanceSpace || (key != schemeKey && key != contrastKey))
+        return;
+    const uint wish = value.variant().toUInt();
+    if (key == schemeKey)
+        m_look.isDark = wish == prefersDark;
+    else
+        m_look.hasHighContrast = wish == prefersHighContrast;
+    QApplication::setPalette(palette(m_look));
 }
 #endif
 
@@ -112,17 +130,19 @@ void Appearance::askDesktop()
         return;
     bus.connect(service, path, interface, u"SettingChanged"_s, this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
-    DesktopBus::call(bus, { service, path, interface, u"Read"_s },
-        { QString(appearanceSpace), QString(schemeKey) },
-        [self = QPointer(this)](const QDBusMessage &answer) {
-            if (!self || answer.type() != QDBusMessage::ReplyMessage
-                || answer.arguments().isEmpty())
-                return;
-            // The portal wraps the value twice.
-            auto value = answer.arguments().constFirst().value<QDBusVariant>();
-            if (value.variant().canConvert<QDBusVariant>())
-                value = value.variant().value<QDBusVariant>();
-            self->settingChanged(appearanceSpace, schemeKey, value);
-        });
+    for (const QString key : { schemeKey, contrastKey }) {
+        DesktopBus::call(bus, { service, path, interface, u"Read"_s },
+            { QString(appearanceSpace), key },
+            [self = QPointer(this), key](const QDBusMessage &answer) {
+                if (!self || answer.type() != QDBusMessage::ReplyMessage
+                    || answer.arguments().isEmpty())
+                    return;
+                // The portal wraps the value twice.
+                auto value = answer.arguments().constFirst().value<QDBusVariant>();
+                if (value.variant().canConvert<QDBusVariant>())
+                    value = value.variant().value<QDBusVariant>();
+                self->settingChanged(appearanceSpace, key, value);
+            });
+    }
 #endif
 }

@@ -6,21 +6,26 @@
 
 class QDBusVariant;
 
-/// Colours of the windows, light or dark as the desktop is, also when that changes. Where the
-/// platform has colours of its own, those stay.
+/// Colours of the windows, light or dark and rich in contrast as the desktop is, also when that
+/// changes. Where the platform has colours of its own, those stay.
 class Appearance : public QObject {
     Q_OBJECT
 
 public:
+    struct Look {
+        bool isDark = false;
+        bool hasHighContrast = false;
+    };
+
     Appearance();
 
-    [[nodiscard]] static QPalette lightPalette();
-    [[nodiscard]] static QPalette darkPalette();
+    [[nodiscard]] static QPalette palette(Look look);
 
 private Q_SLOTS:
     void settingChanged(const QString &space, const QString &key, const QDBusVariant &value);
 
 private:
     void askDesktop();
-    void setDark(bool dark);
+
+    Look m_look;
 };

@@ -105,7 +105,7 @@ void Clickable::paintFocus(QPainter &painter, const QWidget &view)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(view.palette().color(QPalette::Highlight), 2));
+    painter.setPen(QPen(view.palette().color(QPalette::Link), 2));
     painter.drawRoundedRect(QRectF(view.rect()).adjusted(1, 1, -1, -1), 8, 8);
 }
 

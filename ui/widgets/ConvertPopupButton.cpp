@@ -6,6 +6,37 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QProxyStyle>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+/// Long menus scroll instead of taking columns, and typing leads to an entry.
+class MenuStyle : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+        QStyleHintReturn *data) const override
+    {
+        if (hint == SH_Menu_Scrollable || hint == SH_Menu_KeyboardSearch)
+            return 1;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+    int pixelMetric(
+        PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        return metric == PM_MenuDesktopFrameWidth
+            ? desktopFrame
+            : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+    /// What a menu leaves free of the screen, above and below.
+    int desktopFrame = 0;
+};
+
+}
 
 ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     : QPushButton(parent)
@@ -17,6 +48,47 @@ ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     m_cell.setFont(faceFont);
     setText(m_cell.title());
     setAttribute(Qt::WA_Hover);
+    // Return presses it, as it does the other buttons.
+    setAutoDefault(true);
+}
+
+void ConvertPopupButton::setMenu(QMenu *menu)
+{
+    QPushButton::setMenu(menu);
+    disconnect(this, &QPushButton::pressed, this, nullptr);
+    connect(this, &QPushButton::pressed, this, &ConvertPopupButton::openMenu);
+    auto *menuStyle = new MenuStyle(style()->name());
+    menuStyle->setParent(menu);
+    menu->setStyle(menuStyle);
+    menu->installEventFilter(this);
+}
+
+void ConvertPopupButton::openMenu()
+{
+    const QRect face(mapToGlobal(QPoint()), size());
+    const QRect area = screen()->availableGeometry();
+    const QSize wanted = menu()->sizeHint();
+    const int below = area.bottom() - face.bottom();
+    const int above = face.top() - area.top();
+    const int height = std::min(wanted.height(), std::max(above, below));
+    const bool leftToRight = layoutDirection() == Qt::LeftToRight;
+    m_menuPlace = { leftToRight ? face.left() : face.right() + 1 - wanted.width(),
+        height <= below ? face.bottom() + 1 : face.top() - height, wanted.width(), height };
+    // A menu scrolls only on a screen that is too low for it, and would rather lie over its button.
+    auto *style = static_cast<MenuStyle *>(menu()->style());
+    style->desktopFrame = height < wanted.height() ? (area.height() - height) / 2 : 0;
+    menu()->exec(m_menuPlace.topLeft());
+    style->desktopFrame = 0;
+    setDown(false);
+}
+
+bool ConvertPopupButton::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == menu() && event->type() == QEvent::Show && isDown()) {
+        menu()->setGeometry(m_menuPlace);
+        menu()->setActiveAction(menu()->defaultAction());
+    }
+    return QPushButton::eventFilter(watched, event);
 }
 
 QSize ConvertPopupButton::sizeHint() const
@@ -43,7 +115,7 @@ QColor ConvertPopupButton::faceColor() const
     const bool pressed = isDown() || (menu() && menu()->isVisible());
     if (pressed)
         return accent.darker(118);
-    return underMouse() ? accent.lighter(108) : accent;
+    return underMouse() ? accent.darker(108) : accent;
 }
 
 void ConvertPopupButton::paintEvent(QPaintEvent *)

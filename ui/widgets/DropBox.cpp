@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/DropBox.h"
 
+#include "support/Localized.h"
+#include "ui/widgets/DropVeil.h"
+
 #include <QDropEvent>
 #include <QMimeData>
-#include <QPainter>
+#include <QUrl>
 #include <QVariant>
 
 #include <algorithm>
@@ -22,6 +25,22 @@ bool allowDragDrop(const QWidget *view)
 
 void setAllowDragDrop(QWidget *view, bool allow) { view->setProperty(dragDropKey, allow); }
 
+QStringList localFiles(const QMimeData *data)
+{
+    QStringList paths;
+    for (const QUrl &url : data ? data->urls() : QList<QUrl>()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    }
+    return paths;
+}
+
+DropBox::DropBox(QWidget *parent)
+    : QFrame(parent)
+    , m_veil(new DropVeil(this))
+{
+}
+
 void DropBox::registerForDraggedTypes(const QStringList &mimeTypes)
 {
     m_draggedTypes = mimeTypes;
@@ -32,44 +51,32 @@ void DropBox::dragEnterEvent(QDragEnterEvent *event) { answer(event); }
 
 void DropBox::dragMoveEvent(QDragMoveEvent *event) { answer(event); }
 
-void DropBox::dragLeaveEvent(QDragLeaveEvent *) { setHovered(false); }
+void DropBox::dragLeaveEvent(QDragLeaveEvent *) { m_veil->hide(); }
 
 void DropBox::dropEvent(QDropEvent *event)
 {
     answer(event);
-    setHovered(false);
+    m_veil->hide();
     if (event->isAccepted())
         Q_EMIT performDragOperation(event->mimeData());
 }
 
 void DropBox::answer(QDropEvent *event)
 {
+    const QMimeData *dragged = event->mimeData();
     const bool concerned = std::any_of(m_draggedTypes.cbegin(), m_draggedTypes.cend(),
-        [event](const QString &type) { return event->mimeData()->hasFormat(type); });
-    const bool accepted = concerned && allowDragDrop(this);
+        [dragged](const QString &type) { return dragged->hasFormat(type); });
+    const bool holdsFiles = concerned && !localFiles(dragged).isEmpty();
+    const bool accepted = holdsFiles && allowDragDrop(this);
     event->setDropAction(accepted ? Qt::CopyAction : Qt::IgnoreAction);
     event->setAccepted(accepted);
-    setHovered(accepted);
-}
-
-void DropBox::setHovered(bool hovered)
-{
-    if (hovered == m_hovered)
-        return;
-    m_hovered = hovered;
-    update();
-}
-
-void DropBox::paintEvent(QPaintEvent *event)
-{
-    QFrame::paintEvent(event);
-    if (!m_hovered)
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor fill = palette().color(QPalette::Highlight);
-    painter.setPen(QPen(fill, 2.5));
-    fill.setAlphaF(0.12F);
-    painter.setBrush(fill);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(5, 5, -5, -5), 16, 16);
+    const LocalizedText text = accepted ? LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+                                   "Drop to convert", "over the window, while a file is dragged")
+        : holdsFiles
+        ? LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+            "One video at a time: wait for the end of this one",
+            "over the window, while a file is dragged that it can't take now")
+        : LocalizedText QT_TRANSLATE_NOOP3("Localizable", "Only files can be dropped here",
+            "over the window, while something else than a file is dragged");
+    m_veil->cover(*this, localized(text), accepted);
 }

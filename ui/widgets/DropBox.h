@@ -4,18 +4,23 @@
 #include <QFrame>
 #include <QStringList>
 
+class DropVeil;
 class QMimeData;
 
 /// Whether a widget takes drops; false until it is set, and where what is set is no flag.
 [[nodiscard]] bool allowDragDrop(const QWidget *view);
 void setAllowDragDrop(QWidget *view, bool allow);
 
-/// The window's drop target: gates drops by allowDragDrop() and hands them on.
+/// The files of this machine among what is dragged or copied; addresses of others are left out.
+[[nodiscard]] QStringList localFiles(const QMimeData *data);
+
+/// The window's drop target: gates drops by allowDragDrop(), says over its whole area whether a
+/// drag is welcome, and hands drops on.
 class DropBox : public QFrame {
     Q_OBJECT
 
 public:
-    using QFrame::QFrame;
+    explicit DropBox(QWidget *parent = nullptr);
 
     /// Only drags that offer one of these MIME types are heard of at all.
     void registerForDraggedTypes(const QStringList &mimeTypes);
@@ -29,12 +34,10 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     void answer(QDropEvent *event);
-    void setHovered(bool hovered);
 
     QStringList m_draggedTypes;
-    bool m_hovered = false;
+    DropVeil *m_veil;
 };

@@ -36,7 +36,7 @@ void ImageView::setImage(const QImage &image)
 void ImageView::setArtwork(const QString &resource)
 {
     m_artwork = resource;
-    m_artworkSize = QSvgRenderer(resource).defaultSize();
+    m_artworkSize = resource.isEmpty() ? QSizeF() : QSvgRenderer(resource).defaultSize();
     updateGeometry();
     update();
 }
@@ -77,7 +77,8 @@ void ImageView::paintEvent(QPaintEvent *)
 
 void ImageView::paintArtwork(QPainter &painter)
 {
-    const QSizeF size = m_artworkSize.scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
+    const QSizeF room = this->size().boundedTo(sizeHint());
+    const QSizeF size = m_artworkSize.scaled(room, Qt::KeepAspectRatio);
     const QRectF target = centred(size, rect());
     QSvgRenderer drawing(m_artwork);
     if (!m_tinted)

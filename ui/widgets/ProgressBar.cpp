@@ -33,6 +33,8 @@ void ProgressBar::setDoubleValue(double value)
     m_doubleValue = value;
     if (!isBusy())
         setValue(static_cast<int>(std::clamp(value, 0.0, 1.0) * steps));
+    // The base class would wait for a whole chunk of its style.
+    update();
 }
 
 void ProgressBar::setBusy(bool busy)
@@ -60,7 +62,7 @@ void ProgressBar::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Mid));
     painter.drawRoundedRect(groove, radius, radius);
-    painter.setBrush(palette().color(QPalette::Highlight));
+    painter.setBrush(palette().color(QPalette::Link));
     QRectF filled = groove;
     if (isBusy()) {
         const double position = double(m_busyStep) / busyFrames;

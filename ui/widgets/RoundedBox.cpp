@@ -12,7 +12,8 @@ void RoundedBox::paintEvent(QPaintEvent *)
     double inset = 0;
     if (m_dashed) {
         inset = 1;
-        painter.setPen(QPen(palette().color(QPalette::Mid), 2, Qt::DashLine, Qt::RoundCap));
+        painter.setPen(
+            QPen(palette().color(QPalette::PlaceholderText), 1.5, Qt::DashLine, Qt::RoundCap));
     }
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 12, 12);
 }

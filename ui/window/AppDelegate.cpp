@@ -3,19 +3,26 @@
 
 #include "analytics/Analytics.h"
 #include "engine/Outcome.h"
+#include "planning/ConversionDescriptor.h"
 #include "planning/VideoConstraints.h"
 #include "support/Console.h"
+#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Preferences.h"
 #include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
+#include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
 #include "ui/window/FileIntake.h"
+#include "ui/window/FormatEntries.h"
+#include "ui/window/StateNotes.h"
+#include "ui/window/VideoWords.h"
 #include "ui/window/WindowClosing.h"
+#include "ui/window/WindowMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
@@ -34,9 +41,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto fileNamesType = "text/uri-list"_L1;
-
-/// Some desktops mark a letter of a menu item as its key.
-QString title(const QAction *item) { return item->text().remove(u'&'); }
 
 /// What is hidden keeps its place, so that nothing jumps when the state changes.
 void keepPlaces(const QWidget &area)
@@ -78,23 +82,30 @@ AppDelegate::AppDelegate()
     Q_INIT_RESOURCE(artwork);
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
-    m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->timeLeftLabel);
+    m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
     keepPlaces(*m_outlets->dropAcceptor);
-    QSizePolicy remarksPolicy = m_outlets->remarksLabel->sizePolicy();
-    remarksPolicy.setRetainSizeWhenHidden(false);
-    m_outlets->remarksLabel->setSizePolicy(remarksPolicy);
+    for (QWidget *line : { static_cast<QWidget *>(m_outlets->remarksLabel),
+             static_cast<QWidget *>(m_outlets->keptLabel) }) {
+        QSizePolicy policy = line->sizePolicy();
+        policy.setRetainSizeWhenHidden(false);
+        line->setSizePolicy(policy);
+    }
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
     m_window.resize(
         QSize(line * 36, line * 31).boundedTo(m_window.screen()->availableSize() * 0.9));
+    m_memory = std::make_unique<WindowMemory>(m_window, *m_outlets->formatMenu);
     m_outlets->startOverButton->setMinimumSize(
         m_outlets->startOverButton->sizeHint() + QSize(line, line / 2));
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     Clickable::enable(m_outlets->openFromFolderLabel);
     Clickable::enable(m_outlets->openFolderImageView);
+    // Room for the ring around the text.
+    m_outlets->openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
+    m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
     connectOutlets();
     connectMenus();
     connectWork();
@@ -118,9 +129,8 @@ void AppDelegate::setUiState(WindowUIState state)
     m_uiState = state;
     applyWindowUIState(*m_outlets, state);
     m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
-    m_outlets->refusalLabel->setVisible(state == WindowUIState::InitialState);
-    m_outlets->remarksLabel->setVisible(
-        state == WindowUIState::ConversionIsDone && !m_outlets->remarksLabel->text().isEmpty());
+    m_notes->stateChanged(state);
+    showIntake();
     showStateInMenus();
     if (state != former) {
         primaryControl(*m_outlets, state)->setFocus(Qt::OtherFocusReason);
@@ -130,6 +140,23 @@ void AppDelegate::setUiState(WindowUIState state)
             this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
     }
     Q_EMIT uiStateChanged(state);
+}
+
+void AppDelegate::showIntake()
+{
+    const bool examines = m_uiState == WindowUIState::WaitingForCover;
+    m_outlets->examiningLabel->setVisible(examines);
+    m_outlets->stopExaminingButton->setVisible(examines);
+    const QString kept = Path::lastPathComponent(m_intake->keptPath());
+    m_outlets->keptLabel->setText(
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                      "name of a video that came while another one is converted"),
+            { kept }));
+    m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
+    // A result stays to be looked at until the user starts over.
+    if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
+        QMetaObject::invokeMethod(
+            m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
 }
 
 void AppDelegate::announce(QWidget *outlet) const
@@ -148,7 +175,9 @@ void AppDelegate::showStateInMenus()
     // It may stand open for the video before.
     if (!offersFormats)
         m_outlets->formatMenu->hide();
-    m_outlets->cancelAction->setEnabled(m_uiState == WindowUIState::Converting);
+    m_outlets->repeatAction->setEnabled(offersFormats && m_outlets->formatMenu->defaultAction());
+    m_outlets->cancelAction->setEnabled(
+        m_uiState == WindowUIState::Converting || m_uiState == WindowUIState::WaitingForCover);
     m_outlets->revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
     m_outlets->startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
 }
@@ -165,6 +194,8 @@ void AppDelegate::connectOutlets()
         &AppDelegate::cancelProgressPressed);
     connect(m_outlets->cancelProgressButton, &QPushButton::clicked, this,
         &AppDelegate::cancelProgressPressed);
+    connect(
+        m_outlets->stopExaminingButton, &QPushButton::clicked, m_intake.get(), &FileIntake::cancel);
     connect(m_outlets->startOverButton, &QPushButton::clicked, this,
         &AppDelegate::startOverButtonPressed);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
@@ -180,6 +211,8 @@ void AppDelegate::connectMenus()
     const Ui::MainWindow &outlets = *m_outlets;
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
+    connect(outlets.repeatAction, &QAction::triggered, this,
+        [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
     connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
     connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
     connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
@@ -187,30 +220,40 @@ void AppDelegate::connectMenus()
         outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
     connect(
         outlets.startOverAction, &QAction::triggered, this, &AppDelegate::startOverButtonPressed);
+    outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
     connect(outlets.quitAction, &QAction::triggered, &m_window, &QWidget::close);
     connect(outlets.aboutAction, &QAction::triggered, this, &AppDelegate::showAboutWindow);
 }
 
 void AppDelegate::connectWork()
 {
-    connect(m_intake.get(), &FileIntake::started, this, [this] {
+    connect(m_intake.get(), &FileIntake::started, this, [this](const QString &path) {
+        m_outlets->examiningLabel->setText(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
+                { Path::lastPathComponent(path) }));
         m_closing->stayOpen();
-        m_outlets->refusalLabel->clear();
         setUiState(WindowUIState::WaitingForCover);
+    });
+    connect(m_intake.get(), &FileIntake::cancelled, this,
+        [this] { setUiState(WindowUIState::InitialState); });
+    connect(m_intake.get(), &FileIntake::kept, this, [this] {
+        showIntake();
+        announce(m_outlets->keptLabel);
     });
     connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
     connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
         failWithUnsupported();
         showRefusal(refusal);
+        showIntake();
     });
+    connect(m_conversion.get(), &ConversionFlow::workChanged, m_status.get(),
+        [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
     connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
-    connect(m_conversion.get(), &ConversionFlow::finished, this, [this](const Outcome &outcome) {
-        QStringList remarks = remarksOn(outcome);
-        if (!outcome.isDone())
-            remarks.prepend(sentenceOf(outcome));
-        m_outlets->remarksLabel->setText(remarks.join(u'\n'));
+    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
+        rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
+            Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
-        if (!remarks.isEmpty())
+        if (!m_outlets->remarksLabel->text().isEmpty())
             announce(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
@@ -226,8 +269,10 @@ void AppDelegate::connectWork()
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
             showRefusal(outcome);
     });
-    connect(
-        m_conversion.get(), &ConversionFlow::ended, this, [this] { m_closing->closeIfAsked(); });
+    connect(m_conversion.get(), &ConversionFlow::ended, this, [this] {
+        m_closing->closeIfAsked();
+        showIntake();
+    });
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -278,6 +323,10 @@ void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
     const QString &path = m_intake->processingFilePath();
     setUiState(WindowUIState::CoverIsSet);
     m_outlets->movieCoverImageView->setImage(cover);
+    const bool hasPicture = conversionDescriptor(ConversionFormat::mkv)
+                                .videoStream(*m_intake->processingInfo())
+                                .has_value();
+    m_outlets->movieCoverImageView->setArtwork(hasPicture ? QString() : u":/artwork/note.svg"_s);
     m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
     // A tool tip guesses whether it is mark-up; a file's name is none.
     m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
@@ -297,25 +346,34 @@ void AppDelegate::showRefusal(const Outcome &refusal)
     if (m_uiState != WindowUIState::InitialState)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
+    m_notes->stateChanged(m_uiState);
     announce(m_outlets->refusalLabel);
 }
 
-void AppDelegate::rawFormatMenuItemPressed(const QAction *item)
+void AppDelegate::rawFormatMenuItemPressed(QAction *item)
 {
-    m_conversion->choose(videoConstraints(title(item), title(m_outlets->audioMenuItem),
-        title(m_outlets->mp4LowQualityMenuItem), title(m_outlets->mp4MeduimQualityMenuItem)));
+    m_chosenEntry = item;
+    m_conversion->choose(FormatEntries::constraintsOf(*m_outlets, item));
 }
 
-void AppDelegate::updateProgress(double fraction)
+void AppDelegate::updateProgress(double fraction, qint64 seconds)
 {
-    if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone)
+    if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone) {
         setUiState(WindowUIState::Converting);
+        m_memory->entryWasUsed(m_chosenEntry);
+    }
     m_outlets->progressBar->setBusy(fraction < 0);
     m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
-    m_status->setFraction(fraction);
+    m_status->setProgress(fraction, seconds);
 }
 
-void AppDelegate::cancelProgressPressed() { std::ignore = m_conversion->cancelIfConfirmed(); }
+void AppDelegate::cancelProgressPressed()
+{
+    if (m_uiState == WindowUIState::WaitingForCover)
+        m_intake->cancel();
+    else
+        std::ignore = m_conversion->cancelIfConfirmed();
+}
 
 void AppDelegate::startOverButtonPressed()
 {

@@ -13,7 +13,9 @@ class ConversionStatus;
 class FileIntake;
 class QAction;
 class QMimeData;
+class StateNotes;
 class WindowClosing;
+class WindowMemory;
 struct Outcome;
 
 namespace Ui {
@@ -43,7 +45,7 @@ public:
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
     /// Files from anywhere but the open panel; taken only while drops are. Only the first counts.
     void takeFiles(const QStringList &paths);
-    void rawFormatMenuItemPressed(const QAction *item);
+    void rawFormatMenuItemPressed(QAction *item);
 
 Q_SIGNALS:
     void uiStateChanged(AppDelegate::WindowUIState state);
@@ -55,12 +57,13 @@ private:
     void connectOutlets();
     void connectMenus();
     void connectWork();
+    void showIntake();
     void showStateInMenus();
     void announce(QWidget *outlet) const;
     void fileWasExamined(const QImage &cover, const QString &duration);
     void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
-    void updateProgress(double fraction);
+    void updateProgress(double fraction, qint64 seconds);
     void cancelProgressPressed();
     void startOverButtonPressed();
     void showAboutWindow();
@@ -71,6 +74,9 @@ private:
     std::unique_ptr<FileIntake> m_intake;
     std::unique_ptr<ConversionFlow> m_conversion;
     std::unique_ptr<WindowClosing> m_closing;
+    std::unique_ptr<WindowMemory> m_memory;
+    std::unique_ptr<StateNotes> m_notes;
+    QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;
     bool m_aboutWindowIsSet = false;
 };

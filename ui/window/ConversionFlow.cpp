@@ -4,7 +4,10 @@
 #include "analytics/Analytics.h"
 #include "engine/Conversion.h"
 #include "engine/Destination.h"
+#include "engine/Remedy.h"
 #include "planning/ConversionDescriptor.h"
+#include "planning/ExpectedSize.h"
+#include "planning/PlannedWork.h"
 #include "support/Format.h"
 #include "support/Localized.h"
 #include "support/MainQueue.h"
@@ -14,10 +17,13 @@
 #include "ui/desktop/FileBrowser.h"
 #include "ui/window/FileIntake.h"
 #include "ui/window/ProposedName.h"
+#include "ui/window/VideoWords.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QPointer>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +38,19 @@ bool confirmsCancel()
             "Attention! Current converting process will be cancelled.\nAre you sure you want to "
             "continue?",
             "Cancel progress alert message text")));
+}
+
+bool refusesSource(const QString &destPath, const QString &source)
+{
+    if (!sourceRefusal({ .path = destPath, .sources = { source } }))
+        return false;
+    displayError(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
+            "the chosen destination is the source file")),
+        localized(QT_TRANSLATE_NOOP3("Localizable",
+            "Choose another name or another folder for the result.",
+            "the chosen destination is the source file")));
+    return true;
 }
 
 }
@@ -62,22 +81,14 @@ void ConversionFlow::askForDestination(const Choice &choice)
     const QString folder = Path::stringByDeletingLastPathComponent(source);
     runSaveToSheet(
         &m_window, proposedName(source, saveFolder(folder), choice.ext), choice.ext,
-        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); },
-        folder);
+        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); }, folder,
+        [&source = m_intake.processingFilePath()](
+            const QString &destPath) { return refusesSource(destPath, source); },
+        VideoWords::expectedSize(expectedSize(choice.constraints, *m_intake.processingInfo())));
 }
 
 void ConversionFlow::destinationWasChosen(const Choice &choice, const QString &destPath)
 {
-    if (sourceRefusal({ .path = destPath, .sources = { m_intake.processingFilePath() } })) {
-        displayError(
-            localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
-                "the chosen destination is the source file")),
-            localized(QT_TRANSLATE_NOOP3("Localizable",
-                "Choose another name or another folder for the result.",
-                "the chosen destination is the source file")));
-        askForDestination(choice);
-        return;
-    }
     Analytics::send(QString(), u"convert"_s, u"from_to"_s,
         QString(Path::pathExtension(destPath) + u'_' + choice.constraints.destDevice));
     startConversion(destPath, choice.constraints);
@@ -91,12 +102,13 @@ void ConversionFlow::startConversion(const QString &destPath, const VideoConstra
     const QPointer<ConversionFlow> self(this);
     // The user has agreed to replace what stands there now.
     const OlderFile olderFile = QFileInfo::exists(destPath) ? OlderFile::Replaced : OlderFile::Kept;
-    m_run = Conversion::start(
-        { m_intake.processingFilePath(), destPath, constraints, *m_intake.processingInfo() },
-        olderFile, [self](const std::optional<QString> &errmsg) {
-            if (self)
-                self->failWhileConverting(errmsg);
-        });
+    m_job = ConversionJob{ m_intake.processingFilePath(), destPath, constraints,
+        *m_intake.processingInfo() };
+    announceWork(Remedy::None);
+    m_run = Conversion::start(*m_job, olderFile, [self](const std::optional<QString> &errmsg) {
+        if (self)
+            self->failWhileConverting(errmsg);
+    });
     setProgress(m_run);
     m_run->setEndHandler(
         [self] { MainQueue::post([self] { self ? Q_EMIT self->ended() : void(); }); });
@@ -146,13 +158,23 @@ void ConversionFlow::updateProgress()
 {
     if (!m_progress)
         return;
-    Q_EMIT progressed(m_progress->isIndeterminate() ? -1 : m_progress->fractionCompleted());
+    if (const Remedy remedy = m_progress->remedy(); remedy != m_remedy)
+        announceWork(remedy);
+    Q_EMIT progressed(m_progress->isIndeterminate() ? -1 : m_progress->fractionCompleted(),
+        m_progress->completedUnitCount());
     if (m_progress->completedUnitCount() != m_progress->totalUnitCount()
         || !m_intake.processingInfo())
         return;
     const Outcome outcome = m_progress->outcome();
     setProgress(nullptr);
     Q_EMIT finished(outcome);
+}
+
+void ConversionFlow::announceWork(Remedy remedy)
+{
+    m_remedy = remedy;
+    const ConversionJob job = remedied(*m_job, remedy);
+    Q_EMIT workChanged(plannedWork(job.constraints, job.conversionInfo), remedy != Remedy::None);
 }
 
 void ConversionFlow::failWhileConverting(const std::optional<QString> &errmsg)
@@ -202,6 +224,15 @@ void ConversionFlow::openFolder() const
         FileBrowser::reveal(m_resultFilePath);
     else
         FileBrowser::openFolder(Path::stringByDeletingLastPathComponent(m_resultFilePath));
+}
+
+void ConversionFlow::openResult() const
+{
+    const QFileInfo result(m_resultFilePath);
+    if (result.exists())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(result.absoluteFilePath()));
+    else
+        openFolder();
 }
 
 QByteArray ConversionFlow::lastToolOutput() const

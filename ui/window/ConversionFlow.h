@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/ConversionRun.h"
 #include "engine/Progress.h"
 #include "planning/VideoConstraints.h"
 
@@ -12,6 +13,7 @@
 
 class FileIntake;
 class QAction;
+struct PlannedWork;
 
 /// Leads from the choice of an output to its result.
 class ConversionFlow : public QObject {
@@ -31,6 +33,8 @@ public:
     /// Asks, then cancels the conversion that is shown. True when it is cancelled.
     bool cancelIfConfirmed();
     void openFolder() const;
+    /// In the program that the desktop has for it.
+    void openResult() const;
 
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
     [[nodiscard]] QByteArray lastToolOutput() const;
@@ -40,7 +44,10 @@ public:
     [[nodiscard]] bool isOver() const { return m_alerts == 0 && m_run && m_run->isEnded(); }
 
 Q_SIGNALS:
-    void progressed(double fraction);
+    /// What the tool is started for; a second time where the first try could not work.
+    void workChanged(const PlannedWork &work, bool isSecondTry);
+    /// A fraction of 0 to 1, negative while the length is unknown; seconds of the video.
+    void progressed(double fraction, qint64 seconds);
     /// The result is in place; it may end early.
     void finished(const Outcome &outcome);
     /// Emitted before the alert is shown.
@@ -56,12 +63,15 @@ private:
     void setProgress(std::shared_ptr<Progress> progress);
     void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
     void updateProgress();
+    void announceWork(Remedy remedy);
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
     void failWhileConverting(const std::optional<QString> &errmsg);
 
     QMainWindow &m_window;
     const FileIntake &m_intake;
     QString m_resultFilePath;
+    std::optional<ConversionJob> m_job;
+    Remedy m_remedy = Remedy::None;
     int m_convertObservationContext = 0;
     static constexpr std::array overalProgressObservedKeys{ Progress::Key::FractionCompleted,
         Progress::Key::CompletedUnitCount };

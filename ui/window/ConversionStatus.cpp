@@ -4,19 +4,30 @@
 #include "support/DurationInfo.h"
 #include "support/Format.h"
 #include "support/Localized.h"
+#include "ui/window/VideoWords.h"
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLocale>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-ConversionStatus::ConversionStatus(QWidget *window, QLabel *timeLeftLabel)
+namespace {
+
+// As wide as a digit and as a point, so that the line does not jump.
+constexpr QChar figureSpace(0x2007);
+constexpr QChar punctuationSpace(0x2008);
+
+}
+
+ConversionStatus::ConversionStatus(QWidget *window, QLabel *workLabel)
     : m_window(window)
-    , m_timeLeftLabel(timeLeftLabel)
+    , m_workLabel(workLabel)
     , m_title(window->windowTitle())
 {
     m_timer.setInterval(500ms);
-    connect(&m_timer, &QTimer::timeout, this, &ConversionStatus::showTimeLeft);
+    connect(&m_timer, &QTimer::timeout, this, &ConversionStatus::showWork);
     connect(&m_notification, &DesktopNotification::activated, this,
         &ConversionStatus::notificationActivated);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -45,6 +56,7 @@ void ConversionStatus::start()
     m_fraction = -1;
     m_clock.start();
     m_timer.start();
+    showWork();
     m_keepAwake.start(localized(
         QT_TRANSLATE_NOOP3("Localizable", "Converting a video", "why the machine stays awake")));
 }
@@ -56,44 +68,73 @@ void ConversionStatus::stop()
     m_launcher.clear();
     m_percent = -1;
     m_window->setWindowTitle(m_title);
-    m_timeLeftLabel->clear();
+    m_workLabel->clear();
 }
 
-void ConversionStatus::setFraction(double fraction)
+void ConversionStatus::setWork(const QString &work)
+{
+    m_work = work;
+    showWork();
+}
+
+void ConversionStatus::setProgress(double fraction, qint64 seconds)
 {
     m_fraction = fraction;
+    m_seconds = seconds;
     const int percent = static_cast<int>(fraction * 100);
-    if (fraction >= 0 && m_timer.isActive() && percent != m_percent)
-        showPercent(percent);
-}
-
-void ConversionStatus::showPercent(int percent)
-{
+    if (fraction < 0 || !m_timer.isActive() || percent == m_percent)
+        return;
     m_percent = percent;
     m_launcher.show(m_fraction);
-    m_window->setWindowTitle(
-        formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%% – %@",
-                      "window title while converting: percentage, program name"),
-            { qint64(percent), m_title }));
-    showTimeLeft();
+    showWork();
 }
 
-void ConversionStatus::showTimeLeft()
+QString ConversionStatus::timeLeft()
 {
-    if (m_percent < 0)
-        return;
     m_timeLeft.add(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
     const auto estimate = m_timeLeft.estimate();
     const auto left
         = m_steadyTime.shown(estimate ? std::optional<qint64>(estimate->count()) : std::nullopt);
-    const QString text = left
-        ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%, about %@ left",
-                        "percentage converted and time left, such as 1m 30s"),
-            { qint64(m_percent), DurationInfo(*left).toString() })
-        : formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%", "percentage converted"),
-            { qint64(m_percent) });
-    if (text != m_timeLeftLabel->text())
-        m_timeLeftLabel->setText(text);
+    return left ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%@ left",
+                                "time left of a conversion, such as 1m 30s"),
+               { DurationInfo(*left).toString() })
+                : QString();
+}
+
+// Two digits and a point, or what is as wide.
+QString ConversionStatus::speed() const
+{
+    const double speed = double(m_seconds) * 1000 / double(std::max<qint64>(m_clock.elapsed(), 1));
+    const QString number = speed < 9.95 ? QLocale().toString(speed, 'f', 1)
+        : speed < 99.5                  ? punctuationSpace + QLocale().toString(qRound(speed))
+                                        : QLocale().toString(qRound(speed));
+    return number + u'×';
+}
+
+void ConversionStatus::showWork()
+{
+    if (!m_timer.isActive())
+        return;
+    QString title = m_title;
+    QStringList parts{ m_work };
+    if (m_percent >= 0) {
+        const QString percent
+            = formatted(QT_TRANSLATE_NOOP3("Localizable", "%d%%", "percentage converted"),
+                { qint64(m_percent) });
+        parts << QString(m_percent < 10 ? 1 : 0, figureSpace) + percent;
+        QStringList titleParts{ percent };
+        if (const QString left = timeLeft(); !left.isEmpty()) {
+            parts << speed() << left;
+            titleParts << left;
+        }
+        title = formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "%@ – %@",
+                "window title while converting: percentage and time left, program name"),
+            { titleParts.join(u" · "_s), m_title });
+    }
+    m_window->setWindowTitle(title);
+    if (const QString text = VideoWords::joined(parts); text != m_workLabel->text())
+        m_workLabel->setText(text);
 }
 
 void ConversionStatus::notify(const QString &title, const QString &text)

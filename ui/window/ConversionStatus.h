@@ -20,11 +20,13 @@ class ConversionStatus : public QObject {
     Q_OBJECT
 
 public:
-    ConversionStatus(QWidget *window, QLabel *timeLeftLabel);
+    ConversionStatus(QWidget *window, QLabel *workLabel);
 
     void stateChanged(WindowUIState from, WindowUIState to);
-    /// A fraction of 0 to 1, negative while the length is unknown.
-    void setFraction(double fraction);
+    /// What the tool does, in words.
+    void setWork(const QString &work);
+    /// A fraction of 0 to 1, negative while the length is unknown; seconds of the video.
+    void setProgress(double fraction, qint64 seconds);
     /// Tells the user, unless the window is in front.
     void notify(const QString &title, const QString &text);
 
@@ -34,17 +36,20 @@ Q_SIGNALS:
 private:
     void start();
     void stop();
-    void showPercent(int percent);
-    void showTimeLeft();
+    void showWork();
+    [[nodiscard]] QString speed() const;
+    [[nodiscard]] QString timeLeft();
 
     QWidget *m_window;
-    QLabel *m_timeLeftLabel;
+    QLabel *m_workLabel;
     QString m_title;
+    QString m_work;
     QTimer m_timer;
     QElapsedTimer m_clock;
     TimeLeft m_timeLeft;
     SteadyTime m_steadyTime;
     double m_fraction = -1;
+    qint64 m_seconds = 0;
     int m_percent = -1;
     KeepAwake m_keepAwake;
     LauncherProgress m_launcher;

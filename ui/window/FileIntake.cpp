@@ -6,32 +6,16 @@
 #include "engine/Outcome.h"
 #include "support/Path.h"
 #include "support/dialogs/Sheets.h"
+#include "ui/widgets/DropBox.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
 #include <QPointer>
-#include <QUrl>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Absent unless every entry is a file of this machine.
-std::optional<QStringList> fileNames(const QMimeData *data)
-{
-    if (!data || !data->hasUrls())
-        return std::nullopt;
-    QStringList paths;
-    for (const QUrl &url : data->urls()) {
-        if (!url.isLocalFile())
-            return std::nullopt;
-        paths << url.toLocalFile();
-    }
-    return paths;
-}
-
-}
 
 FileIntake::FileIntake(QWidget *window)
     : m_window(window)
@@ -42,19 +26,38 @@ bool FileIntake::isReady() const { return m_isOpen && !QApplication::activeModal
 
 void FileIntake::takeFiles(const QStringList &paths)
 {
-    if (!isReady() || paths.isEmpty())
+    if (paths.isEmpty())
         return;
-    Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
-    processFile(paths.constFirst());
+    m_kept.clear();
+    if (isReady()) {
+        processFile(paths.constFirst());
+        m_leftOut = paths.sliced(1);
+        return;
+    }
+    m_kept = paths.constFirst();
+    Q_EMIT kept(m_kept);
+}
+
+void FileIntake::takeKept()
+{
+    if (!m_kept.isEmpty() && isReady())
+        processFile(std::exchange(m_kept, {}));
 }
 
 void FileIntake::performDragOperation(const QMimeData *data)
 {
-    if (const auto paths = fileNames(data))
-        takeFiles(*paths);
+    const QStringList paths = localFiles(data);
+    if (paths.isEmpty() || !isReady())
+        return;
+    Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
+    takeFiles(paths);
 }
 
-void FileIntake::paste() { performDragOperation(QApplication::clipboard()->mimeData()); }
+void FileIntake::paste()
+{
+    if (isReady())
+        takeFiles(localFiles(QApplication::clipboard()->mimeData()));
+}
 
 void FileIntake::buttonPress()
 {
@@ -66,7 +69,9 @@ void FileIntake::buttonPress()
 
 void FileIntake::processFile(const QString &path)
 {
-    Q_EMIT started();
+    m_kept.clear();
+    m_leftOut.clear();
+    Q_EMIT started(path);
     const QPointer<FileIntake> self(this);
     const auto isCurrent = [self, count = ++m_count] { return self && self->m_count == count; };
     FFMPEG::collectMovieInfo(
@@ -81,6 +86,20 @@ void FileIntake::processFile(const QString &path)
             self->m_processingInfo = json;
             self->m_processingFilePath = path;
             self->m_selectedFileExt = Path::pathExtension(path);
+            self->m_cover = cover;
+            self->m_duration = duration;
             Q_EMIT self->examined(cover, duration);
         });
+}
+
+void FileIntake::takeAgain()
+{
+    if (isReady() && m_processingInfo)
+        Q_EMIT examined(m_cover, m_duration);
+}
+
+void FileIntake::cancel()
+{
+    ++m_count;
+    Q_EMIT cancelled();
 }

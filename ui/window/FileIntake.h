@@ -22,19 +22,32 @@ public:
 
     /// Files are taken only while this is set; further ones of several are left out.
     void setOpen(bool open) { m_isOpen = open; }
+    /// From anywhere but drops. While no file is taken, the last one that comes is kept.
     void takeFiles(const QStringList &paths);
+    /// Takes what was kept, if it may be taken now.
+    void takeKept();
+    [[nodiscard]] const QString &keptPath() const { return m_kept; }
     void performDragOperation(const QMimeData *data);
     void paste();
     void buttonPress();
     void processFile(const QString &path);
+    /// Takes the file that was examined last without examining it again.
+    void takeAgain();
+    /// No answer comes about the file that is being examined.
+    void cancel();
 
     /// The file that was examined last, with what the tool says about it.
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
     [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
     [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
 
+    /// What came together with that file.
+    [[nodiscard]] const QStringList &leftOut() const { return m_leftOut; }
+
 Q_SIGNALS:
-    void started();
+    void started(const QString &path);
+    void kept(const QString &path);
+    void cancelled();
     void examined(const QImage &cover, const QString &duration);
     void refused(const Outcome &refusal);
 
@@ -43,9 +56,13 @@ private:
 
     QWidget *m_window;
     bool m_isOpen = false;
+    QString m_kept;
     QString m_processingFilePath;
     QString m_selectedFileExt;
     std::optional<JSON> m_processingInfo;
+    QStringList m_leftOut;
+    QImage m_cover;
+    QString m_duration;
     /// Also tells an answer about an earlier file from the current one.
     int m_count = 0;
 };

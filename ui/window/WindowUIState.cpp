@@ -7,7 +7,7 @@
 
 namespace {
 
-enum class Aspect { ImageCleared, Shown, Spinning, Enabled, DropsAllowed };
+enum class Aspect { ImageCleared, Shown, ShownWithText, Spinning, Enabled, DropsAllowed };
 
 using Outlet = QWidget *(*)(const Ui::MainWindow &);
 
@@ -47,10 +47,27 @@ constexpr Row rows[] = {
     {Aspect::DropsAllowed, OUTLET(dropAcceptor),                  {yes,  no,     yes,     no,       yes}},
 };
 
+constexpr Row addedRows[] = {
+    //                                                         Initial Waiting CoverSet Converting Done
+    {Aspect::ShownWithText, OUTLET(refusalLabel),                 {yes,  no,     no,      no,       no}},
+    {Aspect::ShownWithText, OUTLET(anotherFormatLabel),           {yes,  no,     no,      no,       no}},
+    {Aspect::ShownWithText, OUTLET(logLabel),                     {yes,  no,     no,      no,       no}},
+    {Aspect::ShownWithText, OUTLET(againLabel),                   {yes,  no,     no,      no,       no}},
+    {Aspect::ShownWithText, OUTLET(factsLabel),                   {no,   no,     yes,     no,       no}},
+    {Aspect::ShownWithText, OUTLET(leftOutLabel),                 {no,   no,     yes,     no,       no}},
+    {Aspect::ShownWithText, OUTLET(copyCommandLabel),             {no,   no,     yes,     no,       no}},
+    {Aspect::Shown,         OUTLET(workLabel),                    {no,   no,     no,      yes,      no}},
+    {Aspect::ShownWithText, OUTLET(secondTryLabel),               {no,   no,     no,      yes,      no}},
+    {Aspect::ShownWithText, OUTLET(resultLabel),                  {no,   no,     no,      no,       yes}},
+    {Aspect::ShownWithText, OUTLET(remarksLabel),                 {no,   no,     no,      no,       yes}},
+    {Aspect::Shown,         OUTLET(showInFolderLabel),            {no,   no,     no,      no,       yes}},
+    {Aspect::Shown,         OUTLET(openResultButton),             {no,   no,     no,      no,       yes}},
+};
+
 constexpr std::array<Outlet, 5> primaryControls{
     OUTLET(openFromFolderLabel), OUTLET(dropAcceptor), OUTLET(convertToButton), OUTLET(cancelProgressButton), OUTLET(openFolderImageView)};
 constexpr std::array<Outlet, 5> spokenOutlets{
-    OUTLET(dragFileHereLabel), OUTLET(spinner), OUTLET(movieNameLabel), OUTLET(convertingStatusLabel), OUTLET(conversionCompleteStatusLabel)};
+    OUTLET(dragFileHereLabel), OUTLET(examiningLabel), OUTLET(movieNameLabel), OUTLET(convertingStatusLabel), OUTLET(conversionCompleteStatusLabel)};
 // clang-format on
 
 #undef OUTLET
@@ -65,6 +82,9 @@ void apply(const Row &row, const Ui::MainWindow &outlets, bool value)
         break;
     case Aspect::Shown:
         view->setHidden(!value);
+        break;
+    case Aspect::ShownWithText:
+        view->setVisible(value && !view->property("text").toString().isEmpty());
         break;
     case Aspect::Spinning:
         static_cast<SpinningView *>(view)->setSpinning(value);
@@ -83,6 +103,12 @@ void apply(const Row &row, const Ui::MainWindow &outlets, bool value)
 void applyWindowUIState(Ui::MainWindow &outlets, WindowUIState state)
 {
     for (const Row &row : rows)
+        apply(row, outlets, row.inState.at(static_cast<std::size_t>(state)));
+}
+
+void applyAddedControls(Ui::MainWindow &outlets, WindowUIState state)
+{
+    for (const Row &row : addedRows)
         apply(row, outlets, row.inState.at(static_cast<std::size_t>(state)));
 }
 

@@ -13,10 +13,15 @@
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QVBoxLayout>
 
 #include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -46,7 +51,12 @@ QLabel *plainLabel(const QString &text)
 QString plainText(const QString &html)
 {
     constexpr qsizetype longestNotes = 20'000;
-    QString text = QTextDocumentFragment::fromHtml(html.left(longestNotes)).toPlainText();
+    QTextDocument document;
+    QTextCursor(&document).insertFragment(QTextDocumentFragment::fromHtml(html.left(longestNotes)));
+    QStringList lines;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        lines << (block.textList() ? u"•  "_s : QString()) + block.text();
+    QString text = lines.join(u'\n');
     return text.removeIf([](QChar c) { return c.category() == QChar::Other_Format; });
 }
 
@@ -90,6 +100,8 @@ void UpdateDialogs::showAvailable(const UpdateCheck &check)
         localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")));
     dialog->setMinimumWidth(440);
     auto *layout = new QVBoxLayout(dialog);
+    // Nobody asked for it: what the user types or clicks goes on where it was.
+    dialog->setAttribute(Qt::WA_ShowWithoutActivating, !check.byUser);
     layout->addWidget(plainLabel(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "Video Converter %1$@ is available. You have %2$@.",
             "update dialog: new, own version"),
@@ -100,6 +112,13 @@ void UpdateDialogs::showAvailable(const UpdateCheck &check)
     buttons->addButton(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Later", "update dialog, button")),
         QDialogButtonBox::RejectRole);
+    const auto *skip = buttons->addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Skip This Version", "update dialog, button")),
+        QDialogButtonBox::DestructiveRole);
+    connect(skip, &QPushButton::clicked, dialog, [dialog, item = check.item] {
+        Updater::skip(item);
+        dialog->reject();
+    });
     if (check.isDownloadable) {
         buttons->addButton(
             localized(QT_TRANSLATE_NOOP3("Localizable", "Download", "update dialog, button")),
@@ -111,6 +130,10 @@ void UpdateDialogs::showAvailable(const UpdateCheck &check)
             localized(QT_TRANSLATE_NOOP3("Localizable", "Open Web Site", "update dialog, button")),
             QDialogButtonBox::AcceptRole);
         connect(dialog, &QDialog::accepted, this, [this] { QDesktopServices::openUrl(m_site); });
+    } else {
+        layout->addWidget(plainLabel(localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Get it where you got Video Converter from.",
+                "update dialog, when neither a download nor a web site is known"))));
     }
     connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);

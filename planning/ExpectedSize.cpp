@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "planning/ExpectedSize.h"
+
+#include "planning/PlannedWork.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Of the MP3 encoder, which is told none; sound of a lower rate gets less.
+constexpr double mp3BitRate = 128000;
+constexpr qint64 lowestFullRate = 16000;
+
+qint64 rateOfSound(const JSON &conversionInfo)
+{
+    for (const JSON &stream : conversionInfo[u"streams"_s].array()) {
+        if (stream[u"codec_type"_s].stringValue() == u"audio")
+            return stream[u"sample_rate"_s].intValue();
+    }
+    return 0;
+}
+
+}
+
+std::optional<qint64> expectedSize(const VideoConstraints &entry, const JSON &conversionInfo)
+{
+    const PlannedWork work = plannedWork(entry, conversionInfo);
+    const JSON format = conversionInfo[u"format"_s];
+    const double seconds = format[u"duration"_s].stringValue().toDouble();
+    if (entry.format == ConversionFormat::mp3 && seconds > 0
+        && rateOfSound(conversionInfo) >= lowestFullRate)
+        return static_cast<qint64>(std::min(seconds, 1e9) * mp3BitRate / 8);
+    // A file that holds the copied streams only is as large as they are.
+    const std::size_t carried = std::size_t{ work.picture != StreamWork::LeftOut }
+        + std::size_t{ work.sound != StreamWork::LeftOut };
+    const qint64 size = format[u"size"_s].intValue();
+    if (!work.isCopy() || size <= 0 || conversionInfo[u"streams"_s].array().size() != carried)
+        return std::nullopt;
+    return size;
+}

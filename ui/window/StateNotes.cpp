@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "ui/window/StateNotes.h"
+
+#include "engine/Outcome.h"
+#include "planning/ConversionDescriptor.h"
+#include "planning/PlannedWork.h"
+#include "support/DurationInfo.h"
+#include "support/Format.h"
+#include "support/Path.h"
+#include "support/ShellQuoted.h"
+#include "support/dialogs/Sheets.h"
+#include "ui/widgets/Clickable.h"
+#include "ui/window/ConversionFlow.h"
+#include "ui/window/EntryInterface.h"
+#include "ui/window/FileIntake.h"
+#include "ui/window/FormatEntries.h"
+#include "ui/window/VideoWords.h"
+#include "ui_MainWindow.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
+
+StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFlow &conversion)
+    : m_outlets(outlets)
+    , m_intake(intake)
+    , m_conversion(conversion)
+    , m_drag(outlets.movieCoverImageView, outlets.dropAcceptor)
+{
+    EntryInterface::describe(*m_outlets.formatMenu);
+    dress();
+    connectControls();
+    connectWork();
+}
+
+void StateNotes::dress()
+{
+    const int line = m_outlets.againLabel->fontMetrics().height();
+    for (TextField *link : { m_outlets.againLabel, m_outlets.anotherFormatLabel, m_outlets.logLabel,
+             m_outlets.copyCommandLabel }) {
+        link->setForegroundRole(QPalette::Link);
+        Clickable::enable(link);
+        // Room for the ring around the text.
+        link->setContentsMargins(line / 3, 0, line / 3, 0);
+    }
+    m_outlets.openResultButton->setMinimumHeight(
+        m_outlets.openResultButton->sizeHint().height() + line / 2);
+}
+
+void StateNotes::connectControls()
+{
+    connect(m_outlets.againLabel, &TextField::clicked, &m_intake,
+        [this] { m_intake.processFile(m_intake.processingFilePath()); });
+    connect(m_outlets.anotherFormatLabel, &TextField::clicked, &m_intake, &FileIntake::takeAgain);
+    connect(m_outlets.logLabel, &TextField::clicked, this, &StateNotes::showLog);
+    connect(m_outlets.copyCommandLabel, &TextField::clicked, this, &StateNotes::copyCommand);
+    connect(m_outlets.showInFolderLabel, &TextField::clicked, &m_conversion,
+        &ConversionFlow::openFolder);
+    connect(m_outlets.openResultButton, &QPushButton::clicked, &m_conversion,
+        &ConversionFlow::openResult);
+    // The marks have the colours of the moment.
+    connect(m_outlets.formatMenu, &QMenu::aboutToShow, this, [this] {
+        if (const auto &info = m_intake.processingInfo())
+            FormatEntries::mark(m_outlets, *info);
+    });
+}
+
+void StateNotes::connectWork()
+{
+    connect(&m_intake, &FileIntake::started, this, &StateNotes::clearFailure);
+    connect(&m_intake, &FileIntake::examined, this, &StateNotes::videoWasExamined);
+    connect(&m_conversion, &ConversionFlow::workChanged, this, &StateNotes::workChanged);
+    connect(&m_conversion, &ConversionFlow::finished, this, &StateNotes::resultIsThere);
+    connect(&m_conversion, &ConversionFlow::failed, this, &StateNotes::conversionFailed);
+}
+
+void StateNotes::stateChanged(WindowUIState state)
+{
+    applyAddedControls(m_outlets, state);
+    m_drag.setPath(
+        state == WindowUIState::ConversionIsDone ? m_conversion.resultFilePath() : QString());
+}
+
+void StateNotes::videoWasExamined()
+{
+    clearFailure();
+    const JSON &info = *m_intake.processingInfo();
+    FormatEntries::mark(m_outlets, info);
+    // The note stands for sound only, not for a picture that can't be had.
+    const ConversionDescriptor descriptor = conversionDescriptor(ConversionFormat::mp4);
+    m_outlets.movieCoverImageView->setArtwork(
+        descriptor.videoStream(info) ? QString() : u":/artwork/note.svg"_s);
+    const QString facts = VideoWords::factsOf(info);
+    m_outlets.factsLabel->setText(facts);
+    m_outlets.factsLabel->setToolTip(facts);
+    m_outlets.againLabel->setText(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "Open “%@” again", "with the name of the last video"),
+        { Path::lastPathComponent(m_intake.processingFilePath()) }));
+    const qint64 others = m_intake.leftOut().size();
+    m_outlets.leftOutLabel->setText(others == 0
+            ? QString()
+            : formatted(QT_TRANSLATE_NOOP3("Localizable",
+                            "One video is converted at a time here. Left out: %d",
+                            "several videos were dropped, with the number of the others"),
+                { others }));
+    m_outlets.copyCommandLabel->setText(others == 0
+            ? QString()
+            : localized(QT_TRANSLATE_NOOP3("Localizable", "Copy command",
+                "copies a command line that converts several videos")));
+}
+
+void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
+{
+    m_outlets.secondTryLabel->setText(isSecondTry
+            ? localized(QT_TRANSLATE_NOOP3("Localizable",
+                "The first try could not work, so this is a second one in another way.",
+                "while converting"))
+            : QString());
+    if (isSecondTry)
+        applyAddedControls(m_outlets, WindowUIState::Converting);
+}
+
+void StateNotes::resultIsThere(const Outcome &outcome)
+{
+    QStringList remarks = remarksOn(outcome);
+    if (!outcome.isDone())
+        remarks.prepend(sentenceOf(outcome));
+    m_outlets.remarksLabel->setText(remarks.join(u'\n'));
+    const QString length = outcome.reason == Reason::Incomplete
+        ? DurationInfo(outcome.seconds).toString()
+        : m_outlets.movieDurationLabel->text();
+    const QString path = m_conversion.resultFilePath();
+    m_outlets.resultLabel->setText(VideoWords::resultLine(path, length));
+    m_outlets.resultLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
+}
+
+void StateNotes::conversionFailed(const Outcome &outcome)
+{
+    if (kindOf(outcome) == OutcomeKind::Incomplete)
+        return;
+    m_outlets.refusalLabel->setText(sentenceOf(outcome));
+    m_outlets.anotherFormatLabel->setText(localized(
+        QT_TRANSLATE_NOOP3("Localizable", "Try another format", "after a conversion that failed")));
+    if (!m_conversion.lastToolOutput().isEmpty())
+        m_outlets.logLabel->setText(localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "Show the log", "what the tool said in a conversion that failed")));
+}
+
+void StateNotes::clearFailure()
+{
+    for (QLabel *label : { m_outlets.refusalLabel, static_cast<QLabel *>(m_outlets.logLabel),
+             static_cast<QLabel *>(m_outlets.anotherFormatLabel) })
+        label->clear();
+}
+
+void StateNotes::copyCommand()
+{
+    const QString &path = m_intake.processingFilePath();
+    const QAction *last = m_outlets.formatMenu->defaultAction();
+    const auto entry = FormatEntries::constraintsOf(m_outlets, last ? last : m_outlets.mP4MenuItem);
+    const QStringList words{ u"video-converter-cli"_s, u"convert"_s, u"--to"_s,
+        entry ? entry->destDevice : u"MP4"_s, u"-j"_s, u"0"_s, u"-d"_s,
+        saveFolder(Path::stringByDeletingLastPathComponent(path)), u"--"_s, path };
+    QGuiApplication::clipboard()->setText(shellQuoted(words + m_intake.leftOut()));
+    m_outlets.copyCommandLabel->setText(localized(
+        QT_TRANSLATE_NOOP3("Localizable", "Copied", "a command line is on the clipboard now")));
+}
+
+void StateNotes::showLog()
+{
+    auto *dialog = new QDialog(m_outlets.dropAcceptor->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(m_outlets.movieNameLabel->text());
+    auto *text = new QPlainTextEdit(
+        QString::fromUtf8(m_conversion.lastToolOutput()).replace(u'\r', u'\n'), dialog);
+    text->setReadOnly(true);
+    text->setLayoutDirection(Qt::LeftToRight);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addWidget(text);
+    layout->addWidget(buttons);
+    dialog->resize(dialog->parentWidget()->size());
+    dialog->open();
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/window/ResultDrag.h"
+#include "ui/window/WindowUIState.h"
+
+#include <QObject>
+
+class ConversionFlow;
+class FileIntake;
+struct Outcome;
+struct PlannedWork;
+
+/// Says beside the states' own texts what is known of the video and its result, and offers what the
+/// user may want next. Made before what changes the state, so that the texts are there in time.
+class StateNotes : public QObject {
+    Q_OBJECT
+
+public:
+    StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFlow &conversion);
+
+    void stateChanged(WindowUIState state);
+
+private:
+    void dress();
+    void connectControls();
+    void connectWork();
+    void videoWasExamined();
+    void workChanged(const PlannedWork &work, bool isSecondTry);
+    void resultIsThere(const Outcome &outcome);
+    void conversionFailed(const Outcome &outcome);
+    void clearFailure();
+    void copyCommand();
+    void showLog();
+
+    Ui::MainWindow &m_outlets;
+    FileIntake &m_intake;
+    ConversionFlow &m_conversion;
+    ResultDrag m_drag;
+};
