@@ -74,7 +74,7 @@ Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporte
 {
     m_sum.all = m_items.size();
     for (const ConversionItem &item : m_items) {
-        m_others.sources << item.input.path;
+        m_others.sources.add(item.input.path);
         m_others.otherResults << item.destPath;
     }
 }

@@ -21,6 +21,12 @@ bool isGood(const Outcome &outcome)
     return kind == OutcomeKind::Done || kind == OutcomeKind::Incomplete;
 }
 
+qint64 probedLength(const ConversionJob &job)
+{
+    const double seconds = job.conversionInfo[u"format"_s][u"duration"_s].stringValue().toDouble();
+    return seconds >= 1 && seconds < 1e9 ? static_cast<qint64>(seconds) : -1;
+}
+
 }
 
 std::shared_ptr<Progress> Conversion::start(
@@ -109,6 +115,8 @@ Outcome Conversion::ran(const ConversionJob &job)
     while (!changed.wait_for(lock, 50ms, [&] { return ended; })) {
         if (m_progress->isCancelled())
             run->cancel();
+        if (run->isIndeterminate() && run->position() > 0)
+            follow(*run);
     }
     m_output = run->toolOutput();
     return run->outcome();
@@ -117,10 +125,13 @@ Outcome Conversion::ran(const ConversionJob &job)
 // The last step is left for the result's move into place.
 void Conversion::follow(const Progress &run) const
 {
-    const qint64 total = run.totalUnitCount();
+    // Of some sound files the tool prints no length, but the probe knows it.
+    const bool isUnknown = run.isIndeterminate();
+    const qint64 total = isUnknown ? probedLength(m_job) : run.totalUnitCount();
+    const qint64 position = isUnknown ? run.position() : run.completedUnitCount();
     if (total != m_progress->totalUnitCount())
         m_progress->setTotalUnitCount(total);
-    const qint64 completed = std::min(run.completedUnitCount(), total - 1);
+    const qint64 completed = std::min(position, total - 1);
     if (total > 0 && completed >= 0 && completed != m_progress->completedUnitCount())
         m_progress->setCompletedUnitCount(completed);
 }

@@ -100,14 +100,16 @@ void ConversionRun::readChunk(const QByteArray &chunk)
         if (const std::optional<qint64> duration = m_scanner.duration())
             m_progress->setTotalUnitCount(*duration);
     }
-    const qint64 total = m_progress->totalUnitCount();
-    if (text.isEmpty() || total <= 0)
+    const auto position = ToolOutput::lastReportedPosition(text);
+    if (!position)
         return;
-    if (const std::optional<qint64> position = ToolOutput::lastReportedPosition(text)) {
-        const qint64 completed = std::min(*position, total);
-        m_lastDelta = m_progress->completedUnitCount() - completed;
-        m_progress->setCompletedUnitCount(completed);
-    }
+    m_progress->setPosition(*position);
+    const qint64 total = m_progress->totalUnitCount();
+    if (total <= 0)
+        return;
+    const qint64 completed = std::min(*position, total);
+    m_lastDelta = m_progress->completedUnitCount() - completed;
+    m_progress->setCompletedUnitCount(completed);
 }
 
 // A tool that ends well but leaves more than its last progress step can explain stopped short.

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Destination.h"
 
-#include "support/FileSystem.h"
 #include "support/Path.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <unistd.h>
 
 namespace {
@@ -27,6 +27,16 @@ std::optional<Outcome> obstacleAt(const QString &path)
     return std::nullopt;
 }
 
+// Results have names of their own: only a link leads from one to another.
+bool isOtherResult(const Destination &destination)
+{
+    if (!QFileInfo(destination.path).isSymbolicLink())
+        return false;
+    const FileIds file{ destination.path };
+    return std::any_of(destination.otherResults.begin(), destination.otherResults.end(),
+        [&](const QString &other) { return other != destination.path && file.contains(other); });
+}
+
 }
 
 std::optional<Outcome> refusalOf(const Destination &destination)
@@ -38,9 +48,7 @@ std::optional<Outcome> refusalOf(const Destination &destination)
         return obstacle;
     if (!QFileInfo::exists(path))
         return folderRefusal(Path::stringByDeletingLastPathComponent(path));
-    QStringList others = destination.otherResults;
-    others.removeAll(path);
-    if (isOneOf(path, others))
+    if (isOtherResult(destination))
         return Outcome{ Reason::DestinationIsOtherResult };
     if (!destination.overwrite)
         return Outcome{ Reason::DestinationExists };
@@ -64,7 +72,7 @@ std::optional<Outcome> folderRefusal(const QString &folder)
 
 std::optional<Outcome> sourceRefusal(const Destination &destination)
 {
-    return isOneOf(destination.path, destination.sources)
+    return destination.sources.contains(destination.path)
         ? std::optional(Outcome{ Reason::DestinationIsSource })
         : std::nullopt;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/Outcome.h"
+#include "support/FileSystem.h"
 
 #include <QStringList>
 
@@ -9,7 +10,7 @@
 
 struct Destination {
     QString path = {};
-    QStringList sources = {};
+    FileIds sources = {};
     QStringList otherResults = {};
     bool overwrite = false;
 };

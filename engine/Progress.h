@@ -34,6 +34,9 @@ public:
     [[nodiscard]] qint64 completedUnitCount() const { return read(m_completedUnitCount); }
     void setCompletedUnitCount(qint64 count);
     [[nodiscard]] double fractionCompleted() const;
+    /// How far the tool has said that it is, also while the total is unknown.
+    [[nodiscard]] qint64 position() const { return read(m_position); }
+    void setPosition(qint64 seconds) { write(m_position, seconds); }
     [[nodiscard]] bool isIndeterminate() const { return totalUnitCount() < 0; }
 
     [[nodiscard]] bool isCancelled() const { return read(m_cancellation.happened); }
@@ -86,6 +89,7 @@ private:
     Kind m_kind = Kind::Unspecified;
     qint64 m_totalUnitCount;
     qint64 m_completedUnitCount = 0;
+    qint64 m_position = 0;
     Event m_cancellation;
     Event m_end;
     Remedy m_remedy = Remedy::None;

@@ -109,7 +109,7 @@ bool haveSameBytes(const QString &path, const QString &otherPath)
 
 void takeBack(const QString &kept, const QString &destPath)
 {
-    if (!renameToNew(bytesOf(kept), bytesOf(destPath)) && isOneOf(kept, { destPath }))
+    if (!renameToNew(bytesOf(kept), bytesOf(destPath)) && FileIds{ kept }.contains(destPath))
         QFile::remove(kept);
 }
 

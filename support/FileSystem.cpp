@@ -3,7 +3,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
 #include <optional>
 #include <sys/stat.h>
 
@@ -31,13 +30,22 @@ bool isRegularFile(const QString &path)
     return file && S_ISREG(file->st_mode);
 }
 
-bool isOneOf(const QString &path, const QStringList &paths)
+FileIds::FileIds(std::initializer_list<QString> paths)
+{
+    for (const QString &path : paths)
+        add(path);
+}
+
+void FileIds::add(const QString &path)
+{
+    if (const auto file = attributes(path))
+        m_ids.insert({ file->st_dev, file->st_ino });
+}
+
+bool FileIds::contains(const QString &path) const
 {
     const auto file = attributes(path);
-    return file && std::any_of(paths.begin(), paths.end(), [&](const QString &otherPath) {
-        const auto other = attributes(otherPath);
-        return other && file->st_dev == other->st_dev && file->st_ino == other->st_ino;
-    });
+    return file && m_ids.contains({ file->st_dev, file->st_ino });
 }
 
 QString linkTarget(const QString &path)

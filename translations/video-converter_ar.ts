@@ -29,11 +29,6 @@
         <translation>للمساعدة استخدم «video-converter-cli --help».</translation>
     </message>
     <message>
-        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
-        <comment>Command line: wrong value of --to, and the nearest right one</comment>
-        <translation>لا توجد صيغة إخراج باسم «%@». هل تقصد «%@»؟</translation>
-    </message>
-    <message>
         <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
         <comment>Command line: wrong value of --to</comment>
         <translation>لا توجد صيغة إخراج باسم «%@». يعرض الأمر «formats» قائمة الصيغ.</translation>
@@ -52,16 +47,6 @@
         <source>&apos;formats&apos; takes no files.</source>
         <comment>Command line: wrong usage</comment>
         <translation>لا يقبل الأمر «formats» أي ملفات.</translation>
-    </message>
-    <message>
-        <source>&apos;probe&apos; takes exactly one file.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>يتطلب الأمر «probe» ملفًا واحدًا فقط.</translation>
-    </message>
-    <message>
-        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>يتطلب الأمر «plan» إما مقطع فيديو وملف إخراج، أو ‎--info وحده.</translation>
     </message>
     <message>
         <source>There is no video to convert.</source>
@@ -187,34 +172,6 @@
         <source>MP4 quality</source>
         <comment>Heading of a group of outputs</comment>
         <translation>جودة MP4</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli formats [--json]
-Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli formats [--json]
-يسرد صيغ الإخراج التي يقبلها --to: الأجهزة والصيغ ومستويات جودة MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
-       video-converter-cli plan --to NAME --info JSONFILE [--json]
-Prints the tool&apos;s command line, quoted for a shell, without running it.
-
-  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
-                   (- for standard input) and prints only the arguments that depend
-                   on it
-  --json           prints one object: name of the output, list of arguments</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli plan --to NAME FILE OUT [--json]
-           video-converter-cli plan --to NAME --info JSONFILE [--json]
-يطبع سطر أوامر الأداة بعلامات اقتباس تناسب الصدفة دون تشغيلها.
-
-  --to NAME        صيغة الإخراج، إحدى الصيغ التي يسردها «formats»، أو all
-  --info JSONFILE  يأخذ وصف الفيديو من ملف أنشأه «probe --json»
-                   (- للإدخال القياسي) ويطبع فقط المعاملات التي
-                   تعتمد عليه
-  --json           يطبع كائنًا واحدًا: اسم صيغة الإخراج وقائمة المعاملات</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -482,16 +439,6 @@ Are you sure you want to continue?</source>
         <translation>جارٍ تحويل مقطع فيديو</translation>
     </message>
     <message>
-        <source>%d%% – %@</source>
-        <comment>window title while converting: percentage, program name</comment>
-        <translation>%d%% – %@</translation>
-    </message>
-    <message>
-        <source>%d%%, about %@ left</source>
-        <comment>percentage converted and time left, such as 1m 30s</comment>
-        <translation>%d%%، بقي حوالي %@</translation>
-    </message>
-    <message>
         <source>%d%%</source>
         <comment>percentage converted</comment>
         <translation>%d%%</translation>
@@ -627,78 +574,6 @@ Are you sure you want to continue?</source>
         <translation>لا يقبل المُرمِّز صورة الفيديو أو صوته كما هما.</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help explains a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos, the first one that was not converted decides.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>الاستخدام: video-converter-cli COMMAND [OPTIONS]
-يحوّل مقاطع الفيديو.
-
-  formats   يسرد صيغ الإخراج التي يقبلها --to
-  probe     يصف مقطع فيديو
-  plan      يطبع سطر أوامر الأداة دون تشغيلها
-  convert   يحوّل مقاطع الفيديو
-
-لمعرفة المزيد عن أمر: video-converter-cli COMMAND --help. خيارات جميع الأوامر:
-  --json      يطبع JSON
-  --verbose   يطبع التشخيص ومخرجات الأداة كاملة في مجرى الأخطاء القياسي
-  -h, --help  يطبع هذه المساعدة
-  --version   يطبع الإصدار
-
-رمز الإنهاء: 0 تم، 1 فشل التحويل، 2 استخدام خاطئ، 3 رُفض الفيديو، 4 رُفضت الوجهة،
-5 الأدوات مفقودة، 128 + N أوقفته الإشارة N (130 بعد Ctrl-C).
-عند تحويل عدة مقاطع يكون رمز أول مقطع لم يُحوَّل.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: everything that the tool reports (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli probe FILE [--json]
-يصف مقطع فيديو. مع --json: كل ما تذكره الأداة عنه (info) ومدته (duration, seconds)
-وحجم صورة الغلاف أو null (cover).</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>الاستخدام: video-converter-cli convert --to NAME FILE -o OUT
-           video-converter-cli convert --to NAME FILE... -d FOLDER
-يحوّل مقاطع الفيديو واحدًا تلو الآخر. يوقفه Ctrl-C دون ترك ملف غير مكتمل.
-
-  --to NAME            صيغة الإخراج، إحدى الصيغ التي يسردها «formats»
-  -o, --output OUT     الملف المراد كتابته
-  -d, --folder FOLDER  المجلد المراد الكتابة فيه؛ تأخذ الملفات أسماء مقاطع الفيديو
-  --overwrite          يستبدل الملفات الموجودة، ولا يستبدل مقطعًا أصليًا أبدًا
-  --json               يطبع كائن JSON واحدًا في كل سطر
-
-يوضع الاسم الذي يبدأ بشَرطة بعد --، مثلًا:
-convert --to GIF -o a.gif -- -a.mov</translation>
-    </message>
-    <message>
         <source>The result can&apos;t go to standard output; name a file.</source>
         <comment>Command line: wrong usage</comment>
         <translation>لا يمكن إرسال الناتج إلى الخرج القياسي؛ حدِّد ملفًا.</translation>
@@ -752,6 +627,431 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>The older file was kept as “%@”.</source>
         <comment>Remark on a short result, with a file&apos;s name</comment>
         <translation>احتُفظ بالملف الأقدم باسم «%@».</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <comment>menu command</comment>
+        <translation>الإعدادات…</translation>
+    </message>
+    <message>
+        <source>This build contacts nobody.</source>
+        <comment>settings</comment>
+        <translation>لا تتصل هذه النسخة بأي جهة.</translation>
+    </message>
+    <message>
+        <source>As on the desktop</source>
+        <comment>settings, choice of the language</comment>
+        <translation>لغة النظام</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <comment>title of the settings&apos; window</comment>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Send anonymous usage events</source>
+        <comment>settings</comment>
+        <translation>إرسال بيانات استخدام مجهولة المصدر</translation>
+    </message>
+    <message>
+        <source>Look for updates once a day</source>
+        <comment>settings</comment>
+        <translation>التحقق من وجود تحديثات مرة يوميًا</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <comment>settings</comment>
+        <translation>اللغة:</translation>
+    </message>
+    <message>
+        <source>From the next start on.</source>
+        <comment>settings, language</comment>
+        <translation>يسري عند التشغيل التالي.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right ones</comment>
+        <translation>لا توجد صيغة إخراج باسم «%@». هل تقصد «%@»؟</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes a video and an output file, videos and --folder, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب الأمر «plan» مقطع فيديو وملف إخراج، أو مقاطع فيديو و‎--folder، أو ‎--info وحده.</translation>
+    </message>
+    <message>
+        <source>--overwrite and --skip-existing exclude each other.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>لا يمكن الجمع بين ‎--overwrite و‎--skip-existing.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; is no name for &quot;%@&quot;, which makes .%@ files.</source>
+        <comment>Command line: name of a result, name of an output, its extension</comment>
+        <translation>الاسم «%@» لا يناسب صيغة الإخراج «%@»، فامتداد ملفاتها ‎.%@.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; needs a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب الأمر «probe» ملفًا.</translation>
+    </message>
+    <message>
+        <source>--jobs takes a number, --shard two such as 2/8.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>يتطلب ‎--jobs رقمًا واحدًا، و‎--shard رقمين مثل 2/8.</translation>
+    </message>
+    <message>
+        <source>Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help: command formats</comment>
+        <translation>يسرد صيغ الإخراج التي يقبلها ‎--to: الأجهزة والصيغ ومستويات جودة MP4.</translation>
+    </message>
+    <message>
+        <source>Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).</source>
+        <comment>Help: command probe</comment>
+        <translation>يصف مقاطع الفيديو. مع ‎--json: كل ما تذكره الأداة (info) والمدة (duration, seconds) وحجم صورة الغلاف أو null (cover).</translation>
+    </message>
+    <message>
+        <source>Prints the tool&apos;s command line, quoted for a shell, without running it. --to all prints one for each output.</source>
+        <comment>Help: command plan</comment>
+        <translation>يطبع سطر أوامر الأداة بعلامات اقتباس تناسب الصدفة دون تشغيلها. ومع ‎--to all يطبع سطرًا لكل صيغة إخراج.</translation>
+    </message>
+    <message>
+        <source>Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.</source>
+        <comment>Help: command convert</comment>
+        <translation>يحوّل مقاطع الفيديو. يوقفه Ctrl-C دون ترك ملف غير مكتمل. يوضع الاسم الذي يبدأ بشَرطة بعد ‎--‎.</translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <comment>Help of the command</comment>
+        <translation>الاستخدام: %@</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N stopped by signal N (130 after Ctrl-C). With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the command</comment>
+        <translation>رمز الإنهاء: 0 تم، 1 فشل التحويل أو كانت النتيجة غير مكتملة، 2 استخدام خاطئ، 3 رُفض الفيديو، 4 رُفضت الوجهة، 5 إحدى الأدوات مفقودة، ⁦128 + N⁩ أوقفته الإشارة N (130 بعد Ctrl-C). عند تحويل عدة مقاطع يكون رمز أول مقطع لم يُحوَّل.</translation>
+    </message>
+    <message>
+        <source>the output: one of those that &apos;formats&apos; lists, or an extension</source>
+        <comment>Help: option --to</comment>
+        <translation>صيغة الإخراج: إحدى الصيغ التي يسردها «formats»، أو امتداد</translation>
+    </message>
+    <message>
+        <source>the file to write</source>
+        <comment>Help: option --output</comment>
+        <translation>الملف المراد كتابته</translation>
+    </message>
+    <message>
+        <source>the folder to write to; the files get the videos&apos; names</source>
+        <comment>Help: option --folder</comment>
+        <translation>المجلد المراد الكتابة فيه؛ تأخذ الملفات أسماء مقاطع الفيديو</translation>
+    </message>
+    <message>
+        <source>takes all videos and music in a folder and below, and keeps its tree</source>
+        <comment>Help: option --recursive</comment>
+        <translation>يأخذ كل مقاطع الفيديو والموسيقى من المجلد ومجلداته الفرعية مع الحفاظ على بنيتها</translation>
+    </message>
+    <message>
+        <source>takes the names in a file, one a line; - is standard input</source>
+        <comment>Help: option --files-from</comment>
+        <translation>يأخذ الأسماء من ملف، اسمًا في كل سطر؛ ويعني - الإدخال القياسي</translation>
+    </message>
+    <message>
+        <source>names in that file end with a null character, as after find -print0</source>
+        <comment>Help: option --null</comment>
+        <translation>تنتهي الأسماء في ذلك الملف بمحرف صفري، كما بعد find -print0</translation>
+    </message>
+    <message>
+        <source>converts N videos side by side; 0 stands for as many as suit the cores</source>
+        <comment>Help: option --jobs</comment>
+        <translation>يحوّل N من مقاطع الفيديو في آن واحد؛ ويعني 0 العدد المناسب لأنوية المعالج</translation>
+    </message>
+    <message>
+        <source>replaces files that exist; a video itself is never replaced</source>
+        <comment>Help: option --overwrite</comment>
+        <translation>يستبدل الملفات الموجودة، ولا يستبدل مقطعًا أصليًا أبدًا</translation>
+    </message>
+    <message>
+        <source>leaves whole results that are newer than their videos alone, and makes cut ones again</source>
+        <comment>Help: option --skip-existing</comment>
+        <translation>يُبقي النتائج المكتملة الأحدث من مقاطعها الأصلية كما هي، ويعيد إنشاء المبتورة منها</translation>
+    </message>
+    <message>
+        <source>takes the K-th of N parts of the videos; the parts depend on their names alone</source>
+        <comment>Help: option --shard</comment>
+        <translation>يأخذ الجزء K من N من أجزاء مقاطع الفيديو؛ ويعتمد التقسيم على أسمائها وحدها</translation>
+    </message>
+    <message>
+        <source>takes a description saved by &apos;probe --json&apos; (- for standard input) and prints only the arguments that depend on it</source>
+        <comment>Help: option --info</comment>
+        <translation>يأخذ وصفًا حفظه «probe --json» (- للإدخال القياسي) ويطبع فقط المعاملات التي تعتمد عليه</translation>
+    </message>
+    <message>
+        <source>prints failures only</source>
+        <comment>Help: option --quiet</comment>
+        <translation>يطبع حالات الفشل فقط</translation>
+    </message>
+    <message>
+        <source>prints JSON; &apos;convert&apos; prints one object a line</source>
+        <comment>Help: option --json</comment>
+        <translation>يطبع JSON؛ ويطبع «convert» كائنًا واحدًا في كل سطر</translation>
+    </message>
+    <message>
+        <source>prints diagnostics and the tool&apos;s full output to standard error</source>
+        <comment>Help: option --verbose</comment>
+        <translation>يطبع التشخيص ومخرجات الأداة كاملة في مجرى الأخطاء القياسي</translation>
+    </message>
+    <message>
+        <source>prints this help</source>
+        <comment>Help: option --help</comment>
+        <translation>يطبع هذه المساعدة</translation>
+    </message>
+    <message>
+        <source>prints the version</source>
+        <comment>Help: option --version</comment>
+        <translation>يطبع الإصدار</translation>
+    </message>
+    <message>
+        <source>%d of %d</source>
+        <comment>Number of videos that are done, and of all</comment>
+        <translation>%d من %d</translation>
+    </message>
+    <message>
+        <source>%@: %@ is there already</source>
+        <comment>Video, file that was made of it in an earlier run</comment>
+        <translation>%@: الملف %@ موجود بالفعل</translation>
+    </message>
+    <message>
+        <source>The list of videos can&apos;t be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>تعذّرت قراءة قائمة مقاطع الفيديو.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it may not be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>المجلد غير موجود، أو ليس لديك إذن بقراءته.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>لا يمكن تمثيل اسم الوجهة كنص. يُرجى اختيار اسم آخر.</translation>
+    </message>
+    <message>
+        <source>The tool can&apos;t examine videos: %@</source>
+        <comment>Why no video can be converted; the tool&apos;s own words follow</comment>
+        <translation>لا تستطيع الأداة فحص مقاطع الفيديو: %@</translation>
+    </message>
+    <message>
+        <source>The tool needed more memory, threads or files than any video should.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>احتاجت الأداة إلى ذاكرة أو خيوط معالجة أو ملفات أكثر مما ينبغي لأي مقطع فيديو.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the cover picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تقبل صيغة الإخراج هذه صورة الغلاف.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold a picture of odd width or height.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تقبل صيغة الإخراج هذه صورة ذات عرض أو ارتفاع فردي.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تقبل صيغة الإخراج هذه صوت الفيديو.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>لا تقبل صيغة الإخراج هذه صورة الفيديو.</translation>
+    </message>
+    <message>
+        <source>Drop to convert</source>
+        <comment>over the window, while a file is dragged</comment>
+        <translation>أفلت للتحويل</translation>
+    </message>
+    <message>
+        <source>One video at a time: wait for the end of this one</source>
+        <comment>over the window, while a file is dragged that it can&apos;t take now</comment>
+        <translation>مقطع واحد في كل مرة: انتظر انتهاء المقطع الحالي</translation>
+    </message>
+    <message>
+        <source>Only files can be dropped here</source>
+        <comment>over the window, while something else than a file is dragged</comment>
+        <translation>لا يمكن إفلات سوى الملفات هنا</translation>
+    </message>
+    <message>
+        <source>Next: “%@”</source>
+        <comment>name of a video that came while another one is converted</comment>
+        <translation>التالي: «⁨%@⁩»</translation>
+    </message>
+    <message>
+        <source>Examining “%@”</source>
+        <comment>name of a video</comment>
+        <translation>جارٍ فحص «⁨%@⁩»</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>time left of a conversion, such as 1m 30s</comment>
+        <translation>بقي %@</translation>
+    </message>
+    <message>
+        <source>%@ – %@</source>
+        <comment>window title while converting: percentage and time left, program name</comment>
+        <translation>%@ – %@</translation>
+    </message>
+    <message>
+        <source>The video has no sound</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>لا يحتوي الفيديو على صوت</translation>
+    </message>
+    <message>
+        <source>The video has no picture</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>لا يحتوي الفيديو على صورة</translation>
+    </message>
+    <message>
+        <source>Drag the result from here into a folder or a mail</source>
+        <comment>tool tip of the picture</comment>
+        <translation>اسحب النتيجة من هنا إلى مجلد أو رسالة بريد</translation>
+    </message>
+    <message>
+        <source>Open “%@” again</source>
+        <comment>with the name of the last video</comment>
+        <translation>إعادة فتح «⁨%@⁩»</translation>
+    </message>
+    <message>
+        <source>One video is converted at a time here. Left out: %d</source>
+        <comment>several videos were dropped, with the number of the others</comment>
+        <translation>يُحوَّل هنا مقطع واحد في كل مرة. المقاطع المتروكة: %d</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <comment>copies a command line that converts several videos</comment>
+        <translation>نسخ الأمر</translation>
+    </message>
+    <message>
+        <source>The first try could not work, so this is a second one in another way.</source>
+        <comment>while converting</comment>
+        <translation>لم تنجح المحاولة الأولى، وهذه محاولة ثانية بطريقة أخرى.</translation>
+    </message>
+    <message>
+        <source>Try another format</source>
+        <comment>after a conversion that failed</comment>
+        <translation>تجربة صيغة أخرى</translation>
+    </message>
+    <message>
+        <source>Show the log</source>
+        <comment>what the tool said in a conversion that failed</comment>
+        <translation>إظهار السجل</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <comment>a command line is on the clipboard now</comment>
+        <translation>تم النسخ</translation>
+    </message>
+    <message>
+        <source>Copies the sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>ينسخ الصوت في ثوانٍ</translation>
+    </message>
+    <message>
+        <source>Encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>يعيد ترميز الصوت</translation>
+    </message>
+    <message>
+        <source>Copies the picture, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>ينسخ الصورة في ثوانٍ</translation>
+    </message>
+    <message>
+        <source>Copies picture and sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>ينسخ الصورة والصوت في ثوانٍ</translation>
+    </message>
+    <message>
+        <source>Copies the picture, encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>ينسخ الصورة ويعيد ترميز الصوت</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>يعيد ترميز الصورة</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew, copies the sound</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>يعيد ترميز الصورة وينسخ الصوت</translation>
+    </message>
+    <message>
+        <source>Encodes picture and sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>يعيد ترميز الصورة والصوت</translation>
+    </message>
+    <message>
+        <source>Copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ نسخ الصوت</translation>
+    </message>
+    <message>
+        <source>Encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ ترميز الصوت</translation>
+    </message>
+    <message>
+        <source>Copying the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ نسخ الصورة</translation>
+    </message>
+    <message>
+        <source>Copying picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ نسخ الصورة والصوت</translation>
+    </message>
+    <message>
+        <source>Copying the picture, encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ نسخ الصورة وترميز الصوت</translation>
+    </message>
+    <message>
+        <source>Encoding the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ ترميز الصورة</translation>
+    </message>
+    <message>
+        <source>Encoding the picture, copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ ترميز الصورة ونسخ الصوت</translation>
+    </message>
+    <message>
+        <source>Encoding picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>جارٍ ترميز الصورة والصوت</translation>
+    </message>
+    <message>
+        <source>Scales to %d × %d</source>
+        <comment>What an entry of the format menu does: width, height</comment>
+        <translation>يغيّر الأبعاد إلى ⁦%d × %d⁩</translation>
+    </message>
+    <message>
+        <source>%d × %d</source>
+        <comment>width and height of a picture</comment>
+        <translation>⁦%d × %d⁩</translation>
+    </message>
+    <message>
+        <source>The result will take about %@.</source>
+        <comment>in the save panel, with a size such as 12.3 MB</comment>
+        <translation>ستشغل النتيجة حوالي %@.</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>update dialog, button</comment>
+        <translation>تخطي هذا الإصدار</translation>
+    </message>
+    <message>
+        <source>Get it where you got Video Converter from.</source>
+        <comment>update dialog, when neither a download nor a web site is known</comment>
+        <translation>احصل عليه من المصدر الذي حصلت منه على Video Converter.</translation>
     </message>
 </context>
 <context>
@@ -897,6 +1197,18 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>&amp;About Video Converter</source>
         <translation>&amp;حول Video Converter</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Open the result in its player</source>
+        <translation>فتح النتيجة في مشغّلها</translation>
+    </message>
+    <message>
+        <source>Convert as &amp;Last Time</source>
+        <translation>تحويل كالمرة ال&amp;سابقة</translation>
     </message>
 </context>
 </TS>

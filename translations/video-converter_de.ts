@@ -29,11 +29,6 @@
         <translation>„video-converter-cli --help“ liefert weitere Informationen.</translation>
     </message>
     <message>
-        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
-        <comment>Command line: wrong value of --to, and the nearest right one</comment>
-        <translation>Das Ausgabeformat „%@“ gibt es nicht. Meinten Sie „%@“?</translation>
-    </message>
-    <message>
         <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
         <comment>Command line: wrong value of --to</comment>
         <translation>Das Ausgabeformat „%@“ gibt es nicht. Der Befehl „formats“ listet alle auf.</translation>
@@ -52,16 +47,6 @@
         <source>&apos;formats&apos; takes no files.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Der Befehl „formats“ nimmt keine Dateien entgegen.</translation>
-    </message>
-    <message>
-        <source>&apos;probe&apos; takes exactly one file.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>Der Befehl „probe“ erfordert genau eine Datei.</translation>
-    </message>
-    <message>
-        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>Der Befehl „plan“ erfordert entweder ein Video und eine Ausgabedatei oder nur --info.</translation>
     </message>
     <message>
         <source>There is no video to convert.</source>
@@ -187,36 +172,6 @@
         <source>MP4 quality</source>
         <comment>Heading of a group of outputs</comment>
         <translation>MP4-Qualität</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli formats [--json]
-Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli formats [--json]
-Listet die Ausgabeformate für --to auf: Geräte, Formate und MP4-Qualitäten.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
-       video-converter-cli plan --to NAME --info JSONFILE [--json]
-Prints the tool&apos;s command line, quoted for a shell, without running it.
-
-  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
-                   (- for standard input) and prints only the arguments that depend
-                   on it
-  --json           prints one object: name of the output, list of arguments</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli plan --to NAME DATEI AUSGABE [--json]
-        video-converter-cli plan --to NAME --info JSON_DATEI [--json]
-Gibt die Befehlszeile des Hilfsprogramms für eine Shell maskiert aus, ohne sie
-auszuführen.
-
-  --to NAME          das Ausgabeformat, eines von denen, die „formats“ auflistet,
-                     oder all
-  --info JSON_DATEI  nimmt die Beschreibung des Videos aus einer mit „probe --json“
-                     erstellten Datei (- für die Standardeingabe) und gibt nur die
-                     davon abhängigen Argumente aus
-  --json             gibt ein Objekt aus: Name des Ausgabeformats, Liste der Argumente</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -484,16 +439,6 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Ein Video wird konvertiert</translation>
     </message>
     <message>
-        <source>%d%% – %@</source>
-        <comment>window title while converting: percentage, program name</comment>
-        <translation>%d&#xa0;%% – %@</translation>
-    </message>
-    <message>
-        <source>%d%%, about %@ left</source>
-        <comment>percentage converted and time left, such as 1m 30s</comment>
-        <translation>%d&#xa0;%%, noch etwa %@</translation>
-    </message>
-    <message>
         <source>%d%%</source>
         <comment>percentage converted</comment>
         <translation>%d&#xa0;%%</translation>
@@ -629,80 +574,6 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Der Encoder kann Bild oder Ton des Videos so nicht verarbeiten.</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help explains a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos, the first one that was not converted decides.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Aufruf: video-converter-cli BEFEHL [OPTIONEN]
-Konvertiert Videos.
-
-  formats   listet die Ausgabeformate für --to auf
-  probe     beschreibt ein Video
-  plan      gibt die Befehlszeile des Hilfsprogramms aus, ohne sie auszuführen
-  convert   konvertiert Videos
-
-„video-converter-cli BEFEHL --help“ sagt mehr zu einem Befehl. Alle Befehle kennen:
-  --json      gibt JSON aus
-  --verbose   gibt Diagnosen und alle Meldungen des Hilfsprogramms auf stderr aus
-  -h, --help  gibt diese Hilfe aus
-  --version   gibt die Version aus
-
-Rückgabewert: 0 fertig, 1 Konvertierung fehlgeschlagen, 2 falscher Aufruf, 3 Video
-abgelehnt, 4 Ziel abgelehnt, 5 Hilfsprogramme fehlen, 128 + N durch Signal N beendet
-(130 nach Strg+C).
-Bei mehreren Videos gilt der Wert des ersten, das nicht konvertiert wurde.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: everything that the tool reports (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli probe DATEI [--json]
-Beschreibt ein Video. Mit --json: alle Angaben des Hilfsprogramms (info), die Dauer
-(duration, seconds) und die Größe des Titelbilds oder null (cover).</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Aufruf: video-converter-cli convert --to NAME DATEI -o AUSGABE
-        video-converter-cli convert --to NAME DATEI... -d ORDNER
-Konvertiert Videos nacheinander. Strg+C bricht ab und hinterlässt keine unfertige Datei.
-
-  --to NAME             das Ausgabeformat, eines von denen, die „formats“ auflistet
-  -o, --output AUSGABE  die Datei, die geschrieben wird
-  -d, --folder ORDNER   der Ordner, in den geschrieben wird; die Dateien werden nach
-                        den Videos benannt
-  --overwrite           ersetzt vorhandene Dateien, aber nie ein Ausgangsvideo
-  --json                gibt ein JSON-Objekt pro Zeile aus
-
-Ein Name mit einem Minus am Anfang gehört hinter --, zum Beispiel:
-convert --to GIF -o a.gif -- -a.mov</translation>
-    </message>
-    <message>
         <source>The result can&apos;t go to standard output; name a file.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Das Ergebnis kann nicht auf die Standardausgabe gehen. Geben Sie eine Datei an.</translation>
@@ -756,6 +627,431 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>The older file was kept as “%@”.</source>
         <comment>Remark on a short result, with a file&apos;s name</comment>
         <translation>Die ältere Datei wurde als „%@“ aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <comment>menu command</comment>
+        <translation>Einstellungen&#xa0;…</translation>
+    </message>
+    <message>
+        <source>This build contacts nobody.</source>
+        <comment>settings</comment>
+        <translation>Dieser Build kontaktiert keine Server.</translation>
+    </message>
+    <message>
+        <source>As on the desktop</source>
+        <comment>settings, choice of the language</comment>
+        <translation>Systemsprache</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <comment>title of the settings&apos; window</comment>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Send anonymous usage events</source>
+        <comment>settings</comment>
+        <translation>Anonyme Nutzungsdaten senden</translation>
+    </message>
+    <message>
+        <source>Look for updates once a day</source>
+        <comment>settings</comment>
+        <translation>Einmal täglich nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <comment>settings</comment>
+        <translation>Sprache:</translation>
+    </message>
+    <message>
+        <source>From the next start on.</source>
+        <comment>settings, language</comment>
+        <translation>Gilt ab dem nächsten Programmstart.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right ones</comment>
+        <translation>Das Ausgabeformat „%@“ gibt es nicht. Meinten Sie „%@“?</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes a video and an output file, videos and --folder, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Der Befehl „plan“ erfordert ein Video und eine Ausgabedatei, Videos und --folder oder nur --info.</translation>
+    </message>
+    <message>
+        <source>--overwrite and --skip-existing exclude each other.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--overwrite und --skip-existing schließen sich gegenseitig aus.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; is no name for &quot;%@&quot;, which makes .%@ files.</source>
+        <comment>Command line: name of a result, name of an output, its extension</comment>
+        <translation>Der Name „%@“ passt nicht zum Ausgabeformat „%@“, das .%@-Dateien erzeugt.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; needs a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Der Befehl „probe“ erfordert eine Datei.</translation>
+    </message>
+    <message>
+        <source>--jobs takes a number, --shard two such as 2/8.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>Die Option --jobs erfordert eine Zahl, --shard zwei, zum Beispiel 2/8.</translation>
+    </message>
+    <message>
+        <source>Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help: command formats</comment>
+        <translation>Listet die Ausgabeformate für --to auf: Geräte, Formate und MP4-Qualitäten.</translation>
+    </message>
+    <message>
+        <source>Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).</source>
+        <comment>Help: command probe</comment>
+        <translation>Beschreibt Videos. Mit --json: alle Angaben des Hilfsprogramms (info), die Dauer (duration, seconds) und die Größe des Titelbilds oder null (cover).</translation>
+    </message>
+    <message>
+        <source>Prints the tool&apos;s command line, quoted for a shell, without running it. --to all prints one for each output.</source>
+        <comment>Help: command plan</comment>
+        <translation>Gibt die Befehlszeile des Hilfsprogramms für eine Shell maskiert aus, ohne sie auszuführen. Mit --to all wird für jedes Ausgabeformat eine ausgegeben.</translation>
+    </message>
+    <message>
+        <source>Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.</source>
+        <comment>Help: command convert</comment>
+        <translation>Konvertiert Videos. Strg+C bricht ab und hinterlässt keine unfertige Datei. Ein Name mit einem Minus am Anfang gehört hinter --.</translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <comment>Help of the command</comment>
+        <translation>Aufruf: %@</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N stopped by signal N (130 after Ctrl-C). With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the command</comment>
+        <translation>Rückgabewert: 0 fertig, 1 Konvertierung fehlgeschlagen oder Ergebnis unvollständig, 2 falscher Aufruf, 3 Video abgelehnt, 4 Ziel abgelehnt, 5 Hilfsprogramm fehlt, 128 + N durch Signal N beendet (130 nach Strg+C). Bei mehreren Videos gilt der Wert des ersten, das nicht konvertiert wurde.</translation>
+    </message>
+    <message>
+        <source>the output: one of those that &apos;formats&apos; lists, or an extension</source>
+        <comment>Help: option --to</comment>
+        <translation>das Ausgabeformat: eines von denen, die „formats“ auflistet, oder eine Dateiendung</translation>
+    </message>
+    <message>
+        <source>the file to write</source>
+        <comment>Help: option --output</comment>
+        <translation>die Datei, die geschrieben wird</translation>
+    </message>
+    <message>
+        <source>the folder to write to; the files get the videos&apos; names</source>
+        <comment>Help: option --folder</comment>
+        <translation>der Ordner, in den geschrieben wird; die Dateien werden nach den Videos benannt</translation>
+    </message>
+    <message>
+        <source>takes all videos and music in a folder and below, and keeps its tree</source>
+        <comment>Help: option --recursive</comment>
+        <translation>nimmt alle Videos und Musikdateien in einem Ordner und dessen Unterordnern und behält die Ordnerstruktur bei</translation>
+    </message>
+    <message>
+        <source>takes the names in a file, one a line; - is standard input</source>
+        <comment>Help: option --files-from</comment>
+        <translation>liest die Namen aus einer Datei, einen pro Zeile; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>names in that file end with a null character, as after find -print0</source>
+        <comment>Help: option --null</comment>
+        <translation>die Namen in dieser Datei enden mit einem Nullzeichen, wie nach find -print0</translation>
+    </message>
+    <message>
+        <source>converts N videos side by side; 0 stands for as many as suit the cores</source>
+        <comment>Help: option --jobs</comment>
+        <translation>konvertiert N Videos gleichzeitig; 0 steht für so viele, wie zu den Prozessorkernen passen</translation>
+    </message>
+    <message>
+        <source>replaces files that exist; a video itself is never replaced</source>
+        <comment>Help: option --overwrite</comment>
+        <translation>ersetzt vorhandene Dateien, aber nie ein Ausgangsvideo</translation>
+    </message>
+    <message>
+        <source>leaves whole results that are newer than their videos alone, and makes cut ones again</source>
+        <comment>Help: option --skip-existing</comment>
+        <translation>behält vollständige Ergebnisse, die neuer als ihre Videos sind, und erstellt abgeschnittene neu</translation>
+    </message>
+    <message>
+        <source>takes the K-th of N parts of the videos; the parts depend on their names alone</source>
+        <comment>Help: option --shard</comment>
+        <translation>nimmt den K-ten von N Teilen der Videos; die Aufteilung hängt nur von den Namen ab</translation>
+    </message>
+    <message>
+        <source>takes a description saved by &apos;probe --json&apos; (- for standard input) and prints only the arguments that depend on it</source>
+        <comment>Help: option --info</comment>
+        <translation>nimmt eine mit „probe --json“ gespeicherte Beschreibung (- für die Standardeingabe) und gibt nur die davon abhängigen Argumente aus</translation>
+    </message>
+    <message>
+        <source>prints failures only</source>
+        <comment>Help: option --quiet</comment>
+        <translation>gibt nur Fehler aus</translation>
+    </message>
+    <message>
+        <source>prints JSON; &apos;convert&apos; prints one object a line</source>
+        <comment>Help: option --json</comment>
+        <translation>gibt JSON aus; „convert“ gibt ein Objekt pro Zeile aus</translation>
+    </message>
+    <message>
+        <source>prints diagnostics and the tool&apos;s full output to standard error</source>
+        <comment>Help: option --verbose</comment>
+        <translation>gibt Diagnosen und alle Meldungen des Hilfsprogramms auf stderr aus</translation>
+    </message>
+    <message>
+        <source>prints this help</source>
+        <comment>Help: option --help</comment>
+        <translation>gibt diese Hilfe aus</translation>
+    </message>
+    <message>
+        <source>prints the version</source>
+        <comment>Help: option --version</comment>
+        <translation>gibt die Version aus</translation>
+    </message>
+    <message>
+        <source>%d of %d</source>
+        <comment>Number of videos that are done, and of all</comment>
+        <translation>%d von %d</translation>
+    </message>
+    <message>
+        <source>%@: %@ is there already</source>
+        <comment>Video, file that was made of it in an earlier run</comment>
+        <translation>%@: %@ ist bereits vorhanden</translation>
+    </message>
+    <message>
+        <source>The list of videos can&apos;t be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>Die Liste der Videos kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it may not be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>Der Ordner existiert nicht oder darf nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Der Name des Ziels lässt sich nicht als Text darstellen. Bitte wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The tool can&apos;t examine videos: %@</source>
+        <comment>Why no video can be converted; the tool&apos;s own words follow</comment>
+        <translation>Das Hilfsprogramm kann keine Videos analysieren: %@</translation>
+    </message>
+    <message>
+        <source>The tool needed more memory, threads or files than any video should.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Das Hilfsprogramm brauchte mehr Arbeitsspeicher, Threads oder Dateien, als ein Video je erfordern sollte.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the cover picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Dieses Ausgabeformat kann das Titelbild nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold a picture of odd width or height.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Dieses Ausgabeformat kann kein Bild mit ungerader Breite oder Höhe aufnehmen.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Dieses Ausgabeformat kann den Ton des Videos nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Dieses Ausgabeformat kann das Bild des Videos nicht aufnehmen.</translation>
+    </message>
+    <message>
+        <source>Drop to convert</source>
+        <comment>over the window, while a file is dragged</comment>
+        <translation>Zum Konvertieren ablegen</translation>
+    </message>
+    <message>
+        <source>One video at a time: wait for the end of this one</source>
+        <comment>over the window, while a file is dragged that it can&apos;t take now</comment>
+        <translation>Nur ein Video auf einmal: Bitte warten Sie, bis dieses fertig ist</translation>
+    </message>
+    <message>
+        <source>Only files can be dropped here</source>
+        <comment>over the window, while something else than a file is dragged</comment>
+        <translation>Hier können nur Dateien abgelegt werden</translation>
+    </message>
+    <message>
+        <source>Next: “%@”</source>
+        <comment>name of a video that came while another one is converted</comment>
+        <translation>Als Nächstes: „%@“</translation>
+    </message>
+    <message>
+        <source>Examining “%@”</source>
+        <comment>name of a video</comment>
+        <translation>„%@“ wird analysiert</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>time left of a conversion, such as 1m 30s</comment>
+        <translation>noch %@</translation>
+    </message>
+    <message>
+        <source>%@ – %@</source>
+        <comment>window title while converting: percentage and time left, program name</comment>
+        <translation>%@ – %@</translation>
+    </message>
+    <message>
+        <source>The video has no sound</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>Das Video hat keinen Ton</translation>
+    </message>
+    <message>
+        <source>The video has no picture</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>Das Video hat kein Bild</translation>
+    </message>
+    <message>
+        <source>Drag the result from here into a folder or a mail</source>
+        <comment>tool tip of the picture</comment>
+        <translation>Ergebnis von hier in einen Ordner oder eine E-Mail ziehen</translation>
+    </message>
+    <message>
+        <source>Open “%@” again</source>
+        <comment>with the name of the last video</comment>
+        <translation>„%@“ erneut öffnen</translation>
+    </message>
+    <message>
+        <source>One video is converted at a time here. Left out: %d</source>
+        <comment>several videos were dropped, with the number of the others</comment>
+        <translation>Hier wird immer nur ein Video auf einmal konvertiert. Ausgelassen: %d</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <comment>copies a command line that converts several videos</comment>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>The first try could not work, so this is a second one in another way.</source>
+        <comment>while converting</comment>
+        <translation>Der erste Versuch konnte nicht gelingen, daher folgt ein zweiter auf anderem Weg.</translation>
+    </message>
+    <message>
+        <source>Try another format</source>
+        <comment>after a conversion that failed</comment>
+        <translation>Anderes Format versuchen</translation>
+    </message>
+    <message>
+        <source>Show the log</source>
+        <comment>what the tool said in a conversion that failed</comment>
+        <translation>Protokoll anzeigen</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <comment>a command line is on the clipboard now</comment>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Copies the sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Kopiert den Ton, dauert nur Sekunden</translation>
+    </message>
+    <message>
+        <source>Encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Codiert den Ton neu</translation>
+    </message>
+    <message>
+        <source>Copies the picture, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Kopiert das Bild, dauert nur Sekunden</translation>
+    </message>
+    <message>
+        <source>Copies picture and sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Kopiert Bild und Ton, dauert nur Sekunden</translation>
+    </message>
+    <message>
+        <source>Copies the picture, encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Kopiert das Bild, codiert den Ton neu</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Codiert das Bild neu</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew, copies the sound</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Codiert das Bild neu, kopiert den Ton</translation>
+    </message>
+    <message>
+        <source>Encodes picture and sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Codiert Bild und Ton neu</translation>
+    </message>
+    <message>
+        <source>Copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Ton wird kopiert</translation>
+    </message>
+    <message>
+        <source>Encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Ton wird codiert</translation>
+    </message>
+    <message>
+        <source>Copying the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild wird kopiert</translation>
+    </message>
+    <message>
+        <source>Copying picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild und Ton werden kopiert</translation>
+    </message>
+    <message>
+        <source>Copying the picture, encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild wird kopiert, Ton wird codiert</translation>
+    </message>
+    <message>
+        <source>Encoding the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild wird codiert</translation>
+    </message>
+    <message>
+        <source>Encoding the picture, copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild wird codiert, Ton wird kopiert</translation>
+    </message>
+    <message>
+        <source>Encoding picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Bild und Ton werden codiert</translation>
+    </message>
+    <message>
+        <source>Scales to %d × %d</source>
+        <comment>What an entry of the format menu does: width, height</comment>
+        <translation>Skaliert auf %d&#xa0;×&#xa0;%d</translation>
+    </message>
+    <message>
+        <source>%d × %d</source>
+        <comment>width and height of a picture</comment>
+        <translation>%d&#xa0;×&#xa0;%d</translation>
+    </message>
+    <message>
+        <source>The result will take about %@.</source>
+        <comment>in the save panel, with a size such as 12.3 MB</comment>
+        <translation>Das Ergebnis wird etwa %@ groß.</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>update dialog, button</comment>
+        <translation>Diese Version überspringen</translation>
+    </message>
+    <message>
+        <source>Get it where you got Video Converter from.</source>
+        <comment>update dialog, when neither a download nor a web site is known</comment>
+        <translation>Sie erhalten das Update dort, wo Sie Video Converter bezogen haben.</translation>
     </message>
 </context>
 <context>
@@ -901,6 +1197,18 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>&amp;About Video Converter</source>
         <translation>&amp;Über Video Converter</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open the result in its player</source>
+        <translation>Ergebnis im zugehörigen Player öffnen</translation>
+    </message>
+    <message>
+        <source>Convert as &amp;Last Time</source>
+        <translation>Konvertieren wie beim &amp;letzten Mal</translation>
     </message>
 </context>
 </TS>

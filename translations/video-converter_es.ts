@@ -29,11 +29,6 @@
         <translation>Pruebe «video-converter-cli --help».</translation>
     </message>
     <message>
-        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
-        <comment>Command line: wrong value of --to, and the nearest right one</comment>
-        <translation>No hay ninguna salida llamada «%@»; ¿quería decir «%@»?</translation>
-    </message>
-    <message>
         <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
         <comment>Command line: wrong value of --to</comment>
         <translation>No hay ninguna salida llamada «%@»; el comando «formats» las enumera.</translation>
@@ -52,16 +47,6 @@
         <source>&apos;formats&apos; takes no files.</source>
         <comment>Command line: wrong usage</comment>
         <translation>«formats» no admite archivos.</translation>
-    </message>
-    <message>
-        <source>&apos;probe&apos; takes exactly one file.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>«probe» admite exactamente un archivo.</translation>
-    </message>
-    <message>
-        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>«plan» admite un vídeo y un archivo de salida, o solo --info.</translation>
     </message>
     <message>
         <source>There is no video to convert.</source>
@@ -187,35 +172,6 @@
         <source>MP4 quality</source>
         <comment>Heading of a group of outputs</comment>
         <translation>Calidad MP4</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli formats [--json]
-Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli formats [--json]
-Enumera las salidas que admite --to: dispositivos, formatos y calidades MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
-       video-converter-cli plan --to NAME --info JSONFILE [--json]
-Prints the tool&apos;s command line, quoted for a shell, without running it.
-
-  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
-                   (- for standard input) and prints only the arguments that depend
-                   on it
-  --json           prints one object: name of the output, list of arguments</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli plan --to NOMBRE ARCHIVO SALIDA [--json]
-     video-converter-cli plan --to NOMBRE --info ARCHIVO_JSON [--json]
-Muestra la línea de comandos de la herramienta, entrecomillada para un intérprete de
-comandos, sin ejecutarla.
-
-  --to NOMBRE          la salida, una de las que enumera «formats», o bien all (todas)
-  --info ARCHIVO_JSON  toma la descripción del vídeo de un archivo creado con
-                       «probe --json» (- para la entrada estándar) y muestra solo los
-                       argumentos que dependen de ella
-  --json               muestra un objeto: nombre de la salida, lista de argumentos</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -483,16 +439,6 @@ Are you sure you want to continue?</source>
         <translation>Conversión de un vídeo</translation>
     </message>
     <message>
-        <source>%d%% – %@</source>
-        <comment>window title while converting: percentage, program name</comment>
-        <translation>%d&#xa0;%% – %@</translation>
-    </message>
-    <message>
-        <source>%d%%, about %@ left</source>
-        <comment>percentage converted and time left, such as 1m 30s</comment>
-        <translation>%d&#xa0;%%, quedan aprox. %@</translation>
-    </message>
-    <message>
         <source>%d%%</source>
         <comment>percentage converted</comment>
         <translation>%d&#xa0;%%</translation>
@@ -628,79 +574,6 @@ Are you sure you want to continue?</source>
         <translation>El codificador no admite la imagen o el sonido del vídeo tal como están.</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help explains a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos, the first one that was not converted decides.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Uso: video-converter-cli COMANDO [OPCIONES]
-Convierte vídeos.
-
-  formats   enumera las salidas que admite --to
-  probe     describe un vídeo
-  plan      muestra la línea de comandos de la herramienta sin ejecutarla
-  convert   convierte vídeos
-
-video-converter-cli COMANDO --help explica un comando. Todos los comandos admiten:
-  --json      muestra JSON
-  --verbose   muestra en el error estándar diagnósticos y todo lo que dice la herramienta
-  -h, --help  muestra esta ayuda
-  --version   muestra la versión
-
-Estado de salida: 0 correcto, 1 falló una conversión, 2 uso incorrecto,
-3 vídeo rechazado, 4 destino rechazado, 5 faltan las herramientas, 128 + N detenido por
-la señal N (130 tras Ctrl-C). Con varios vídeos es el del primero que no se convirtió.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: everything that the tool reports (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli probe ARCHIVO [--json]
-Describe un vídeo. Con --json: todo lo que la herramienta dice de él (info), su duración
-(duration, seconds) y el tamaño de su portada o null (cover).</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Uso: video-converter-cli convert --to NOMBRE ARCHIVO -o SALIDA
-     video-converter-cli convert --to NOMBRE ARCHIVO... -d CARPETA
-Convierte vídeos, uno tras otro. Ctrl-C detiene y no deja ningún archivo a medias.
-
-  --to NOMBRE           la salida, una de las que enumera «formats»
-  -o, --output SALIDA   el archivo en el que escribir
-  -d, --folder CARPETA  la carpeta en la que escribir; los archivos reciben los nombres
-                        de los vídeos
-  --overwrite           reemplaza los archivos existentes; nunca el vídeo original
-  --json                muestra un objeto JSON por línea
-
-Un nombre que empieza con un guion va después de --, como en:
-convert --to GIF -o a.gif -- -a.mov</translation>
-    </message>
-    <message>
         <source>The result can&apos;t go to standard output; name a file.</source>
         <comment>Command line: wrong usage</comment>
         <translation>El resultado no puede enviarse a la salida estándar; indique un archivo.</translation>
@@ -754,6 +627,431 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>The older file was kept as “%@”.</source>
         <comment>Remark on a short result, with a file&apos;s name</comment>
         <translation>El archivo anterior se conservó como «%@».</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <comment>menu command</comment>
+        <translation>Configuración…</translation>
+    </message>
+    <message>
+        <source>This build contacts nobody.</source>
+        <comment>settings</comment>
+        <translation>Esta compilación no se conecta a ningún servidor.</translation>
+    </message>
+    <message>
+        <source>As on the desktop</source>
+        <comment>settings, choice of the language</comment>
+        <translation>El del escritorio</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <comment>title of the settings&apos; window</comment>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Send anonymous usage events</source>
+        <comment>settings</comment>
+        <translation>Enviar eventos de uso anónimos</translation>
+    </message>
+    <message>
+        <source>Look for updates once a day</source>
+        <comment>settings</comment>
+        <translation>Buscar actualizaciones una vez al día</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <comment>settings</comment>
+        <translation>Idioma:</translation>
+    </message>
+    <message>
+        <source>From the next start on.</source>
+        <comment>settings, language</comment>
+        <translation>A partir del próximo inicio.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right ones</comment>
+        <translation>No hay ninguna salida llamada «%@»; ¿quería decir «%@»?</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes a video and an output file, videos and --folder, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«plan» admite un vídeo y un archivo de salida, vídeos y --folder, o solo --info.</translation>
+    </message>
+    <message>
+        <source>--overwrite and --skip-existing exclude each other.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--overwrite y --skip-existing se excluyen mutuamente.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; is no name for &quot;%@&quot;, which makes .%@ files.</source>
+        <comment>Command line: name of a result, name of an output, its extension</comment>
+        <translation>«%@» no es un nombre válido para «%@», que crea archivos .%@.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; needs a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>«probe» necesita un archivo.</translation>
+    </message>
+    <message>
+        <source>--jobs takes a number, --shard two such as 2/8.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--jobs admite un número; --shard, dos, como 2/8.</translation>
+    </message>
+    <message>
+        <source>Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help: command formats</comment>
+        <translation>Enumera las salidas que admite --to: dispositivos, formatos y calidades MP4.</translation>
+    </message>
+    <message>
+        <source>Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).</source>
+        <comment>Help: command probe</comment>
+        <translation>Describe vídeos. Con --json: todo lo que la herramienta dice de ellos (info), la duración (duration, seconds) y el tamaño de la portada o null (cover).</translation>
+    </message>
+    <message>
+        <source>Prints the tool&apos;s command line, quoted for a shell, without running it. --to all prints one for each output.</source>
+        <comment>Help: command plan</comment>
+        <translation>Muestra la línea de comandos de la herramienta, entrecomillada para un intérprete de comandos, sin ejecutarla. --to all muestra una para cada salida.</translation>
+    </message>
+    <message>
+        <source>Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.</source>
+        <comment>Help: command convert</comment>
+        <translation>Convierte vídeos. Ctrl-C cancela y no deja ningún archivo a medias. Un nombre que empieza con un guion va después de --.</translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <comment>Help of the command</comment>
+        <translation>Uso: %@</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N stopped by signal N (130 after Ctrl-C). With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the command</comment>
+        <translation>Estado de salida: 0 correcto, 1 una conversión falló o su resultado no está completo, 2 uso incorrecto, 3 vídeo rechazado, 4 destino rechazado, 5 falta una herramienta, 128 + N detenido por la señal N (130 tras Ctrl-C). Con varios vídeos, es el del primero que no se convirtió.</translation>
+    </message>
+    <message>
+        <source>the output: one of those that &apos;formats&apos; lists, or an extension</source>
+        <comment>Help: option --to</comment>
+        <translation>la salida: una de las que enumera «formats» o una extensión</translation>
+    </message>
+    <message>
+        <source>the file to write</source>
+        <comment>Help: option --output</comment>
+        <translation>el archivo en el que escribir</translation>
+    </message>
+    <message>
+        <source>the folder to write to; the files get the videos&apos; names</source>
+        <comment>Help: option --folder</comment>
+        <translation>la carpeta en la que escribir; los archivos reciben los nombres de los vídeos</translation>
+    </message>
+    <message>
+        <source>takes all videos and music in a folder and below, and keeps its tree</source>
+        <comment>Help: option --recursive</comment>
+        <translation>toma todos los vídeos y la música de una carpeta y sus subcarpetas, y conserva su estructura</translation>
+    </message>
+    <message>
+        <source>takes the names in a file, one a line; - is standard input</source>
+        <comment>Help: option --files-from</comment>
+        <translation>toma los nombres de un archivo, uno por línea; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>names in that file end with a null character, as after find -print0</source>
+        <comment>Help: option --null</comment>
+        <translation>los nombres de ese archivo terminan en un carácter nulo, como con find -print0</translation>
+    </message>
+    <message>
+        <source>converts N videos side by side; 0 stands for as many as suit the cores</source>
+        <comment>Help: option --jobs</comment>
+        <translation>convierte N vídeos a la vez; 0 equivale a tantos como convenga según los núcleos</translation>
+    </message>
+    <message>
+        <source>replaces files that exist; a video itself is never replaced</source>
+        <comment>Help: option --overwrite</comment>
+        <translation>reemplaza los archivos existentes; nunca el vídeo original</translation>
+    </message>
+    <message>
+        <source>leaves whole results that are newer than their videos alone, and makes cut ones again</source>
+        <comment>Help: option --skip-existing</comment>
+        <translation>no toca los resultados completos más recientes que sus vídeos y rehace los truncados</translation>
+    </message>
+    <message>
+        <source>takes the K-th of N parts of the videos; the parts depend on their names alone</source>
+        <comment>Help: option --shard</comment>
+        <translation>toma la parte K de las N en que se reparten los vídeos; el reparto depende solo de sus nombres</translation>
+    </message>
+    <message>
+        <source>takes a description saved by &apos;probe --json&apos; (- for standard input) and prints only the arguments that depend on it</source>
+        <comment>Help: option --info</comment>
+        <translation>toma una descripción guardada con «probe --json» (- para la entrada estándar) y muestra solo los argumentos que dependen de ella</translation>
+    </message>
+    <message>
+        <source>prints failures only</source>
+        <comment>Help: option --quiet</comment>
+        <translation>muestra solo los fallos</translation>
+    </message>
+    <message>
+        <source>prints JSON; &apos;convert&apos; prints one object a line</source>
+        <comment>Help: option --json</comment>
+        <translation>muestra JSON; «convert» muestra un objeto por línea</translation>
+    </message>
+    <message>
+        <source>prints diagnostics and the tool&apos;s full output to standard error</source>
+        <comment>Help: option --verbose</comment>
+        <translation>muestra en el error estándar diagnósticos y todo lo que dice la herramienta</translation>
+    </message>
+    <message>
+        <source>prints this help</source>
+        <comment>Help: option --help</comment>
+        <translation>muestra esta ayuda</translation>
+    </message>
+    <message>
+        <source>prints the version</source>
+        <comment>Help: option --version</comment>
+        <translation>muestra la versión</translation>
+    </message>
+    <message>
+        <source>%d of %d</source>
+        <comment>Number of videos that are done, and of all</comment>
+        <translation>%d de %d</translation>
+    </message>
+    <message>
+        <source>%@: %@ is there already</source>
+        <comment>Video, file that was made of it in an earlier run</comment>
+        <translation>%@: %@ ya existe</translation>
+    </message>
+    <message>
+        <source>The list of videos can&apos;t be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>No se puede leer la lista de vídeos.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it may not be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>La carpeta no existe o no se permite leerla.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El nombre del destino no puede representarse como texto. Elija otro.</translation>
+    </message>
+    <message>
+        <source>The tool can&apos;t examine videos: %@</source>
+        <comment>Why no video can be converted; the tool&apos;s own words follow</comment>
+        <translation>La herramienta no puede analizar vídeos: %@</translation>
+    </message>
+    <message>
+        <source>The tool needed more memory, threads or files than any video should.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>La herramienta necesitó más memoria, hilos o archivos de los que debería requerir cualquier vídeo.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the cover picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Esta salida no admite la portada.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold a picture of odd width or height.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Esta salida no admite imágenes de anchura o altura impar.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Esta salida no admite el sonido del vídeo.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Esta salida no admite la imagen del vídeo.</translation>
+    </message>
+    <message>
+        <source>Drop to convert</source>
+        <comment>over the window, while a file is dragged</comment>
+        <translation>Suelte para convertir</translation>
+    </message>
+    <message>
+        <source>One video at a time: wait for the end of this one</source>
+        <comment>over the window, while a file is dragged that it can&apos;t take now</comment>
+        <translation>Un vídeo a la vez: espere a que termine este</translation>
+    </message>
+    <message>
+        <source>Only files can be dropped here</source>
+        <comment>over the window, while something else than a file is dragged</comment>
+        <translation>Aquí solo se pueden soltar archivos</translation>
+    </message>
+    <message>
+        <source>Next: “%@”</source>
+        <comment>name of a video that came while another one is converted</comment>
+        <translation>Siguiente: «%@»</translation>
+    </message>
+    <message>
+        <source>Examining “%@”</source>
+        <comment>name of a video</comment>
+        <translation>Analizando «%@»</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>time left of a conversion, such as 1m 30s</comment>
+        <translation>quedan %@</translation>
+    </message>
+    <message>
+        <source>%@ – %@</source>
+        <comment>window title while converting: percentage and time left, program name</comment>
+        <translation>%@ – %@</translation>
+    </message>
+    <message>
+        <source>The video has no sound</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>El vídeo no tiene sonido</translation>
+    </message>
+    <message>
+        <source>The video has no picture</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>El vídeo no tiene imagen</translation>
+    </message>
+    <message>
+        <source>Drag the result from here into a folder or a mail</source>
+        <comment>tool tip of the picture</comment>
+        <translation>Arrastre el resultado desde aquí a una carpeta o un correo</translation>
+    </message>
+    <message>
+        <source>Open “%@” again</source>
+        <comment>with the name of the last video</comment>
+        <translation>Volver a abrir «%@»</translation>
+    </message>
+    <message>
+        <source>One video is converted at a time here. Left out: %d</source>
+        <comment>several videos were dropped, with the number of the others</comment>
+        <translation>Aquí se convierte un vídeo a la vez. Omitidos: %d</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <comment>copies a command line that converts several videos</comment>
+        <translation>Copiar comando</translation>
+    </message>
+    <message>
+        <source>The first try could not work, so this is a second one in another way.</source>
+        <comment>while converting</comment>
+        <translation>El primer intento no podía funcionar; se está probando de otra manera.</translation>
+    </message>
+    <message>
+        <source>Try another format</source>
+        <comment>after a conversion that failed</comment>
+        <translation>Probar otro formato</translation>
+    </message>
+    <message>
+        <source>Show the log</source>
+        <comment>what the tool said in a conversion that failed</comment>
+        <translation>Mostrar el registro</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <comment>a command line is on the clipboard now</comment>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Copies the sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copia el sonido en segundos</translation>
+    </message>
+    <message>
+        <source>Encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Recodifica el sonido</translation>
+    </message>
+    <message>
+        <source>Copies the picture, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copia la imagen en segundos</translation>
+    </message>
+    <message>
+        <source>Copies picture and sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copia la imagen y el sonido en segundos</translation>
+    </message>
+    <message>
+        <source>Copies the picture, encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copia la imagen, recodifica el sonido</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Recodifica la imagen</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew, copies the sound</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Recodifica la imagen, copia el sonido</translation>
+    </message>
+    <message>
+        <source>Encodes picture and sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Recodifica la imagen y el sonido</translation>
+    </message>
+    <message>
+        <source>Copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copiando el sonido</translation>
+    </message>
+    <message>
+        <source>Encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Codificando el sonido</translation>
+    </message>
+    <message>
+        <source>Copying the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copiando la imagen</translation>
+    </message>
+    <message>
+        <source>Copying picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copiando la imagen y el sonido</translation>
+    </message>
+    <message>
+        <source>Copying the picture, encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copiando la imagen, codificando el sonido</translation>
+    </message>
+    <message>
+        <source>Encoding the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Codificando la imagen</translation>
+    </message>
+    <message>
+        <source>Encoding the picture, copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Codificando la imagen, copiando el sonido</translation>
+    </message>
+    <message>
+        <source>Encoding picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Codificando la imagen y el sonido</translation>
+    </message>
+    <message>
+        <source>Scales to %d × %d</source>
+        <comment>What an entry of the format menu does: width, height</comment>
+        <translation>Redimensiona a %d × %d</translation>
+    </message>
+    <message>
+        <source>%d × %d</source>
+        <comment>width and height of a picture</comment>
+        <translation>%d × %d</translation>
+    </message>
+    <message>
+        <source>The result will take about %@.</source>
+        <comment>in the save panel, with a size such as 12.3 MB</comment>
+        <translation>El resultado ocupará aproximadamente %@.</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>update dialog, button</comment>
+        <translation>Omitir esta versión</translation>
+    </message>
+    <message>
+        <source>Get it where you got Video Converter from.</source>
+        <comment>update dialog, when neither a download nor a web site is known</comment>
+        <translation>Consígala donde obtuvo Video Converter.</translation>
     </message>
 </context>
 <context>
@@ -899,6 +1197,18 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>&amp;About Video Converter</source>
         <translation>&amp;Acerca de Video Converter</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Open the result in its player</source>
+        <translation>Abrir el resultado en su reproductor</translation>
+    </message>
+    <message>
+        <source>Convert as &amp;Last Time</source>
+        <translation>Convertir como la ú&amp;ltima vez</translation>
     </message>
 </context>
 </TS>

@@ -29,11 +29,6 @@
         <translation>Saisissez «&#xa0;video-converter-cli --help&#xa0;» pour plus d’informations.</translation>
     </message>
     <message>
-        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
-        <comment>Command line: wrong value of --to, and the nearest right one</comment>
-        <translation>Le format de sortie «&#xa0;%@&#xa0;» n’existe pas. Vouliez-vous dire «&#xa0;%@&#xa0;»&#xa0;?</translation>
-    </message>
-    <message>
         <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
         <comment>Command line: wrong value of --to</comment>
         <translation>Le format de sortie «&#xa0;%@&#xa0;» n’existe pas. La commande «&#xa0;formats&#xa0;» en donne la liste.</translation>
@@ -52,16 +47,6 @@
         <source>&apos;formats&apos; takes no files.</source>
         <comment>Command line: wrong usage</comment>
         <translation>La commande «&#xa0;formats&#xa0;» n’accepte aucun fichier.</translation>
-    </message>
-    <message>
-        <source>&apos;probe&apos; takes exactly one file.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>La commande «&#xa0;probe&#xa0;» attend exactement un fichier.</translation>
-    </message>
-    <message>
-        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>La commande «&#xa0;plan&#xa0;» attend soit une vidéo et un fichier de sortie, soit --info seul.</translation>
     </message>
     <message>
         <source>There is no video to convert.</source>
@@ -187,34 +172,6 @@
         <source>MP4 quality</source>
         <comment>Heading of a group of outputs</comment>
         <translation>Qualité MP4</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli formats [--json]
-Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli formats [--json]
-Donne la liste des formats de sortie pour --to&#xa0;: appareils, formats et qualités MP4.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
-       video-converter-cli plan --to NAME --info JSONFILE [--json]
-Prints the tool&apos;s command line, quoted for a shell, without running it.
-
-  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
-                   (- for standard input) and prints only the arguments that depend
-                   on it
-  --json           prints one object: name of the output, list of arguments</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli plan --to NOM FICHIER SORTIE [--json]
-              video-converter-cli plan --to NOM --info FICHIER_JSON [--json]
-Affiche la ligne de commande de l’outil, protégée pour un shell, sans l’exécuter.
-
-  --to NOM             le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;», ou all
-  --info FICHIER_JSON  prend la description de la vidéo dans un fichier créé par
-                       «&#xa0;probe --json&#xa0;» (- pour l’entrée standard) et n’affiche que
-                       les arguments qui en dépendent
-  --json               affiche un objet&#xa0;: nom du format de sortie, liste d’arguments</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -482,16 +439,6 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Conversion d’une vidéo</translation>
     </message>
     <message>
-        <source>%d%% – %@</source>
-        <comment>window title while converting: percentage, program name</comment>
-        <translation>%d&#xa0;%% – %@</translation>
-    </message>
-    <message>
-        <source>%d%%, about %@ left</source>
-        <comment>percentage converted and time left, such as 1m 30s</comment>
-        <translation>%d&#xa0;%%, encore environ %@</translation>
-    </message>
-    <message>
         <source>%d%%</source>
         <comment>percentage converted</comment>
         <translation>%d&#xa0;%%</translation>
@@ -627,81 +574,6 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>L’encodeur n’accepte pas tels quels l’image ou le son de la vidéo.</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help explains a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos, the first one that was not converted decides.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli COMMANDE [OPTIONS]
-Convertit des vidéos.
-
-  formats   donne la liste des formats de sortie pour --to
-  probe     décrit une vidéo
-  plan      affiche la ligne de commande de l’outil sans l’exécuter
-  convert   convertit des vidéos
-
-Pour en savoir plus sur une commande&#xa0;: video-converter-cli COMMANDE --help.
-Options de toutes les commandes&#xa0;:
-  --json      affiche du JSON
-  --verbose   affiche les diagnostics et tous les messages de l’outil sur la sortie
-              d’erreur
-  -h, --help  affiche cette aide
-  --version   affiche la version
-
-Code de retour&#xa0;: 0 terminé, 1 échec d’une conversion, 2 mauvaise utilisation, 3 vidéo
-refusée, 4 destination refusée, 5 outils absents, 128 + N arrêt par le signal N
-(130 après Ctrl-C).
-Pour plusieurs vidéos, c’est celui de la première qui n’a pas été convertie.</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: everything that the tool reports (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli probe FICHIER [--json]
-Décrit une vidéo. Avec --json&#xa0;: tout ce qu’en dit l’outil (info), sa durée (duration,
-seconds) et la taille de sa vignette ou null (cover).</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>Utilisation&#xa0;: video-converter-cli convert --to NOM FICHIER -o SORTIE
-              video-converter-cli convert --to NOM FICHIER... -d DOSSIER
-Convertit des vidéos l’une après l’autre. Ctrl-C arrête sans laisser de fichier inachevé.
-
-  --to NOM              le format de sortie, l’un de ceux que liste «&#xa0;formats&#xa0;»
-  -o, --output SORTIE   le fichier à écrire
-  -d, --folder DOSSIER  le dossier où écrire&#xa0;; les fichiers prennent le nom des vidéos
-  --overwrite           remplace les fichiers existants, mais jamais une vidéo d’origine
-  --json                affiche un objet JSON par ligne
-
-Un nom qui commence par un tiret se place après --, par exemple&#xa0;:
-convert --to GIF -o a.gif -- -a.mov</translation>
-    </message>
-    <message>
         <source>The result can&apos;t go to standard output; name a file.</source>
         <comment>Command line: wrong usage</comment>
         <translation>Le résultat ne peut pas être envoyé sur la sortie standard ; indiquez un fichier.</translation>
@@ -755,6 +627,431 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>The older file was kept as “%@”.</source>
         <comment>Remark on a short result, with a file&apos;s name</comment>
         <translation>L’ancien fichier a été conservé sous le nom « %@ ».</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <comment>menu command</comment>
+        <translation>Paramètres…</translation>
+    </message>
+    <message>
+        <source>This build contacts nobody.</source>
+        <comment>settings</comment>
+        <translation>Cette version ne contacte aucun serveur.</translation>
+    </message>
+    <message>
+        <source>As on the desktop</source>
+        <comment>settings, choice of the language</comment>
+        <translation>Langue du système</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <comment>title of the settings&apos; window</comment>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Send anonymous usage events</source>
+        <comment>settings</comment>
+        <translation>Envoyer des données d’utilisation anonymes</translation>
+    </message>
+    <message>
+        <source>Look for updates once a day</source>
+        <comment>settings</comment>
+        <translation>Rechercher les mises à jour une fois par jour</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <comment>settings</comment>
+        <translation>Langue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>From the next start on.</source>
+        <comment>settings, language</comment>
+        <translation>Prend effet au prochain démarrage du programme.</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right ones</comment>
+        <translation>Le format de sortie «&#xa0;%@&#xa0;» n’existe pas. Vouliez-vous dire «&#xa0;%@&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes a video and an output file, videos and --folder, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;plan&#xa0;» attend une vidéo et un fichier de sortie, des vidéos et --folder, ou --info seul.</translation>
+    </message>
+    <message>
+        <source>--overwrite and --skip-existing exclude each other.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--overwrite et --skip-existing s’excluent mutuellement.</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; is no name for &quot;%@&quot;, which makes .%@ files.</source>
+        <comment>Command line: name of a result, name of an output, its extension</comment>
+        <translation>Le nom «&#xa0;%@&#xa0;» ne convient pas au format de sortie «&#xa0;%@&#xa0;», qui produit des fichiers .%@.</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; needs a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>La commande «&#xa0;probe&#xa0;» attend un fichier.</translation>
+    </message>
+    <message>
+        <source>--jobs takes a number, --shard two such as 2/8.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>L’option --jobs attend un nombre, --shard en attend deux, par exemple 2/8.</translation>
+    </message>
+    <message>
+        <source>Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help: command formats</comment>
+        <translation>Donne la liste des formats de sortie pour --to&#xa0;: appareils, formats et qualités MP4.</translation>
+    </message>
+    <message>
+        <source>Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).</source>
+        <comment>Help: command probe</comment>
+        <translation>Décrit des vidéos. Avec --json&#xa0;: tout ce qu’en dit l’outil (info), la durée (duration, seconds) et la taille de l’image de couverture ou null (cover).</translation>
+    </message>
+    <message>
+        <source>Prints the tool&apos;s command line, quoted for a shell, without running it. --to all prints one for each output.</source>
+        <comment>Help: command plan</comment>
+        <translation>Affiche la ligne de commande de l’outil, protégée pour un shell, sans l’exécuter. Avec --to all, en affiche une par format de sortie.</translation>
+    </message>
+    <message>
+        <source>Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.</source>
+        <comment>Help: command convert</comment>
+        <translation>Convertit des vidéos. Ctrl-C arrête sans laisser de fichier inachevé. Un nom qui commence par un tiret se place après --.</translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <comment>Help of the command</comment>
+        <translation>Utilisation&#xa0;: %@</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N stopped by signal N (130 after Ctrl-C). With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the command</comment>
+        <translation>Code de retour&#xa0;: 0 terminé, 1 échec d’une conversion ou résultat incomplet, 2 mauvaise utilisation, 3 vidéo refusée, 4 destination refusée, 5 outil absent, 128 + N arrêt par le signal N (130 après Ctrl-C). Pour plusieurs vidéos, c’est celui de la première qui n’a pas été convertie.</translation>
+    </message>
+    <message>
+        <source>the output: one of those that &apos;formats&apos; lists, or an extension</source>
+        <comment>Help: option --to</comment>
+        <translation>le format de sortie&#xa0;: l’un de ceux que liste «&#xa0;formats&#xa0;», ou une extension</translation>
+    </message>
+    <message>
+        <source>the file to write</source>
+        <comment>Help: option --output</comment>
+        <translation>le fichier à écrire</translation>
+    </message>
+    <message>
+        <source>the folder to write to; the files get the videos&apos; names</source>
+        <comment>Help: option --folder</comment>
+        <translation>le dossier où écrire&#xa0;; les fichiers prennent le nom des vidéos</translation>
+    </message>
+    <message>
+        <source>takes all videos and music in a folder and below, and keeps its tree</source>
+        <comment>Help: option --recursive</comment>
+        <translation>prend toutes les vidéos et la musique d’un dossier et de ses sous-dossiers, en conservant l’arborescence</translation>
+    </message>
+    <message>
+        <source>takes the names in a file, one a line; - is standard input</source>
+        <comment>Help: option --files-from</comment>
+        <translation>lit les noms dans un fichier, un par ligne&#xa0;; - désigne l’entrée standard</translation>
+    </message>
+    <message>
+        <source>names in that file end with a null character, as after find -print0</source>
+        <comment>Help: option --null</comment>
+        <translation>les noms de ce fichier se terminent par un caractère nul, comme avec find -print0</translation>
+    </message>
+    <message>
+        <source>converts N videos side by side; 0 stands for as many as suit the cores</source>
+        <comment>Help: option --jobs</comment>
+        <translation>convertit N vidéos en parallèle&#xa0;; 0 adapte ce nombre aux cœurs du processeur</translation>
+    </message>
+    <message>
+        <source>replaces files that exist; a video itself is never replaced</source>
+        <comment>Help: option --overwrite</comment>
+        <translation>remplace les fichiers existants, mais jamais une vidéo d’origine</translation>
+    </message>
+    <message>
+        <source>leaves whole results that are newer than their videos alone, and makes cut ones again</source>
+        <comment>Help: option --skip-existing</comment>
+        <translation>conserve les résultats complets plus récents que leur vidéo et refait ceux qui sont tronqués</translation>
+    </message>
+    <message>
+        <source>takes the K-th of N parts of the videos; the parts depend on their names alone</source>
+        <comment>Help: option --shard</comment>
+        <translation>prend la K-ième des N parts des vidéos&#xa0;; la répartition ne dépend que de leurs noms</translation>
+    </message>
+    <message>
+        <source>takes a description saved by &apos;probe --json&apos; (- for standard input) and prints only the arguments that depend on it</source>
+        <comment>Help: option --info</comment>
+        <translation>prend une description enregistrée par «&#xa0;probe --json&#xa0;» (- pour l’entrée standard) et n’affiche que les arguments qui en dépendent</translation>
+    </message>
+    <message>
+        <source>prints failures only</source>
+        <comment>Help: option --quiet</comment>
+        <translation>n’affiche que les échecs</translation>
+    </message>
+    <message>
+        <source>prints JSON; &apos;convert&apos; prints one object a line</source>
+        <comment>Help: option --json</comment>
+        <translation>affiche du JSON&#xa0;; «&#xa0;convert&#xa0;» affiche un objet par ligne</translation>
+    </message>
+    <message>
+        <source>prints diagnostics and the tool&apos;s full output to standard error</source>
+        <comment>Help: option --verbose</comment>
+        <translation>affiche les diagnostics et tous les messages de l’outil sur la sortie d’erreur</translation>
+    </message>
+    <message>
+        <source>prints this help</source>
+        <comment>Help: option --help</comment>
+        <translation>affiche cette aide</translation>
+    </message>
+    <message>
+        <source>prints the version</source>
+        <comment>Help: option --version</comment>
+        <translation>affiche la version</translation>
+    </message>
+    <message>
+        <source>%d of %d</source>
+        <comment>Number of videos that are done, and of all</comment>
+        <translation>%d sur %d</translation>
+    </message>
+    <message>
+        <source>%@: %@ is there already</source>
+        <comment>Video, file that was made of it in an earlier run</comment>
+        <translation>%@&#xa0;: %@ existe déjà</translation>
+    </message>
+    <message>
+        <source>The list of videos can&apos;t be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>Impossible de lire la liste des vidéos.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it may not be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>Ce dossier n’existe pas ou ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Le nom de la destination ne peut pas être représenté sous forme de texte. Veuillez en choisir un autre.</translation>
+    </message>
+    <message>
+        <source>The tool can&apos;t examine videos: %@</source>
+        <comment>Why no video can be converted; the tool&apos;s own words follow</comment>
+        <translation>L’outil ne peut pas analyser de vidéos&#xa0;: %@</translation>
+    </message>
+    <message>
+        <source>The tool needed more memory, threads or files than any video should.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>L’outil a demandé plus de mémoire, de threads ou de fichiers qu’une vidéo ne devrait en exiger.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the cover picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Ce format de sortie ne peut pas contenir l’image de couverture.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold a picture of odd width or height.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Ce format de sortie ne peut pas contenir une image de largeur ou de hauteur impaire.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Ce format de sortie ne peut pas contenir le son de la vidéo.</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>Ce format de sortie ne peut pas contenir l’image de la vidéo.</translation>
+    </message>
+    <message>
+        <source>Drop to convert</source>
+        <comment>over the window, while a file is dragged</comment>
+        <translation>Déposez pour convertir</translation>
+    </message>
+    <message>
+        <source>One video at a time: wait for the end of this one</source>
+        <comment>over the window, while a file is dragged that it can&apos;t take now</comment>
+        <translation>Une seule vidéo à la fois&#xa0;: attendez la fin de celle-ci</translation>
+    </message>
+    <message>
+        <source>Only files can be dropped here</source>
+        <comment>over the window, while something else than a file is dragged</comment>
+        <translation>Seuls des fichiers peuvent être déposés ici</translation>
+    </message>
+    <message>
+        <source>Next: “%@”</source>
+        <comment>name of a video that came while another one is converted</comment>
+        <translation>À suivre&#xa0;: «&#xa0;%@&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Examining “%@”</source>
+        <comment>name of a video</comment>
+        <translation>Analyse de «&#xa0;%@&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>time left of a conversion, such as 1m 30s</comment>
+        <translation>encore %@</translation>
+    </message>
+    <message>
+        <source>%@ – %@</source>
+        <comment>window title while converting: percentage and time left, program name</comment>
+        <translation>%@ – %@</translation>
+    </message>
+    <message>
+        <source>The video has no sound</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>La vidéo n’a pas de son</translation>
+    </message>
+    <message>
+        <source>The video has no picture</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>La vidéo n’a pas d’image</translation>
+    </message>
+    <message>
+        <source>Drag the result from here into a folder or a mail</source>
+        <comment>tool tip of the picture</comment>
+        <translation>Faites glisser le résultat d’ici vers un dossier ou un e-mail</translation>
+    </message>
+    <message>
+        <source>Open “%@” again</source>
+        <comment>with the name of the last video</comment>
+        <translation>Rouvrir «&#xa0;%@&#xa0;»</translation>
+    </message>
+    <message>
+        <source>One video is converted at a time here. Left out: %d</source>
+        <comment>several videos were dropped, with the number of the others</comment>
+        <translation>Une seule vidéo est convertie à la fois ici. Vidéos ignorées&#xa0;: %d</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <comment>copies a command line that converts several videos</comment>
+        <translation>Copier la commande</translation>
+    </message>
+    <message>
+        <source>The first try could not work, so this is a second one in another way.</source>
+        <comment>while converting</comment>
+        <translation>La première tentative ne pouvait pas aboutir&#xa0;; en voici une seconde, par une autre méthode.</translation>
+    </message>
+    <message>
+        <source>Try another format</source>
+        <comment>after a conversion that failed</comment>
+        <translation>Essayer un autre format</translation>
+    </message>
+    <message>
+        <source>Show the log</source>
+        <comment>what the tool said in a conversion that failed</comment>
+        <translation>Afficher le journal</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <comment>a command line is on the clipboard now</comment>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Copies the sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copie le son, en quelques secondes</translation>
+    </message>
+    <message>
+        <source>Encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Réencode le son</translation>
+    </message>
+    <message>
+        <source>Copies the picture, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copie l’image, en quelques secondes</translation>
+    </message>
+    <message>
+        <source>Copies picture and sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copie l’image et le son, en quelques secondes</translation>
+    </message>
+    <message>
+        <source>Copies the picture, encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Copie l’image, réencode le son</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Réencode l’image</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew, copies the sound</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Réencode l’image, copie le son</translation>
+    </message>
+    <message>
+        <source>Encodes picture and sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>Réencode l’image et le son</translation>
+    </message>
+    <message>
+        <source>Copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copie du son</translation>
+    </message>
+    <message>
+        <source>Encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Encodage du son</translation>
+    </message>
+    <message>
+        <source>Copying the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copie de l’image</translation>
+    </message>
+    <message>
+        <source>Copying picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copie de l’image et du son</translation>
+    </message>
+    <message>
+        <source>Copying the picture, encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Copie de l’image, encodage du son</translation>
+    </message>
+    <message>
+        <source>Encoding the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>Encodage de l’image</translation>
+    </message>
+    <message>
+        <source>Encoding the picture, copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Encodage de l’image, copie du son</translation>
+    </message>
+    <message>
+        <source>Encoding picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>Encodage de l’image et du son</translation>
+    </message>
+    <message>
+        <source>Scales to %d × %d</source>
+        <comment>What an entry of the format menu does: width, height</comment>
+        <translation>Redimensionne en %d&#xa0;×&#xa0;%d</translation>
+    </message>
+    <message>
+        <source>%d × %d</source>
+        <comment>width and height of a picture</comment>
+        <translation>%d&#xa0;×&#xa0;%d</translation>
+    </message>
+    <message>
+        <source>The result will take about %@.</source>
+        <comment>in the save panel, with a size such as 12.3 MB</comment>
+        <translation>Le résultat occupera environ %@.</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>update dialog, button</comment>
+        <translation>Ignorer cette version</translation>
+    </message>
+    <message>
+        <source>Get it where you got Video Converter from.</source>
+        <comment>update dialog, when neither a download nor a web site is known</comment>
+        <translation>Vous pouvez l’obtenir là où vous vous êtes procuré Video Converter.</translation>
     </message>
 </context>
 <context>
@@ -900,6 +1197,18 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>&amp;About Video Converter</source>
         <translation>À &amp;propos de Video Converter</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open the result in its player</source>
+        <translation>Ouvrir le résultat dans son lecteur</translation>
+    </message>
+    <message>
+        <source>Convert as &amp;Last Time</source>
+        <translation>Convertir comme la dernière &amp;fois</translation>
     </message>
 </context>
 </TS>

@@ -29,11 +29,6 @@
         <translation>「video-converter-cli --help」を参照してください。</translation>
     </message>
     <message>
-        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
-        <comment>Command line: wrong value of --to, and the nearest right one</comment>
-        <translation>「%@」という出力形式はありません。「%@」ではありませんか？</translation>
-    </message>
-    <message>
         <source>There is no output named &quot;%@&quot;; the command &apos;formats&apos; lists them.</source>
         <comment>Command line: wrong value of --to</comment>
         <translation>「%@」という出力形式はありません。コマンド「formats」で一覧を表示できます。</translation>
@@ -52,16 +47,6 @@
         <source>&apos;formats&apos; takes no files.</source>
         <comment>Command line: wrong usage</comment>
         <translation>「formats」にファイルは指定できません。</translation>
-    </message>
-    <message>
-        <source>&apos;probe&apos; takes exactly one file.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>「probe」にはファイルを 1 つだけ指定してください。</translation>
-    </message>
-    <message>
-        <source>&apos;plan&apos; takes either a video and an output file, or --info alone.</source>
-        <comment>Command line: wrong usage</comment>
-        <translation>「plan」には動画と出力ファイル、または --info だけを指定してください。</translation>
     </message>
     <message>
         <source>There is no video to convert.</source>
@@ -187,33 +172,6 @@
         <source>MP4 quality</source>
         <comment>Heading of a group of outputs</comment>
         <translation>MP4 の画質</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli formats [--json]
-Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli formats [--json]
---to に指定できる出力形式 (デバイス、形式、MP4 の画質) を一覧表示します。</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli plan --to NAME FILE OUT [--json]
-       video-converter-cli plan --to NAME --info JSONFILE [--json]
-Prints the tool&apos;s command line, quoted for a shell, without running it.
-
-  --to NAME        the output, one of those that &apos;formats&apos; lists, or all
-  --info JSONFILE  takes the video&apos;s description from a file made by &apos;probe --json&apos;
-                   (- for standard input) and prints only the arguments that depend
-                   on it
-  --json           prints one object: name of the output, list of arguments</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli plan --to 名前 ファイル 出力先 [--json]
-        video-converter-cli plan --to 名前 --info JSONファイル [--json]
-ツールのコマンドラインを、シェル用に引用符を付けて、実行せずに表示します。
-
-  --to 名前            「formats」の一覧にある出力形式の 1 つ、または all (すべて)
-  --info JSONファイル  「probe --json」で作ったファイル (- は標準入力) から動画の
-                       情報を読み取り、それによって決まる引数だけを表示します
-  --json               オブジェクトを 1 つ出力します (出力形式の名前と引数のリスト)</translation>
     </message>
     <message>
         <source>Cancelled.</source>
@@ -481,16 +439,6 @@ Are you sure you want to continue?</source>
         <translation>動画を変換中</translation>
     </message>
     <message>
-        <source>%d%% – %@</source>
-        <comment>window title while converting: percentage, program name</comment>
-        <translation>%d%% – %@</translation>
-    </message>
-    <message>
-        <source>%d%%, about %@ left</source>
-        <comment>percentage converted and time left, such as 1m 30s</comment>
-        <translation>%d%%、残り約%@</translation>
-    </message>
-    <message>
         <source>%d%%</source>
         <comment>percentage converted</comment>
         <translation>%d%%</translation>
@@ -626,79 +574,6 @@ Are you sure you want to continue?</source>
         <translation>エンコーダーはこの動画の映像または音声をそのままでは処理できません。</translation>
     </message>
     <message>
-        <source>Usage: video-converter-cli COMMAND [OPTIONS]
-Converts videos.
-
-  formats   lists the outputs that --to takes
-  probe     describes a video
-  plan      prints the tool&apos;s command line without running it
-  convert   converts videos
-
-video-converter-cli COMMAND --help explains a command. All commands take:
-  --json      prints JSON
-  --verbose   prints diagnostics and the tool&apos;s full output to standard error
-  -h, --help  prints this help
-  --version   prints the version
-
-Exit status: 0 done, 1 a conversion failed, 2 wrong usage, 3 video refused, 4 destination
-refused, 5 the tools are missing, 128 + N stopped by signal N (130 after Ctrl-C).
-With several videos, the first one that was not converted decides.</source>
-        <comment>Help of the headless command; words in capitals stand for what the user types</comment>
-        <translation>使い方: video-converter-cli コマンド [オプション]
-動画を変換します。
-
-  formats   --to に指定できる出力形式を一覧表示します
-  probe     動画の情報を表示します
-  plan      ツールのコマンドラインを実行せずに表示します
-  convert   動画を変換します
-
-各コマンドの詳細は「video-converter-cli コマンド --help」で表示されます。
-すべてのコマンドで使えるオプション:
-  --json      JSON で出力します
-  --verbose   診断情報とツールの全出力を標準エラー出力に表示します
-  -h, --help  このヘルプを表示します
-  --version   バージョンを表示します
-
-終了ステータス: 0 完了、1 変換に失敗、2 使い方の誤り、3 動画を拒否、4 保存先を拒否、
-5 ツールが見つからない、128 + N シグナル N により停止 (Ctrl-C の場合は 130)。
-動画が複数の場合は、変換されなかった最初の動画のステータスになります。</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli probe FILE [--json]
-Describes a video. With --json: everything that the tool reports (info), its length
-(duration, seconds) and the size of its cover picture or null (cover).</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli probe ファイル [--json]
-動画の情報を表示します。--json を付けると、ツールが返すすべての情報 (info)、
-再生時間 (duration、seconds)、カバー画像のサイズまたは null (cover) を出力します。</translation>
-    </message>
-    <message>
-        <source>Usage: video-converter-cli convert --to NAME FILE -o OUT
-       video-converter-cli convert --to NAME FILE... -d FOLDER
-Converts videos, one after the other. Ctrl-C cancels and leaves no unfinished file.
-
-  --to NAME            the output, one of those that &apos;formats&apos; lists
-  -o, --output OUT     the file to write
-  -d, --folder FOLDER  the folder to write to; the files get the videos&apos; names
-  --overwrite          replaces files that exist; a video itself is never replaced
-  --json               prints one JSON object a line
-
-A name that begins with a dash goes after --, as in: convert --to GIF -o a.gif -- -a.mov</source>
-        <comment>Help of the headless command</comment>
-        <translation>使い方: video-converter-cli convert --to 名前 ファイル -o 出力先
-        video-converter-cli convert --to 名前 ファイル... -d フォルダー
-動画を順番に変換します。Ctrl-C で停止し、未完成のファイルは残りません。
-
-  --to 名前                「formats」の一覧にある出力形式の 1 つ
-  -o, --output 出力先      書き出すファイル
-  -d, --folder フォルダー  書き出すフォルダー (ファイル名は動画の名前になります)
-  --overwrite              既存のファイルを置き換えます (元の動画は置き換えません)
-  --json                   1 行に 1 つの JSON オブジェクトを出力します
-
-ダッシュで始まる名前は -- の後に指定します。例:
-convert --to GIF -o a.gif -- -a.mov</translation>
-    </message>
-    <message>
         <source>The result can&apos;t go to standard output; name a file.</source>
         <comment>Command line: wrong usage</comment>
         <translation>結果を標準出力へ書き出すことはできません。ファイルを指定してください。</translation>
@@ -752,6 +627,431 @@ convert --to GIF -o a.gif -- -a.mov</translation>
         <source>The older file was kept as “%@”.</source>
         <comment>Remark on a short result, with a file&apos;s name</comment>
         <translation>以前のファイルは「%@」として残されました。</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <comment>menu command</comment>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>This build contacts nobody.</source>
+        <comment>settings</comment>
+        <translation>このビルドは外部と一切通信しません。</translation>
+    </message>
+    <message>
+        <source>As on the desktop</source>
+        <comment>settings, choice of the language</comment>
+        <translation>システムの設定に合わせる</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <comment>title of the settings&apos; window</comment>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Send anonymous usage events</source>
+        <comment>settings</comment>
+        <translation>匿名の利用状況を送信</translation>
+    </message>
+    <message>
+        <source>Look for updates once a day</source>
+        <comment>settings</comment>
+        <translation>アップデートを 1 日 1 回確認</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <comment>settings</comment>
+        <translation>言語:</translation>
+    </message>
+    <message>
+        <source>From the next start on.</source>
+        <comment>settings, language</comment>
+        <translation>次回の起動時から有効になります。</translation>
+    </message>
+    <message>
+        <source>There is no output named &quot;%@&quot;; did you mean &quot;%@&quot;?</source>
+        <comment>Command line: wrong value of --to, and the nearest right ones</comment>
+        <translation>「%@」という出力形式はありません。「%@」ではありませんか？</translation>
+    </message>
+    <message>
+        <source>&apos;plan&apos; takes a video and an output file, videos and --folder, or --info alone.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「plan」には動画と出力ファイル、動画と --folder、または --info だけを指定してください。</translation>
+    </message>
+    <message>
+        <source>--overwrite and --skip-existing exclude each other.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--overwrite と --skip-existing は同時に指定できません。</translation>
+    </message>
+    <message>
+        <source>&quot;%@&quot; is no name for &quot;%@&quot;, which makes .%@ files.</source>
+        <comment>Command line: name of a result, name of an output, its extension</comment>
+        <translation>「%@」は「%@」の出力ファイル名に使えません (作成されるのは .%@ ファイルです)。</translation>
+    </message>
+    <message>
+        <source>&apos;probe&apos; needs a file.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>「probe」にはファイルを指定してください。</translation>
+    </message>
+    <message>
+        <source>--jobs takes a number, --shard two such as 2/8.</source>
+        <comment>Command line: wrong usage</comment>
+        <translation>--jobs には数値を 1 つ、--shard には 2/8 のように 2 つ指定してください。</translation>
+    </message>
+    <message>
+        <source>Lists the outputs that --to takes: devices, formats and MP4 qualities.</source>
+        <comment>Help: command formats</comment>
+        <translation>--to に指定できる出力形式 (デバイス、形式、MP4 の画質) を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).</source>
+        <comment>Help: command probe</comment>
+        <translation>動画の情報を表示します。--json を付けると、ツールが返すすべての情報 (info)、再生時間 (duration、seconds)、カバー画像のサイズまたは null (cover) を出力します。</translation>
+    </message>
+    <message>
+        <source>Prints the tool&apos;s command line, quoted for a shell, without running it. --to all prints one for each output.</source>
+        <comment>Help: command plan</comment>
+        <translation>ツールのコマンドラインを、シェル用に引用符を付けて、実行せずに表示します。--to all を指定すると、出力形式ごとに 1 つずつ表示します。</translation>
+    </message>
+    <message>
+        <source>Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.</source>
+        <comment>Help: command convert</comment>
+        <translation>動画を変換します。Ctrl-C でキャンセルし、未完成のファイルは残りません。ダッシュで始まる名前は -- の後に指定します。</translation>
+    </message>
+    <message>
+        <source>Usage: %@</source>
+        <comment>Help of the command</comment>
+        <translation>使い方: %@</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong usage, 3 video refused, 4 destination refused, 5 a tool is missing, 128 + N stopped by signal N (130 after Ctrl-C). With several videos, the first one that was not converted decides.</source>
+        <comment>Help of the command</comment>
+        <translation>終了ステータス: 0 完了、1 変換に失敗または結果が不完全、2 使い方の誤り、3 動画を拒否、4 保存先を拒否、5 ツールが見つからない、128 + N シグナル N により停止 (Ctrl-C の場合は 130)。動画が複数の場合は、変換されなかった最初の動画のステータスになります。</translation>
+    </message>
+    <message>
+        <source>the output: one of those that &apos;formats&apos; lists, or an extension</source>
+        <comment>Help: option --to</comment>
+        <translation>出力形式 (「formats」の一覧にある 1 つ、または拡張子)</translation>
+    </message>
+    <message>
+        <source>the file to write</source>
+        <comment>Help: option --output</comment>
+        <translation>書き出すファイル</translation>
+    </message>
+    <message>
+        <source>the folder to write to; the files get the videos&apos; names</source>
+        <comment>Help: option --folder</comment>
+        <translation>書き出すフォルダー (ファイル名は動画の名前になります)</translation>
+    </message>
+    <message>
+        <source>takes all videos and music in a folder and below, and keeps its tree</source>
+        <comment>Help: option --recursive</comment>
+        <translation>フォルダー以下のすべての動画と音楽を対象とし、フォルダー構成を保ちます</translation>
+    </message>
+    <message>
+        <source>takes the names in a file, one a line; - is standard input</source>
+        <comment>Help: option --files-from</comment>
+        <translation>ファイルから名前を 1 行に 1 つずつ読み取ります (- は標準入力)</translation>
+    </message>
+    <message>
+        <source>names in that file end with a null character, as after find -print0</source>
+        <comment>Help: option --null</comment>
+        <translation>そのファイル内の名前を、find -print0 の出力のようにヌル文字で区切ります</translation>
+    </message>
+    <message>
+        <source>converts N videos side by side; 0 stands for as many as suit the cores</source>
+        <comment>Help: option --jobs</comment>
+        <translation>N 個の動画を並行して変換します (0 はコア数に合わせます)</translation>
+    </message>
+    <message>
+        <source>replaces files that exist; a video itself is never replaced</source>
+        <comment>Help: option --overwrite</comment>
+        <translation>既存のファイルを置き換えます (元の動画は置き換えません)</translation>
+    </message>
+    <message>
+        <source>leaves whole results that are newer than their videos alone, and makes cut ones again</source>
+        <comment>Help: option --skip-existing</comment>
+        <translation>元の動画より新しい完全な結果はそのまま残し、途中で切れた結果は作り直します</translation>
+    </message>
+    <message>
+        <source>takes the K-th of N parts of the videos; the parts depend on their names alone</source>
+        <comment>Help: option --shard</comment>
+        <translation>動画を N 個に分けたうちの K 番目を処理します (分け方は名前だけで決まります)</translation>
+    </message>
+    <message>
+        <source>takes a description saved by &apos;probe --json&apos; (- for standard input) and prints only the arguments that depend on it</source>
+        <comment>Help: option --info</comment>
+        <translation>「probe --json」で保存した情報 (- は標準入力) を読み取り、それによって決まる引数だけを表示します</translation>
+    </message>
+    <message>
+        <source>prints failures only</source>
+        <comment>Help: option --quiet</comment>
+        <translation>失敗だけを表示します</translation>
+    </message>
+    <message>
+        <source>prints JSON; &apos;convert&apos; prints one object a line</source>
+        <comment>Help: option --json</comment>
+        <translation>JSON で出力します (「convert」は 1 行に 1 つのオブジェクトを出力)</translation>
+    </message>
+    <message>
+        <source>prints diagnostics and the tool&apos;s full output to standard error</source>
+        <comment>Help: option --verbose</comment>
+        <translation>診断情報とツールの全出力を標準エラー出力に表示します</translation>
+    </message>
+    <message>
+        <source>prints this help</source>
+        <comment>Help: option --help</comment>
+        <translation>このヘルプを表示します</translation>
+    </message>
+    <message>
+        <source>prints the version</source>
+        <comment>Help: option --version</comment>
+        <translation>バージョンを表示します</translation>
+    </message>
+    <message>
+        <source>%d of %d</source>
+        <comment>Number of videos that are done, and of all</comment>
+        <translation>%d / %d</translation>
+    </message>
+    <message>
+        <source>%@: %@ is there already</source>
+        <comment>Video, file that was made of it in an earlier run</comment>
+        <translation>%@: %@ はすでにあります</translation>
+    </message>
+    <message>
+        <source>The list of videos can&apos;t be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>動画の一覧を読み取れません。</translation>
+    </message>
+    <message>
+        <source>There is no such folder, or it may not be read.</source>
+        <comment>Why videos can&apos;t be converted</comment>
+        <translation>フォルダーがないか、読み取りが許可されていません。</translation>
+    </message>
+    <message>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先の名前をテキストとして表せません。別の名前を指定してください。</translation>
+    </message>
+    <message>
+        <source>The tool can&apos;t examine videos: %@</source>
+        <comment>Why no video can be converted; the tool&apos;s own words follow</comment>
+        <translation>ツールで動画を解析できません: %@</translation>
+    </message>
+    <message>
+        <source>The tool needed more memory, threads or files than any video should.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>ツールが、動画の処理に必要な範囲を超えるメモリー、スレッド、またはファイルを使おうとしました。</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the cover picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>この出力形式にはカバー画像を含められません。</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold a picture of odd width or height.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>この出力形式は、幅または高さが奇数の映像に対応していません。</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s sound.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>この出力形式にはこの動画の音声を含められません。</translation>
+    </message>
+    <message>
+        <source>This output can&apos;t hold the video&apos;s picture.</source>
+        <comment>Why a conversion failed</comment>
+        <translation>この出力形式にはこの動画の映像を含められません。</translation>
+    </message>
+    <message>
+        <source>Drop to convert</source>
+        <comment>over the window, while a file is dragged</comment>
+        <translation>ドロップして変換</translation>
+    </message>
+    <message>
+        <source>One video at a time: wait for the end of this one</source>
+        <comment>over the window, while a file is dragged that it can&apos;t take now</comment>
+        <translation>一度に変換できる動画は 1 つです。変換が終わるまでお待ちください</translation>
+    </message>
+    <message>
+        <source>Only files can be dropped here</source>
+        <comment>over the window, while something else than a file is dragged</comment>
+        <translation>ここにはファイルだけをドロップできます</translation>
+    </message>
+    <message>
+        <source>Next: “%@”</source>
+        <comment>name of a video that came while another one is converted</comment>
+        <translation>次: 「%@」</translation>
+    </message>
+    <message>
+        <source>Examining “%@”</source>
+        <comment>name of a video</comment>
+        <translation>「%@」を解析中</translation>
+    </message>
+    <message>
+        <source>%@ left</source>
+        <comment>time left of a conversion, such as 1m 30s</comment>
+        <translation>残り%@</translation>
+    </message>
+    <message>
+        <source>%@ – %@</source>
+        <comment>window title while converting: percentage and time left, program name</comment>
+        <translation>%@ – %@</translation>
+    </message>
+    <message>
+        <source>The video has no sound</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>動画に音声がありません</translation>
+    </message>
+    <message>
+        <source>The video has no picture</source>
+        <comment>why an entry of the format menu is not offered</comment>
+        <translation>動画に映像がありません</translation>
+    </message>
+    <message>
+        <source>Drag the result from here into a folder or a mail</source>
+        <comment>tool tip of the picture</comment>
+        <translation>変換結果をここからフォルダーやメールにドラッグできます</translation>
+    </message>
+    <message>
+        <source>Open “%@” again</source>
+        <comment>with the name of the last video</comment>
+        <translation>「%@」をもう一度開く</translation>
+    </message>
+    <message>
+        <source>One video is converted at a time here. Left out: %d</source>
+        <comment>several videos were dropped, with the number of the others</comment>
+        <translation>ここで一度に変換できる動画は 1 つです。除外した動画: %d</translation>
+    </message>
+    <message>
+        <source>Copy command</source>
+        <comment>copies a command line that converts several videos</comment>
+        <translation>コマンドをコピー</translation>
+    </message>
+    <message>
+        <source>The first try could not work, so this is a second one in another way.</source>
+        <comment>while converting</comment>
+        <translation>最初の方法では変換できないため、別の方法で再試行しています。</translation>
+    </message>
+    <message>
+        <source>Try another format</source>
+        <comment>after a conversion that failed</comment>
+        <translation>別の形式を試す</translation>
+    </message>
+    <message>
+        <source>Show the log</source>
+        <comment>what the tool said in a conversion that failed</comment>
+        <translation>ログを表示</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <comment>a command line is on the clipboard now</comment>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>Copies the sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>音声をコピー (数秒で完了)</translation>
+    </message>
+    <message>
+        <source>Encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>音声を再エンコード</translation>
+    </message>
+    <message>
+        <source>Copies the picture, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像をコピー (数秒で完了)</translation>
+    </message>
+    <message>
+        <source>Copies picture and sound, takes seconds</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像と音声をコピー (数秒で完了)</translation>
+    </message>
+    <message>
+        <source>Copies the picture, encodes the sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像をコピー、音声を再エンコード</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像を再エンコード</translation>
+    </message>
+    <message>
+        <source>Encodes the picture anew, copies the sound</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像を再エンコード、音声をコピー</translation>
+    </message>
+    <message>
+        <source>Encodes picture and sound anew</source>
+        <comment>What an entry of the format menu does with the video</comment>
+        <translation>映像と音声を再エンコード</translation>
+    </message>
+    <message>
+        <source>Copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>音声をコピー中</translation>
+    </message>
+    <message>
+        <source>Encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>音声をエンコード中</translation>
+    </message>
+    <message>
+        <source>Copying the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像をコピー中</translation>
+    </message>
+    <message>
+        <source>Copying picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像と音声をコピー中</translation>
+    </message>
+    <message>
+        <source>Copying the picture, encoding the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像をコピー中、音声をエンコード中</translation>
+    </message>
+    <message>
+        <source>Encoding the picture</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像をエンコード中</translation>
+    </message>
+    <message>
+        <source>Encoding the picture, copying the sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像をエンコード中、音声をコピー中</translation>
+    </message>
+    <message>
+        <source>Encoding picture and sound</source>
+        <comment>What a running conversion does</comment>
+        <translation>映像と音声をエンコード中</translation>
+    </message>
+    <message>
+        <source>Scales to %d × %d</source>
+        <comment>What an entry of the format menu does: width, height</comment>
+        <translation>%d × %d にサイズ変更</translation>
+    </message>
+    <message>
+        <source>%d × %d</source>
+        <comment>width and height of a picture</comment>
+        <translation>%d × %d</translation>
+    </message>
+    <message>
+        <source>The result will take about %@.</source>
+        <comment>in the save panel, with a size such as 12.3 MB</comment>
+        <translation>変換結果のサイズは約 %@ です。</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>update dialog, button</comment>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+    <message>
+        <source>Get it where you got Video Converter from.</source>
+        <comment>update dialog, when neither a download nor a web site is known</comment>
+        <translation>Video Converter の入手元から入手してください。</translation>
     </message>
 </context>
 <context>
@@ -897,6 +1197,18 @@ convert --to GIF -o a.gif -- -a.mov</translation>
     <message>
         <source>&amp;About Video Converter</source>
         <translation>Video Converter について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open the result in its player</source>
+        <translation>変換結果をプレーヤーで開く</translation>
+    </message>
+    <message>
+        <source>Convert as &amp;Last Time</source>
+        <translation>前回と同じように変換(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -95,9 +95,9 @@ private Q_SLOTS:
         const auto process
             = m_command.start(u"convert --to MKV video.mp4 v2.mp4 last.mp4 -d . -j 2 --json"_s);
         QTRY_VERIFY_WITH_TIMEOUT(files().size() == 5, 10'000);
-        m_command.prepare(u"rm v2.mp4 last.mp4"_s);
         send(SIGTERM, process->processId());
         const Finished stopped = Command::wait(*process);
+        m_command.prepare(u"rm v2.mp4 last.mp4"_s);
         QCOMPARE(stopped.exitCode, 143);
         QVERIFY2(stopped.out.contains(u"\"cancelled\""_s), qPrintable(stopped.out));
         QVERIFY2(!stopped.out.contains(u"last.mp4"_s), qPrintable(stopped.out));

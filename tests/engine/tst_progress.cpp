@@ -75,7 +75,7 @@ private Q_SLOTS:
                     text += pieces[random.bounded(pieces.size())];
                 whole += text;
                 if (!expected)
-                    expected = ToolOutput::getFFMpegDuration(
+                    expected = ToolOutput::printedSeconds(
                         Pattern::matchRegex(whole, ToolOutput::regexprDuration(), 1));
                 scanner.append(text);
                 QVERIFY2(scanner.duration() == expected,

@@ -248,7 +248,9 @@ private Q_SLOTS:
         QCOMPARE(size("MKV", both + ',' + audio("aac", "48000", 2)), -1);
         QCOMPARE(size("AVI", both), -1);
         QCOMPARE(size("audio", both), 168000);
-        QCOMPARE(size("audio", audio("aac", "8000", 1)), -1);
+        QCOMPARE(size("audio", audio("aac", "44100", 1)), 84000);
+        QCOMPARE(size("audio", audio("aac", "48000", 6)), 168000);
+        QCOMPARE(size("audio", audio("aac", "32000", 2)), -1);
         QCOMPARE(size("GIF", both), -1);
     }
 

@@ -139,7 +139,7 @@ private Q_SLOTS:
 
     void result_isDraggedOut()
     {
-        QVERIFY(convert("reports:100:100", State::ConversionIsDone));
+        QVERIFY(convert("copy|reports:100:100", State::ConversionIsDone));
         DropTarget target;
         target.resize(100, 100);
         target.show();
@@ -210,7 +210,7 @@ private Q_SLOTS:
             { { u"ShowItems"_s, {} }, { u"Notify"_s, { 7U } }, { u"Inhibit"_s, { request } },
                 { u"Close"_s, {} }, { u"CloseNotification"_s, {} } });
         m_user.names << u"<b>a?b#100%d & \"x\" %41\u00fc"_s;
-        QVERIFY(convert("reports:100:15000|exit:0"));
+        QVERIFY(convert("copy|reports:100:15000|exit:0"));
         QWidget front;
         front.show();
         front.activateWindow();
@@ -241,7 +241,7 @@ private Q_SLOTS:
     void reveal_needsNoFileManager()
     {
         const DesktopStandIn desktop({ fileManager }, {});
-        QVERIFY(convert("reports:100:100", State::ConversionIsDone));
+        QVERIFY(convert("copy|reports:100:100", State::ConversionIsDone));
         QDesktopServices::setUrlHandler(u"file"_s, this, "openFolder");
         click("openFolderImageView");
         QTRY_COMPARE(m_opened, QStringList(m_folder->path()));

@@ -15,7 +15,7 @@ QString proposedName(const QString &sourcePath, const QString &folder, const QSt
     const auto pathOf = [&](const QString &candidate) {
         return Path::stringByAppendingPathComponent(folder, candidate + u'.' + ext);
     };
-    if (!isOneOf(pathOf(name), { sourcePath }))
+    if (!FileIds{ sourcePath }.contains(pathOf(name)))
         return name;
     QString numbered;
     int number = 2;

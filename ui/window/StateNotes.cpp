@@ -47,8 +47,8 @@ void StateNotes::dress()
         // Room for the ring around the text.
         link->setContentsMargins(line / 3, 0, line / 3, 0);
     }
-    m_outlets.openResultButton->setMinimumHeight(
-        m_outlets.openResultButton->sizeHint().height() + line / 2);
+    m_outlets.openResultButton->setMinimumSize(
+        m_outlets.openResultButton->sizeHint() + QSize(line, line / 2));
 }
 
 void StateNotes::connectControls()
