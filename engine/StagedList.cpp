@@ -42,7 +42,7 @@ int lockedFile(const QString &path, int flags)
 // One that is held, or lies on a disk that is not there now, stays on the list.
 bool isGoneOrRemoved(const QString &staged)
 {
-    const int held = lockedFile(staged, O_RDONLY);
+    const int held = lockedFile(staged, O_RDWR);
     if (held < 0)
         return errno == ENOENT && QFileInfo::exists(QFileInfo(staged).path());
     const bool isRemoved = QFile::remove(staged);
@@ -94,7 +94,8 @@ QString stagedPathOf(const QByteArray &entry)
 void removeAbandoned()
 {
     for (const QFileInfo &each : QDir(folder()).entryInfoList(QDir::Files | QDir::Hidden)) {
-        const int entry = lockedFile(each.filePath(), O_RDONLY);
+        // Over NFS only a file that is open for writing can be locked.
+        const int entry = lockedFile(each.filePath(), O_RDWR);
         if (entry < 0)
             continue;
         QFile file(each.filePath());
