@@ -12,7 +12,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMimeDatabase>
 #include <QThread>
 #include <QTimer>
 
@@ -33,10 +32,7 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
 {
     static const QSet<Reason> reasons{ Reason::NotMedia, Reason::NoDuration, Reason::TooShort,
         Reason::EmptyFile, Reason::NotRegularFile };
-    const QMimeType type
-        = QMimeDatabase().mimeTypeForFile(input.name, QMimeDatabase::MatchExtension);
-    return input.isFound && reasons.contains(outcome.reason)
-        && !type.name().startsWith(QLatin1StringView("video/"));
+    return input.isFound && reasons.contains(outcome.reason) && !isCalledMedia(input.name);
 }
 
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.

@@ -26,6 +26,13 @@ QString uniquePath(const QString &base, const QString &ext, QSet<QString> &taken
     return path;
 }
 
+/// Of what a folder holds, videos come before the pictures and notes that bear their names.
+std::pair<bool, QString> rank(const Input &input)
+{
+    const bool isOther = input.isFound && !isCalledMedia(input.name);
+    return { isOther, input.path };
+}
+
 /// The same on every machine, whatever else is in the list.
 bool isInShard(const QString &name, const Shard &shard)
 {
@@ -45,7 +52,7 @@ std::vector<ConversionItem> conversionItems(
     std::vector<std::size_t> order(inputs.size());
     std::iota(order.begin(), order.end(), 0);
     std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
-        return inputs[left].path < inputs[right].path;
+        return rank(inputs[left]) < rank(inputs[right]);
     });
     const QString ext = conversionDescriptor(entry.format).ext;
     const QString folder = absolutePath(line.folder + u'/');

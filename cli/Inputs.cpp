@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QMimeDatabase>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -107,6 +108,16 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
         return known.insert(input.path), known.size() == before;
     });
     return inputs;
+}
+
+bool isCalledMedia(const QString &name)
+{
+    const QString type
+        = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension).name();
+    // Lists of sound files and notes to play hold no sound themselves.
+    static const QStringList lists{ u"audio/x-mpegurl"_s, u"audio/x-scpls"_s, u"audio/x-ms-asx"_s,
+        u"audio/midi"_s };
+    return (type.startsWith("video/"_L1) || type.startsWith("audio/"_L1)) && !lists.contains(type);
 }
 
 QString absolutePath(const QString &path)

@@ -29,6 +29,9 @@ struct InputRefusal {
 /// what an earlier run made beside a video are left out. No file is opened. Thread: main.
 [[nodiscard]] std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line);
 
+/// The name's extension is that of videos or music. Others may be both too.
+[[nodiscard]] bool isCalledMedia(const QString &name);
+
 /// Made absolute, because the tools take a dash for an option and a colon for a protocol. A ".."
 /// may lead through a link and stays.
 [[nodiscard]] QString absolutePath(const QString &path);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <QUuid>
 
 #include <cerrno>
@@ -19,10 +20,11 @@ namespace {
 
 constexpr qint64 longestEntry = 8192;
 
+// One for each machine: where a home is shared, locks may count on their own machine only.
 QString folder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-        + u"/VideoConverter/staged files"_s;
+        + u"/VideoConverter/staged files/"_s + QSysInfo::machineHostName();
 }
 
 // A file that nobody else has locked; -1 when there is none.

@@ -19,11 +19,9 @@ StreamWork workOf(const QStringList &arguments, QLatin1StringView codecOption)
 
 bool holds(const JSON &conversionInfo, QLatin1StringView kind)
 {
-    for (const JSON &stream : conversionInfo[u"streams"_s].array()) {
-        if (stream[u"codec_type"_s].stringValue() == kind)
-            return true;
-    }
-    return false;
+    const std::vector<JSON> streams = conversionInfo[u"streams"_s].array();
+    return std::any_of(streams.begin(), streams.end(),
+        [&](const JSON &stream) { return stream[u"codec_type"_s].stringValue() == kind; });
 }
 
 /// "scale=960:-2" or "scale=-2:960": the tool makes the other side the nearest even number.

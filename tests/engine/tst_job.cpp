@@ -72,7 +72,7 @@ class TestJob : public QObject {
     [[nodiscard]] static QStringList entries()
     {
         return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-            + u"/VideoConverter/staged files"_s)
+            + u"/VideoConverter/staged files/"_s + QSysInfo::machineHostName())
             .entryList(QDir::Files);
     }
 
