@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/cli/Command.h"
 #include "tests/fixtures/Media.h"
+#include "tests/fixtures/ToolSwap.h"
 
 #include <QDir>
 #include <QFile>
@@ -134,6 +135,9 @@ private Q_SLOTS:
     /// Reads the events of the tests above against the page.
     void events_areAsDocumented()
     {
+        const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
+            R"(print:  Duration: 00:01:40.00, start: 0\n|copy|reports:100:15000)");
+        eventsOf(u"convert --to flv video.mp4 -o slow.flv --json"_s);
         QFile file(QStringLiteral(JSON_PAGE));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString page = QString::fromUtf8(file.readAll());
