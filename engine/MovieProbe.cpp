@@ -81,9 +81,11 @@ QStringList readPaths(const QString &path)
 JSON description(const QByteArray &output)
 {
     constexpr int mostBraces = 20;
+    const qsizetype end = output.lastIndexOf('}') + 1;
     qsizetype start = output.indexOf('{');
-    for (int i = 0; start >= 0 && i < mostBraces; ++i, start = output.indexOf('{', start + 1)) {
-        const JSON info = JSON::parse(output.sliced(start, output.lastIndexOf('}') + 1 - start));
+    for (int i = 0; start >= 0 && start < end && i < mostBraces;
+         ++i, start = output.indexOf('{', start + 1)) {
+        JSON info = JSON::parse(output.sliced(start, end - start));
         if (!info.value().isNull())
             return info;
     }

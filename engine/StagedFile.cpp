@@ -81,7 +81,7 @@ QString keepOlder(const QString &destPath)
     const QString base = extension.isEmpty() ? destPath : destPath.chopped(extension.size() + 1);
     for (int number = 1; number < 1000; ++number) {
         const QString mark = number == 1 ? u" (earlier)"_s : u" (earlier %1)"_s.arg(number);
-        const QString kept = extension.isEmpty() ? base + mark : base + mark + u'.' + extension;
+        QString kept = extension.isEmpty() ? base + mark : base + mark + u'.' + extension;
         // A second name first: at no moment is the older file without one.
         if (::link(bytesOf(destPath).constData(), bytesOf(kept).constData()) == 0)
             return kept;

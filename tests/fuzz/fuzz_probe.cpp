@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 /// A media information, all the way from the probe's bytes to a second try's argument list.
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
-    const JSON info = JSON::parse({ reinterpret_cast<const char *>(data), qsizetype(size) });
+    const JSON info
+        = MovieProbe::description({ reinterpret_cast<const char *>(data), qsizetype(size) });
     const JSON format = info[u"format"_s];
     // A length beyond 64 bits stops the program on purpose; the tool prints none above 2^63
     // microseconds.
