@@ -130,7 +130,8 @@ void Appearance::askDesktop()
         return;
     bus.connect(service, path, interface, u"SettingChanged"_s, this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
-    for (const QString &key : { schemeKey, contrastKey }) {
+    for (const QLatin1StringView each : { schemeKey, contrastKey }) {
+        const QString key = each;
         DesktopBus::call(bus, { service, path, interface, u"Read"_s },
             { QString(appearanceSpace), key },
             [self = QPointer(this), key](const QDBusMessage &answer) {
