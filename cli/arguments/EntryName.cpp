@@ -51,7 +51,7 @@ QStringList namesNear(const QString &text)
         sought << word;
     sought << text.first(std::min<qsizetype>(text.size(), 3));
     for (const QString &part : sought) {
-        const QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
+        QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
     }
