@@ -96,7 +96,7 @@ AppDelegate::AppDelegate()
     styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
     m_window.resize(
-        QSize(line * 36, line * 31).boundedTo(m_window.screen()->availableSize() * 0.9));
+        QSize(line * 36, line * 33).boundedTo(m_window.screen()->availableSize() * 0.9));
     m_memory = std::make_unique<WindowMemory>(m_window, *m_outlets->formatMenu);
     m_outlets->startOverButton->setMinimumSize(
         m_outlets->startOverButton->sizeHint() + QSize(line, line / 2));
