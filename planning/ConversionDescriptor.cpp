@@ -7,17 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::optional<ChosenStream> firstStream(const JSON &conversionInfo, QLatin1StringView kind)
-{
-    qint64 index = 0;
-    for (const JSON &item : conversionInfo[u"streams"_s].array()) {
-        if (item[u"codec_type"_s].stringValue() == kind)
-            return ChosenStream{ index, item };
-        ++index;
-    }
-    return std::nullopt;
-}
-
 QStringList mapArguments(const ChosenStream &stream)
 {
     return { u"-map"_s, u"0:"_s + QString::number(stream.index) };
@@ -70,6 +59,17 @@ QStringList audioArguments(const ConversionDescriptor &descriptor, const ChosenS
     return arguments << u"-ar"_s << rate << u"-ac"_s << QString::number(channels);
 }
 
+}
+
+std::optional<ChosenStream> firstStream(const JSON &conversionInfo, QLatin1StringView kind)
+{
+    qint64 index = 0;
+    for (const JSON &item : conversionInfo[u"streams"_s].array()) {
+        if (item[u"codec_type"_s].stringValue() == kind)
+            return ChosenStream{ index, item };
+        ++index;
+    }
+    return std::nullopt;
 }
 
 std::optional<ChosenStream> ConversionDescriptor::videoStream(const JSON &conversionInfo) const

@@ -14,6 +14,10 @@ struct ChosenStream {
     JSON item;
 };
 
+/// Of the streams of this kind, such as "video".
+[[nodiscard]] std::optional<ChosenStream> firstStream(
+    const JSON &conversionInfo, QLatin1StringView kind);
+
 /// Codecs and muxer of an output, and the tool's arguments made from them. Thread: any.
 struct ConversionDescriptor {
     QString ext;

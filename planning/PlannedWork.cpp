@@ -17,13 +17,6 @@ StreamWork workOf(const QStringList &arguments, QLatin1StringView codecOption)
     return arguments.value(option + 1) == "copy"_L1 ? StreamWork::Copied : StreamWork::Encoded;
 }
 
-bool holds(const JSON &conversionInfo, QLatin1StringView kind)
-{
-    const std::vector<JSON> streams = conversionInfo[u"streams"_s].array();
-    return std::any_of(streams.begin(), streams.end(),
-        [&](const JSON &stream) { return stream[u"codec_type"_s].stringValue() == kind; });
-}
-
 /// "scale=960:-2" or "scale=-2:960": the tool makes the other side the nearest even number.
 std::optional<QSize> scaledSize(const QStringList &arguments, const JSON &picture)
 {
@@ -41,6 +34,14 @@ std::optional<QSize> scaledSize(const QStringList &arguments, const JSON &pictur
     return first > 0 ? QSize(bound, other) : QSize(other, bound);
 }
 
+qint64 mp3Channels(const JSON &conversionInfo)
+{
+    const auto sound = firstStream(conversionInfo, "audio"_L1);
+    const qint64 rate = sound ? sound->item[u"sample_rate"_s].intValue() : 0;
+    const bool isUsual = rate == 44100 || rate == 48000;
+    return isUsual ? std::clamp<qint64>(sound->item[u"channels"_s].intValue(), 0, 2) : 0;
+}
+
 }
 
 PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInfo)
@@ -49,8 +50,9 @@ PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInf
     // Without named encoders the tool takes its own choice of streams and encodes them.
     if (descriptor.vCodec.isEmpty()) {
         const auto encoded = [&](ConversionFormat format, QLatin1StringView kind) {
-            return entry.format == format && holds(conversionInfo, kind) ? StreamWork::Encoded
-                                                                         : StreamWork::LeftOut;
+            return entry.format == format && firstStream(conversionInfo, kind)
+                ? StreamWork::Encoded
+                : StreamWork::LeftOut;
         };
         return { .picture = encoded(ConversionFormat::gif, "video"_L1),
             .sound = encoded(ConversionFormat::mp3, "audio"_L1) };
@@ -62,4 +64,24 @@ PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInf
     if (const auto picture = descriptor.videoStream(conversionInfo))
         work.scaledTo = scaledSize(arguments, picture->item);
     return work;
+}
+
+std::optional<qint64> expectedSize(const VideoConstraints &entry, const JSON &conversionInfo)
+{
+    // Of the MP3 encoder when it is told none, for a channel at the usual rates; it knows two
+    // channels.
+    constexpr double mp3BitRate = 64000;
+    const PlannedWork work = plannedWork(entry, conversionInfo);
+    const JSON format = conversionInfo[u"format"_s];
+    const double seconds = format[u"duration"_s].stringValue().toDouble();
+    const qint64 channels = mp3Channels(conversionInfo);
+    if (entry.format == ConversionFormat::mp3 && seconds > 0 && channels > 0)
+        return static_cast<qint64>(std::min(seconds, 1e9) * mp3BitRate * double(channels) / 8);
+    // A file that holds the copied streams only is as large as they are.
+    const std::size_t carried = std::size_t{ work.picture != StreamWork::LeftOut }
+        + std::size_t{ work.sound != StreamWork::LeftOut };
+    const qint64 size = format[u"size"_s].intValue();
+    if (!work.isCopy() || size <= 0 || conversionInfo[u"streams"_s].array().size() != carried)
+        return std::nullopt;
+    return size;
 }

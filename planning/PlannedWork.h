@@ -32,3 +32,7 @@ struct PlannedWork {
 };
 
 [[nodiscard]] PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInfo);
+
+/// About what a result takes. Units: bytes; absent where nobody can say. Thread: any.
+[[nodiscard]] std::optional<qint64> expectedSize(
+    const VideoConstraints &entry, const JSON &conversionInfo);

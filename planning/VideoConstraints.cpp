@@ -79,17 +79,12 @@ std::optional<VideoConstraints> videoConstraints(const QString &title, const QSt
     return std::nullopt;
 }
 
-QStringList entryNames(MenuGroup group)
+QStringList entryNames(std::optional<MenuGroup> group)
 {
     QStringList names;
     for (const EntryRow &row : entryRows) {
-        if (row.group == group)
+        if (row.group == group.value_or(row.group))
             names << row.name;
     }
     return names;
-}
-
-QStringList entryNames()
-{
-    return entryNames(Devices) + entryNames(Formats) + entryNames(Mp4Quality);
 }

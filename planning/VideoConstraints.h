@@ -11,33 +11,19 @@
 
 /// Bound on the output picture, or none. Units: pixels. Only the larger number bounds, namely the
 /// larger side.
-class VideoDimensionsConstraints {
-public:
+struct VideoDimensionsConstraints {
     struct Maximum {
         qint64 width;
         qint64 height;
         bool operator==(const Maximum &) const = default;
     };
 
-    constexpr static VideoDimensionsConstraints maximum(Maximum size)
-    {
-        return VideoDimensionsConstraints(size);
-    }
-    constexpr static VideoDimensionsConstraints unlimited()
-    {
-        return VideoDimensionsConstraints(std::nullopt);
-    }
+    std::optional<Maximum> bound;
 
-    [[nodiscard]] constexpr const std::optional<Maximum> &maximum() const { return m_maximum; }
+    constexpr static VideoDimensionsConstraints maximum(Maximum size) { return { size }; }
+    constexpr static VideoDimensionsConstraints unlimited() { return {}; }
+    [[nodiscard]] constexpr const std::optional<Maximum> &maximum() const { return bound; }
     bool operator==(const VideoDimensionsConstraints &) const = default;
-
-private:
-    constexpr explicit VideoDimensionsConstraints(std::optional<Maximum> maximum)
-        : m_maximum(maximum)
-    {
-    }
-
-    std::optional<Maximum> m_maximum;
 };
 
 /// Preset that a menu entry stands for; a label only.
@@ -63,5 +49,5 @@ struct VideoConstraints {
 
 enum class MenuGroup { Devices, Formats, Mp4Quality };
 
-[[nodiscard]] QStringList entryNames(MenuGroup group);
-[[nodiscard]] QStringList entryNames();
+/// In menu order; of all groups without one.
+[[nodiscard]] QStringList entryNames(std::optional<MenuGroup> group = {});

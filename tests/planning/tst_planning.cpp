@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "planning/ConversionDescriptor.h"
-#include "planning/ExpectedSize.h"
 #include "planning/PlannedWork.h"
 
 #include <QRandomGenerator>

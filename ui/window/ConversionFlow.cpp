@@ -6,7 +6,6 @@
 #include "engine/Destination.h"
 #include "engine/Remedy.h"
 #include "planning/ConversionDescriptor.h"
-#include "planning/ExpectedSize.h"
 #include "planning/PlannedWork.h"
 #include "support/Format.h"
 #include "support/Localized.h"
