@@ -65,13 +65,9 @@ public:
         : m_window(delegate.window())
         , m_updater(UpdaterSettings::configured())
         , m_dialogs(m_updater, m_window, QUrl(Configuration::siteUrl()))
-        , m_helpMenu(delegate, m_updater)
     {
         m_updater.setDelegate(&m_updaterDelegate);
-    }
-
-    void start()
-    {
+        addHelpMenu(delegate, m_updater);
         m_session.begin();
         m_crashReports.uploadPending(
             [this](const QString &report) { return askToSendReport(m_window, report); });
@@ -83,7 +79,6 @@ private:
     UpdaterDelegate m_updaterDelegate;
     Updater m_updater;
     UpdateDialogs m_dialogs;
-    HelpMenu m_helpMenu;
     CrashReports m_crashReports;
     SessionEvents m_session;
 };
@@ -104,7 +99,7 @@ int runWindow(SingleInstance &instance, const QStringList &videos)
     std::optional<Services> services;
     // Once the window stands: its first question may be one about an earlier crash, and the network
     // takes time to set up.
-    QTimer::singleShot(100ms, &delegate, [&] { services.emplace(delegate).start(); });
+    QTimer::singleShot(100ms, &delegate, [&] { services.emplace(delegate); });
     return QApplication::exec();
 }
 

@@ -8,16 +8,15 @@
 #include "support/dialogs/Static.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QPushButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int iconSize = 96;
-constexpr int narrowest = 240;
 
 QString programName()
 {
@@ -36,10 +35,9 @@ QString versionText()
         { version });
 }
 
-QLabel *addLabel(QVBoxLayout *layout, const QString &objectName, const QString &text = {})
+QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
 {
     auto *label = new QLabel(text);
-    label->setObjectName(objectName);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
@@ -58,43 +56,31 @@ AboutWindow::AboutWindow()
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 24);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addStrut(narrowest);
+    layout->addStrut(240);
 
-    auto *icon = addLabel(layout, u"icon"_s);
-    icon->setPixmap(QApplication::windowIcon().pixmap(iconSize));
+    auto *icon = addLabel(layout);
+    icon->setPixmap(QApplication::windowIcon().pixmap(96));
     icon->setHidden(QApplication::windowIcon().isNull());
 
-    QLabel *name = addLabel(layout, u"programName"_s, programName());
+    QLabel *name = addLabel(layout, programName());
     QFont font = name->font();
     font.setPointSizeF(font.pointSizeF() * 1.5);
     font.setBold(true);
     name->setFont(font);
 
-    QLabel *version = addLabel(layout, u"version"_s, versionText());
+    QLabel *version = addLabel(layout, versionText());
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    m_credits = addLabel(layout, u"credits"_s);
-    m_credits->hide();
-
-    m_website = new QPushButton(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Visit Web Site", "button of the about box")));
-    m_website->setObjectName(u"website"_s);
-    m_website->hide();
     layout->addSpacing(8);
-    layout->addWidget(m_website, 0, Qt::AlignCenter);
-    connect(m_website, &QPushButton::clicked, this, [this] { m_openWebsite(); });
-}
-
-void AboutWindow::setCredits(const QString &credits)
-{
-    m_credits->setText(credits);
-    m_credits->setHidden(credits.isEmpty());
-}
-
-void AboutWindow::setOpenWebsiteHandler(const std::function<void()> &handler)
-{
-    m_openWebsite = handler;
-    m_website->setVisible(handler && !Static::applicationURL().isEmpty());
+    if (!Static::applicationURL().isEmpty()) {
+        auto *website = new QPushButton(localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Visit Web Site", "button of the about box")));
+        layout->addWidget(website, 0, Qt::AlignCenter);
+        connect(website, &QPushButton::clicked, this, [] {
+            if (const QUrl site(Static::applicationURL()); site.isValid())
+                QDesktopServices::openUrl(site);
+        });
+    }
 }
 
 void AboutWindow::showWindow()

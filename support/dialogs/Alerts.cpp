@@ -4,10 +4,13 @@
 #include "support/Localized.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextBoundaryFinder>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -74,4 +77,20 @@ bool displayQuestion(const QString &question)
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;
+}
+
+QPlainTextEdit *makeLogWindow(QWidget *parent, const QString &title, const QByteArray &output)
+{
+    auto *dialog = new QDialog(parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    auto *text = new QPlainTextEdit(QString::fromUtf8(output).replace(u'\r', u'\n'));
+    text->setReadOnly(true);
+    text->setLayoutDirection(Qt::LeftToRight);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addWidget(text);
+    layout->addWidget(buttons);
+    return text;
 }

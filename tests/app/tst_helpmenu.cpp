@@ -29,7 +29,7 @@ private Q_SLOTS:
     void commands_actOnTheirClicks()
     {
         Updater updater({ .version = u"1.0"_s });
-        const HelpMenu menu(*m_delegate, updater);
+        addHelpMenu(*m_delegate, updater);
         QSignalSpy checks(&updater, &Updater::checked);
         QVERIFY(click(u"Check for Updates…"_s));
         QTRY_COMPARE(checks.size(), 1);
@@ -49,7 +49,7 @@ private Q_SLOTS:
     void settings_areKept()
     {
         Updater updater({ .version = u"1.0"_s });
-        const HelpMenu menu(*m_delegate, updater);
+        addHelpMenu(*m_delegate, updater);
         qputenv("VIDEO_CONVERTER_COLLECTOR_URL", "http://localhost:9");
         const auto change = [this](Qt::Key end) {
             QTest::keyClick(m_delegate->window(), Qt::Key_Comma, Qt::ControlModifier);

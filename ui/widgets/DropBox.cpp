@@ -9,8 +9,6 @@
 #include <QUrl>
 #include <QVariant>
 
-#include <algorithm>
-
 namespace {
 
 constexpr auto dragDropKey = "drag'n'drop";
@@ -41,12 +39,6 @@ DropBox::DropBox(QWidget *parent)
 {
 }
 
-void DropBox::registerForDraggedTypes(const QStringList &mimeTypes)
-{
-    m_draggedTypes = mimeTypes;
-    setAcceptDrops(!mimeTypes.isEmpty());
-}
-
 void DropBox::dragEnterEvent(QDragEnterEvent *event) { answer(event); }
 
 void DropBox::dragMoveEvent(QDragMoveEvent *event) { answer(event); }
@@ -63,10 +55,7 @@ void DropBox::dropEvent(QDropEvent *event)
 
 void DropBox::answer(QDropEvent *event)
 {
-    const QMimeData *dragged = event->mimeData();
-    const bool concerned = std::any_of(m_draggedTypes.cbegin(), m_draggedTypes.cend(),
-        [dragged](const QString &type) { return dragged->hasFormat(type); });
-    const bool holdsFiles = concerned && !localFiles(dragged).isEmpty();
+    const bool holdsFiles = !localFiles(event->mimeData()).isEmpty();
     const bool accepted = holdsFiles && allowDragDrop(this);
     event->setDropAction(accepted ? Qt::CopyAction : Qt::IgnoreAction);
     event->setAccepted(accepted);

@@ -22,9 +22,6 @@ class DropBox : public QFrame {
 public:
     explicit DropBox(QWidget *parent = nullptr);
 
-    /// Only drags that offer one of these MIME types are heard of at all.
-    void registerForDraggedTypes(const QStringList &mimeTypes);
-
 Q_SIGNALS:
     /// The data lives only during the call.
     void performDragOperation(const QMimeData *data);
@@ -38,6 +35,5 @@ protected:
 private:
     void answer(QDropEvent *event);
 
-    QStringList m_draggedTypes;
     DropVeil *m_veil;
 };

@@ -3,9 +3,9 @@
 
 #include "analytics/Analytics.h"
 #include "engine/Outcome.h"
-#include "planning/ConversionDescriptor.h"
 #include "planning/VideoConstraints.h"
 #include "support/Console.h"
+#include "support/Defaults.h"
 #include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
@@ -21,17 +21,13 @@
 #include "ui/window/FormatEntries.h"
 #include "ui/window/StateNotes.h"
 #include "ui/window/VideoWords.h"
-#include "ui/window/WindowClosing.h"
-#include "ui/window/WindowMemory.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QFileOpenEvent>
 #include <QMimeData>
 #include <QScreen>
-#include <QUrl>
 
 #include <algorithm>
 #include <tuple>
@@ -40,14 +36,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto fileNamesType = "text/uri-list"_L1;
+const QString placeKey = u"WindowPlace"_s;
 
 /// What is hidden keeps its place, so that nothing jumps when the state changes.
-void keepPlaces(const QWidget &area)
+void keepPlaces(const Ui::MainWindow &outlets)
 {
-    for (QWidget *view : area.findChildren<QWidget *>()) {
+    for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
         QSizePolicy policy = view->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
+        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
         view->setSizePolicy(policy);
     }
 }
@@ -60,17 +56,34 @@ void enlarge(QLabel *label, double factor)
     label->setFont(font);
 }
 
-void styleTexts(const Ui::MainWindow &outlets)
+void dress(const Ui::MainWindow &outlets, int line)
 {
+    keepPlaces(outlets);
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
-    outlets.openFromFolderLabel->setForegroundRole(QPalette::Link);
     outlets.refusalLabel->setForegroundRole(QPalette::PlaceholderText);
     QFont headingFont = outlets.formatMenu->font();
     headingFont.setBold(true);
     for (QAction *heading :
         { outlets.devicesHeading, outlets.formatsHeading, outlets.mp4QualityHeading })
         heading->setFont(headingFont);
+    for (QPushButton *button : { outlets.startOverButton, outlets.openResultButton })
+        button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
+    for (TextField *link : { outlets.openFromFolderLabel, outlets.againLabel,
+             outlets.anotherFormatLabel, outlets.logLabel, outlets.copyCommandLabel }) {
+        link->setForegroundRole(QPalette::Link);
+        Clickable::enable(link);
+        // Room for the ring around the text.
+        link->setContentsMargins(line / 3, 0, line / 3, 0);
+    }
+    outlets.openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
+    Clickable::enable(outlets.openFolderImageView);
+}
+
+void announce(QWidget *outlet)
+{
+    QAccessibleEvent event(outlet, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 }
@@ -85,26 +98,13 @@ AppDelegate::AppDelegate()
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
-    m_closing = std::make_unique<WindowClosing>(m_window, *m_conversion);
-    keepPlaces(*m_outlets->dropAcceptor);
-    for (QWidget *line : { static_cast<QWidget *>(m_outlets->remarksLabel),
-             static_cast<QWidget *>(m_outlets->keptLabel) }) {
-        QSizePolicy policy = line->sizePolicy();
-        policy.setRetainSizeWhenHidden(false);
-        line->setSizePolicy(policy);
-    }
-    styleTexts(*m_outlets);
     const int line = m_window.fontMetrics().height();
+    dress(*m_outlets, line);
+    FormatEntries::prepare(*m_outlets->formatMenu);
     m_window.resize(
         QSize(line * 36, line * 33).boundedTo(m_window.screen()->availableSize() * 0.9));
-    m_memory = std::make_unique<WindowMemory>(m_window, *m_outlets->formatMenu);
-    m_outlets->startOverButton->setMinimumSize(
-        m_outlets->startOverButton->sizeHint() + QSize(line, line / 2));
+    m_window.restoreGeometry(Defaults::value(placeKey).toByteArray());
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
-    Clickable::enable(m_outlets->openFromFolderLabel);
-    Clickable::enable(m_outlets->openFolderImageView);
-    // Room for the ring around the text.
-    m_outlets->openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
     m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
     connectOutlets();
     connectMenus();
@@ -113,9 +113,9 @@ AppDelegate::AppDelegate()
     qApp->installEventFilter(this);
 }
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate() { Defaults::setValue(placeKey, m_window.saveGeometry()); }
 
-QString AppDelegate::selectedFileExt() const { return m_intake->selectedFileExt(); }
+QString AppDelegate::selectedFileExt() const { return Path::pathExtension(processingFilePath()); }
 
 QString AppDelegate::processingFilePath() const { return m_intake->processingFilePath(); }
 
@@ -159,45 +159,40 @@ void AppDelegate::showIntake()
             m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
 }
 
-void AppDelegate::announce(QWidget *outlet) const
-{
-    QAccessibleEvent event(outlet, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
-}
-
 void AppDelegate::showStateInMenus()
 {
-    const bool takesFiles = allowDragDrop(m_outlets->dropAcceptor);
-    m_outlets->openAction->setEnabled(takesFiles);
-    m_outlets->pasteAction->setEnabled(takesFiles);
+    const Ui::MainWindow &outlets = *m_outlets;
+    const bool takesFiles = allowDragDrop(outlets.dropAcceptor);
+    outlets.openAction->setEnabled(takesFiles);
+    outlets.pasteAction->setEnabled(takesFiles);
     const bool offersFormats = m_uiState == WindowUIState::CoverIsSet;
-    m_outlets->formatMenu->menuAction()->setEnabled(offersFormats);
+    outlets.formatMenu->menuAction()->setEnabled(offersFormats);
     // It may stand open for the video before.
     if (!offersFormats)
-        m_outlets->formatMenu->hide();
-    m_outlets->repeatAction->setEnabled(offersFormats && m_outlets->formatMenu->defaultAction());
-    m_outlets->cancelAction->setEnabled(
+        outlets.formatMenu->hide();
+    outlets.repeatAction->setEnabled(offersFormats && outlets.formatMenu->defaultAction());
+    outlets.cancelAction->setEnabled(
         m_uiState == WindowUIState::Converting || m_uiState == WindowUIState::WaitingForCover);
-    m_outlets->revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
-    m_outlets->startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
+    outlets.revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
+    outlets.startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
 }
 
 void AppDelegate::connectOutlets()
 {
-    connect(m_outlets->dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
+    const Ui::MainWindow &outlets = *m_outlets;
+    FileIntake *intake = m_intake.get();
+    connect(outlets.dropAcceptor, &DropBox::performDragOperation, intake,
         &FileIntake::performDragOperation);
-    connect(m_outlets->openFromFolderLabel, &TextField::clicked, m_intake.get(),
-        &FileIntake::buttonPress);
-    connect(m_outlets->openFolderImageView, &ImageView::clicked, m_conversion.get(),
+    connect(outlets.openFromFolderLabel, &TextField::clicked, intake, &FileIntake::buttonPress);
+    connect(outlets.openFolderImageView, &ImageView::clicked, m_conversion.get(),
         &ConversionFlow::openFolder);
-    connect(m_outlets->cancelProgressImageView, &ImageView::clicked, this,
+    connect(outlets.cancelProgressImageView, &ImageView::clicked, this,
         &AppDelegate::cancelProgressPressed);
-    connect(m_outlets->cancelProgressButton, &QPushButton::clicked, this,
+    connect(outlets.cancelProgressButton, &QPushButton::clicked, this,
         &AppDelegate::cancelProgressPressed);
+    connect(outlets.stopExaminingButton, &QPushButton::clicked, intake, &FileIntake::cancel);
     connect(
-        m_outlets->stopExaminingButton, &QPushButton::clicked, m_intake.get(), &FileIntake::cancel);
-    connect(m_outlets->startOverButton, &QPushButton::clicked, this,
-        &AppDelegate::startOverButtonPressed);
+        outlets.startOverButton, &QPushButton::clicked, this, &AppDelegate::startOverButtonPressed);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
         if (m_uiState == WindowUIState::ConversionIsDone)
             m_conversion->openFolder();
@@ -209,20 +204,21 @@ void AppDelegate::connectOutlets()
 void AppDelegate::connectMenus()
 {
     const Ui::MainWindow &outlets = *m_outlets;
+    const auto onTrigger = [](const QAction *action, auto *receiver, auto slot) {
+        connect(action, &QAction::triggered, receiver, slot);
+    };
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
-    connect(outlets.repeatAction, &QAction::triggered, this,
-        [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
-    connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
-    connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
-    connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
-    connect(
-        outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
-    connect(
-        outlets.startOverAction, &QAction::triggered, this, &AppDelegate::startOverButtonPressed);
+    onTrigger(
+        outlets.repeatAction, this, [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
+    onTrigger(outlets.openAction, m_intake.get(), &FileIntake::buttonPress);
+    onTrigger(outlets.pasteAction, m_intake.get(), &FileIntake::paste);
+    onTrigger(outlets.cancelAction, this, &AppDelegate::cancelProgressPressed);
+    onTrigger(outlets.revealAction, m_conversion.get(), &ConversionFlow::openFolder);
+    onTrigger(outlets.startOverAction, this, &AppDelegate::startOverButtonPressed);
     outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
-    connect(outlets.quitAction, &QAction::triggered, &m_window, &QWidget::close);
-    connect(outlets.aboutAction, &QAction::triggered, this, &AppDelegate::showAboutWindow);
+    onTrigger(outlets.quitAction, &m_window, &QWidget::close);
+    onTrigger(outlets.aboutAction, this, &AppDelegate::showAboutWindow);
 }
 
 void AppDelegate::connectWork()
@@ -231,7 +227,7 @@ void AppDelegate::connectWork()
         m_outlets->examiningLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
                 { Path::lastPathComponent(path) }));
-        m_closing->stayOpen();
+        m_conversion->stayOpen();
         setUiState(WindowUIState::WaitingForCover);
     });
     connect(m_intake.get(), &FileIntake::cancelled, this,
@@ -269,19 +265,14 @@ void AppDelegate::connectWork()
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
             showRefusal(outcome);
     });
-    connect(m_conversion.get(), &ConversionFlow::ended, this, [this] {
-        m_closing->closeIfAsked();
-        showIntake();
-    });
+    connect(m_conversion.get(), &ConversionFlow::ended, this, &AppDelegate::showIntake);
 }
 
 void AppDelegate::applicationDidFinishLaunching()
 {
     Preferences::registerDefaults();
     setUiState(WindowUIState::InitialState);
-    m_outlets->dropAcceptor->registerForDraggedTypes({ fileNamesType });
-    m_outlets->movieCoverImageView->setAcceptDrops(false);
-    m_outlets->dragDropImageView->setAcceptDrops(false);
+    m_outlets->dropAcceptor->setAcceptDrops(true);
     Console::print(u"first launch date: "_s + Preferences::firstLaunchDate().toString(Qt::ISODate));
     if (Preferences::isFirstRun()) {
         Preferences::setFirstRun(false);
@@ -291,7 +282,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
-    m_closing->stayOpen();
+    m_conversion->stayOpen();
     if (!hasVisibleWindows || m_window.isMinimized())
         m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
@@ -303,7 +294,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &m_window && event->type() == QEvent::Close && !m_closing->mayCloseNow()) {
+    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion->mayCloseNow()) {
         event->ignore();
         return true;
     }
@@ -323,10 +314,6 @@ void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
     const QString &path = m_intake->processingFilePath();
     setUiState(WindowUIState::CoverIsSet);
     m_outlets->movieCoverImageView->setImage(cover);
-    const bool hasPicture = conversionDescriptor(ConversionFormat::mkv)
-                                .videoStream(*m_intake->processingInfo())
-                                .has_value();
-    m_outlets->movieCoverImageView->setArtwork(hasPicture ? QString() : u":/artwork/note.svg"_s);
     m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
     // A tool tip guesses whether it is mark-up; a file's name is none.
     m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
@@ -346,7 +333,7 @@ void AppDelegate::showRefusal(const Outcome &refusal)
     if (m_uiState != WindowUIState::InitialState)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
-    m_notes->stateChanged(m_uiState);
+    applyWindowUIState(*m_outlets, m_uiState);
     announce(m_outlets->refusalLabel);
 }
 
@@ -360,7 +347,7 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
 {
     if (m_uiState != WindowUIState::Converting && m_uiState != WindowUIState::ConversionIsDone) {
         setUiState(WindowUIState::Converting);
-        m_memory->entryWasUsed(m_chosenEntry);
+        FormatEntries::remember(*m_outlets->formatMenu, *m_chosenEntry);
     }
     m_outlets->progressBar->setBusy(fraction < 0);
     m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
@@ -381,17 +368,4 @@ void AppDelegate::startOverButtonPressed()
     setUiState(WindowUIState::InitialState);
 }
 
-void AppDelegate::showAboutWindow()
-{
-    AboutWindow &about = Static::aboutWindow();
-    if (!m_aboutWindowIsSet) {
-        m_aboutWindowIsSet = true;
-        about.setCredits({});
-        about.setOpenWebsiteHandler([] {
-            const QUrl site(Static::applicationURL());
-            if (site.isValid())
-                QDesktopServices::openUrl(site);
-        });
-    }
-    about.showWindow();
-}
+void AppDelegate::showAboutWindow() { Static::aboutWindow().showWindow(); }

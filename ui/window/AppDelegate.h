@@ -12,10 +12,7 @@ class ConversionFlow;
 class ConversionStatus;
 class FileIntake;
 class QAction;
-class QMimeData;
 class StateNotes;
-class WindowClosing;
-class WindowMemory;
 struct Outcome;
 
 namespace Ui {
@@ -59,7 +56,6 @@ private:
     void connectWork();
     void showIntake();
     void showStateInMenus();
-    void announce(QWidget *outlet) const;
     void fileWasExamined(const QImage &cover, const QString &duration);
     void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
@@ -73,10 +69,7 @@ private:
     std::unique_ptr<ConversionStatus> m_status;
     std::unique_ptr<FileIntake> m_intake;
     std::unique_ptr<ConversionFlow> m_conversion;
-    std::unique_ptr<WindowClosing> m_closing;
-    std::unique_ptr<WindowMemory> m_memory;
     std::unique_ptr<StateNotes> m_notes;
     QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;
-    bool m_aboutWindowIsSet = false;
 };

@@ -70,27 +70,20 @@ ConversionFlow::~ConversionFlow()
 
 void ConversionFlow::choose(const std::optional<VideoConstraints> &constraints)
 {
-    if (constraints && m_intake.processingInfo() && !isBlocked())
-        askForDestination({ *constraints, conversionDescriptor(constraints->format).ext });
-}
-
-void ConversionFlow::askForDestination(const Choice &choice)
-{
-    const QString &source = m_intake.processingFilePath();
+    if (!constraints || !m_intake.processingInfo() || isBlocked())
+        return;
+    const QString source = m_intake.processingFilePath();
     const QString folder = Path::stringByDeletingLastPathComponent(source);
+    const QString ext = conversionDescriptor(constraints->format).ext;
     runSaveToSheet(
-        &m_window, proposedName(source, saveFolder(folder), choice.ext), choice.ext,
-        [this, choice](const QString &destPath) { destinationWasChosen(choice, destPath); }, folder,
-        [&source = m_intake.processingFilePath()](
-            const QString &destPath) { return refusesSource(destPath, source); },
-        VideoWords::expectedSize(expectedSize(choice.constraints, *m_intake.processingInfo())));
-}
-
-void ConversionFlow::destinationWasChosen(const Choice &choice, const QString &destPath)
-{
-    Analytics::send(QString(), u"convert"_s, u"from_to"_s,
-        QString(Path::pathExtension(destPath) + u'_' + choice.constraints.destDevice));
-    startConversion(destPath, choice.constraints);
+        &m_window, proposedName(source, saveFolder(folder), ext), ext,
+        [this, entry = *constraints](const QString &destPath) {
+            Analytics::send(QString(), u"convert"_s, u"from_to"_s,
+                QString(Path::pathExtension(destPath) + u'_' + entry.destDevice));
+            startConversion(destPath, entry);
+        },
+        folder, [source](const QString &destPath) { return refusesSource(destPath, source); },
+        VideoWords::expectedSize(expectedSize(*constraints, *m_intake.processingInfo())));
 }
 
 void ConversionFlow::startConversion(const QString &destPath, const VideoConstraints &constraints)
@@ -109,8 +102,7 @@ void ConversionFlow::startConversion(const QString &destPath, const VideoConstra
             self->failWhileConverting(errmsg);
     });
     setProgress(m_run);
-    m_run->setEndHandler(
-        [self] { MainQueue::post([self] { self ? Q_EMIT self->ended() : void(); }); });
+    m_run->setEndHandler([self] { MainQueue::post([self] { self ? self->end() : void(); }); });
 }
 
 void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
@@ -123,18 +115,18 @@ void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
     m_progress = std::move(progress);
     if (!m_progress)
         return;
-    const std::shared_ptr<Progress> attached = m_progress;
-    const std::weak_ptr<Progress> object = attached;
+    const std::weak_ptr<Progress> object = m_progress;
     const QPointer<ConversionFlow> self(this);
     // Both run on whatever thread changes the object, so they only pass the news on.
     for (const Progress::Key key : overalProgressObservedKeys) {
-        attached->addObserver(key, context, [self, context, object](Progress::Key) {
-            MainQueue::post([self, context, object] {
+        m_progress->addObserver(key, context, [self, object](Progress::Key) {
+            MainQueue::post([self, object] {
                 if (self)
-                    self->observeValueForKeyPath(context, object);
+                    self->observeValueForKeyPath(object);
             });
         });
     }
+    const std::shared_ptr<Progress> attached = m_progress;
     updateProgress();
     attached->setCancellationHandler([self, object] {
         if (!MainQueue::isMainThread())
@@ -144,12 +136,10 @@ void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
     });
 }
 
-void ConversionFlow::observeValueForKeyPath(
-    Progress::Context context, const std::weak_ptr<Progress> &object)
+void ConversionFlow::observeValueForKeyPath(const std::weak_ptr<Progress> &object)
 {
     // News of an object that is no longer attached may still wait in the queue.
-    const std::shared_ptr<Progress> sender = object.lock();
-    if (context == &m_convertObservationContext && sender && sender == m_progress)
+    if (m_progress && object.lock() == m_progress)
         updateProgress();
 }
 
@@ -193,7 +183,30 @@ void ConversionFlow::failWhileConverting(const std::optional<QString> &errmsg)
     --m_alerts;
     if (kindOf(outcome) == OutcomeKind::Incomplete)
         Q_EMIT finished(outcome);
+    end();
+}
+
+void ConversionFlow::end()
+{
+    if (m_closesAfterRun && m_alerts == 0 && !isRunning())
+        m_window.close();
     Q_EMIT ended();
+}
+
+bool ConversionFlow::mayCloseNow()
+{
+    if (m_progress && isRunning() && !cancelIfConfirmed())
+        return false;
+    // A cancelled run still removes its partial result.
+    m_closesAfterRun = isRunning();
+    m_window.setEnabled(!m_closesAfterRun);
+    return !m_closesAfterRun;
+}
+
+void ConversionFlow::stayOpen()
+{
+    m_closesAfterRun = false;
+    m_window.setEnabled(true);
 }
 
 bool ConversionFlow::cancelIfConfirmed()

@@ -12,7 +12,6 @@
 #include <optional>
 
 class FileIntake;
-class QAction;
 struct PlannedWork;
 
 /// Leads from the choice of an output to its result.
@@ -20,11 +19,6 @@ class ConversionFlow : public QObject {
     Q_OBJECT
 
 public:
-    struct Choice {
-        VideoConstraints constraints;
-        QString ext;
-    };
-
     ConversionFlow(QMainWindow &window, const FileIntake &intake);
     ~ConversionFlow() override;
     Q_DISABLE_COPY_MOVE(ConversionFlow)
@@ -32,16 +26,15 @@ public:
     void choose(const std::optional<VideoConstraints> &constraints);
     /// Asks, then cancels the conversion that is shown. True when it is cancelled.
     bool cancelIfConfirmed();
+    /// Asks while a conversion runs. The window then closes by itself, when the tool is gone.
+    [[nodiscard]] bool mayCloseNow();
+    void stayOpen();
     void openFolder() const;
     /// In the program that the desktop has for it.
     void openResult() const;
 
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
     [[nodiscard]] QByteArray lastToolOutput() const;
-    [[nodiscard]] bool isShown() const { return m_progress != nullptr; }
-    /// A tool runs, also while it writes its last bytes or its partial result is removed.
-    [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
-    [[nodiscard]] bool isOver() const { return m_alerts == 0 && m_run && m_run->isEnded(); }
 
 Q_SIGNALS:
     /// What the tool is started for; a second time where the first try could not work.
@@ -57,15 +50,16 @@ Q_SIGNALS:
     void ended();
 
 private:
-    void askForDestination(const Choice &choice);
-    void destinationWasChosen(const Choice &choice, const QString &destPath);
     void startConversion(const QString &destPath, const VideoConstraints &constraints);
     void setProgress(std::shared_ptr<Progress> progress);
-    void observeValueForKeyPath(Progress::Context context, const std::weak_ptr<Progress> &object);
+    void observeValueForKeyPath(const std::weak_ptr<Progress> &object);
     void updateProgress();
     void announceWork(Remedy remedy);
     void progressWasCancelled(const std::weak_ptr<Progress> &object);
     void failWhileConverting(const std::optional<QString> &errmsg);
+    void end();
+    /// A tool runs, also while it writes its last bytes or its partial result is removed.
+    [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
 
     QMainWindow &m_window;
     const FileIntake &m_intake;
@@ -79,4 +73,5 @@ private:
     /// The last conversion, also after its bar is full: the tool may still write the last bytes.
     std::shared_ptr<Progress> m_run;
     int m_alerts = 0;
+    bool m_closesAfterRun = false;
 };

@@ -92,9 +92,7 @@ void ConversionStatus::setProgress(double fraction, qint64 seconds)
 QString ConversionStatus::timeLeft()
 {
     m_timeLeft.add(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
-    const auto estimate = m_timeLeft.estimate();
-    const auto left
-        = m_steadyTime.shown(estimate ? std::optional<qint64>(estimate->count()) : std::nullopt);
+    const auto left = m_steadyTime.shown(m_timeLeft.estimate());
     return left ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%@ left",
                                 "time left of a conversion, such as 1m 30s"),
                { DurationInfo(*left).toString() })

@@ -4,7 +4,6 @@
 #include "analytics/Analytics.h"
 #include "engine/FFMPEG.h"
 #include "engine/Outcome.h"
-#include "support/Path.h"
 #include "support/dialogs/Sheets.h"
 #include "ui/widgets/DropBox.h"
 
@@ -35,7 +34,7 @@ void FileIntake::takeFiles(const QStringList &paths)
         return;
     }
     m_kept = paths.constFirst();
-    Q_EMIT kept(m_kept);
+    Q_EMIT kept();
 }
 
 void FileIntake::takeKept()
@@ -85,7 +84,6 @@ void FileIntake::processFile(const QString &path)
                 return;
             self->m_processingInfo = json;
             self->m_processingFilePath = path;
-            self->m_selectedFileExt = Path::pathExtension(path);
             self->m_cover = cover;
             self->m_duration = duration;
             Q_EMIT self->examined(cover, duration);

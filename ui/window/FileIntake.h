@@ -38,15 +38,13 @@ public:
 
     /// The file that was examined last, with what the tool says about it.
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
-    [[nodiscard]] const QString &selectedFileExt() const { return m_selectedFileExt; }
     [[nodiscard]] const std::optional<JSON> &processingInfo() const { return m_processingInfo; }
-
     /// What came together with that file.
     [[nodiscard]] const QStringList &leftOut() const { return m_leftOut; }
 
 Q_SIGNALS:
     void started(const QString &path);
-    void kept(const QString &path);
+    void kept();
     void cancelled();
     void examined(const QImage &cover, const QString &duration);
     void refused(const Outcome &refusal);
@@ -58,7 +56,6 @@ private:
     bool m_isOpen = false;
     QString m_kept;
     QString m_processingFilePath;
-    QString m_selectedFileExt;
     std::optional<JSON> m_processingInfo;
     QStringList m_leftOut;
     QImage m_cover;

@@ -3,18 +3,90 @@
 
 #include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
+#include "support/Defaults.h"
 #include "support/Localized.h"
 #include "ui/window/VideoWords.h"
 #include "ui_MainWindow.h"
 
+#include <QAccessibleObject>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString lastEntryKey = u"LastEntry"_s;
+constexpr auto describedKey = "isDescribed";
+
 /// Some desktops mark a letter of a menu item as its key.
 QString title(const QAction *item) { return item->text().remove(u'&'); }
+
+/// An entry for screen readers, which tells its tool tip as its description; the toolkit's own
+/// tells no description.
+class EntryInterface : public QAccessibleObject, public QAccessibleActionInterface {
+public:
+    using QAccessibleObject::QAccessibleObject;
+
+    QAccessibleInterface *parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(menu());
+    }
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name)
+            return title(entry());
+        return kind == QAccessible::Description ? entry()->toolTip() : QString();
+    }
+    QRect rect() const override
+    {
+        const QRect place = menu() ? menu()->actionGeometry(entry()) : QRect();
+        return menu() ? QRect(menu()->mapToGlobal(place.topLeft()), place.size()) : place;
+    }
+    QAccessible::Role role() const override { return QAccessible::MenuItem; }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.focusable = true;
+        state.disabled = !entry()->isEnabled();
+        state.invisible = !menu() || !menu()->isVisible();
+        state.focused = menu() && menu()->activeAction() == entry();
+        state.hotTracked = state.focused;
+        return state;
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface
+            ? static_cast<QAccessibleActionInterface *>(this)
+            : nullptr;
+    }
+    QStringList actionNames() const override { return { pressAction() }; }
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            entry()->trigger();
+    }
+    QStringList keyBindingsForAction(const QString &) const override { return {}; }
+
+private:
+    [[nodiscard]] QAction *entry() const { return static_cast<QAction *>(object()); }
+    [[nodiscard]] QMenu *menu() const
+    {
+        for (QObject *place : entry()->associatedObjects()) {
+            if (auto *menu = qobject_cast<QMenu *>(place))
+                return menu;
+        }
+        return nullptr;
+    }
+};
+
+QAccessibleInterface *entryInterface(const QString &, QObject *object)
+{
+    const bool isEntry = object->property(describedKey).toBool();
+    return isEntry ? new EntryInterface(object) : nullptr;
+}
 
 /// Two arrow heads, as on the key that winds forward.
 QIcon quickMark(const QMenu &menu)
@@ -52,6 +124,24 @@ QString reasonAgainst(const PlannedWork &work, const VideoConstraints &constrain
 
 }
 
+void FormatEntries::prepare(QMenu &menu)
+{
+    menu.setToolTipsVisible(true);
+    const QString last = Defaults::value(lastEntryKey).toString();
+    for (QAction *entry : menu.actions()) {
+        entry->setProperty(describedKey, !entry->isSeparator());
+        if (!last.isEmpty() && entry->objectName() == last)
+            menu.setDefaultAction(entry);
+    }
+    QAccessible::installFactory(entryInterface);
+}
+
+void FormatEntries::remember(QMenu &menu, QAction &entry)
+{
+    menu.setDefaultAction(&entry);
+    Defaults::setValue(lastEntryKey, entry.objectName());
+}
+
 std::optional<VideoConstraints> FormatEntries::constraintsOf(
     const Ui::MainWindow &outlets, const QAction *item)
 {
@@ -62,7 +152,6 @@ std::optional<VideoConstraints> FormatEntries::constraintsOf(
 void FormatEntries::mark(const Ui::MainWindow &outlets, const JSON &info)
 {
     const QIcon quick = quickMark(*outlets.formatMenu);
-    outlets.formatMenu->setToolTipsVisible(true);
     for (QAction *item : outlets.formatMenu->actions()) {
         const auto constraints = constraintsOf(outlets, item);
         if (!constraints)

@@ -7,6 +7,7 @@
 
 class JSON;
 class QAction;
+class QMenu;
 
 namespace Ui {
 class MainWindow;
@@ -15,6 +16,10 @@ class MainWindow;
 /// The entries of the format menu.
 namespace FormatEntries {
 
+/// Lets screen readers read what they do; the one that was used last is the menu's default.
+void prepare(QMenu &menu);
+/// As the one that was used last, also at the next start.
+void remember(QMenu &menu, QAction &entry);
 [[nodiscard]] std::optional<VideoConstraints> constraintsOf(
     const Ui::MainWindow &outlets, const QAction *item);
 /// Marks the entries that only copy this video, says of each what it does, and disables those that

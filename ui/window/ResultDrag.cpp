@@ -26,10 +26,7 @@ void ResultDrag::setPath(const QString &path)
             ? QString()
             : localized(QT_TRANSLATE_NOOP3("Localizable",
                 "Drag the result from here into a folder or a mail", "tool tip of the picture")));
-    if (path.isEmpty())
-        m_picture->unsetCursor();
-    else
-        m_picture->setCursor(Qt::OpenHandCursor);
+    m_picture->setCursor(path.isEmpty() ? Qt::ArrowCursor : Qt::OpenHandCursor);
 }
 
 bool ResultDrag::eventFilter(QObject *watched, QEvent *event)

@@ -8,10 +8,9 @@
 #include "support/Format.h"
 #include "support/Path.h"
 #include "support/ShellQuoted.h"
+#include "support/dialogs/Alerts.h"
 #include "support/dialogs/Sheets.h"
-#include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
-#include "ui/window/EntryInterface.h"
 #include "ui/window/FileIntake.h"
 #include "ui/window/FormatEntries.h"
 #include "ui/window/VideoWords.h"
@@ -19,7 +18,6 @@
 
 #include <QClipboard>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 
@@ -30,28 +28,6 @@ StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFl
     , m_intake(intake)
     , m_conversion(conversion)
     , m_drag(outlets.movieCoverImageView, outlets.dropAcceptor)
-{
-    EntryInterface::describe(*m_outlets.formatMenu);
-    dress();
-    connectControls();
-    connectWork();
-}
-
-void StateNotes::dress()
-{
-    const int line = m_outlets.againLabel->fontMetrics().height();
-    for (TextField *link : { m_outlets.againLabel, m_outlets.anotherFormatLabel, m_outlets.logLabel,
-             m_outlets.copyCommandLabel }) {
-        link->setForegroundRole(QPalette::Link);
-        Clickable::enable(link);
-        // Room for the ring around the text.
-        link->setContentsMargins(line / 3, 0, line / 3, 0);
-    }
-    m_outlets.openResultButton->setMinimumSize(
-        m_outlets.openResultButton->sizeHint() + QSize(line, line / 2));
-}
-
-void StateNotes::connectControls()
 {
     connect(m_outlets.againLabel, &TextField::clicked, &m_intake,
         [this] { m_intake.processFile(m_intake.processingFilePath()); });
@@ -67,10 +43,6 @@ void StateNotes::connectControls()
         if (const auto &info = m_intake.processingInfo())
             FormatEntries::mark(m_outlets, *info);
     });
-}
-
-void StateNotes::connectWork()
-{
     connect(&m_intake, &FileIntake::started, this, &StateNotes::clearFailure);
     connect(&m_intake, &FileIntake::examined, this, &StateNotes::videoWasExamined);
     connect(&m_conversion, &ConversionFlow::workChanged, this, &StateNotes::workChanged);
@@ -80,7 +52,6 @@ void StateNotes::connectWork()
 
 void StateNotes::stateChanged(WindowUIState state)
 {
-    applyAddedControls(m_outlets, state);
     m_drag.setPath(
         state == WindowUIState::ConversionIsDone ? m_conversion.resultFilePath() : QString());
 }
@@ -91,9 +62,8 @@ void StateNotes::videoWasExamined()
     const JSON &info = *m_intake.processingInfo();
     FormatEntries::mark(m_outlets, info);
     // The note stands for sound only, not for a picture that can't be had.
-    const ConversionDescriptor descriptor = conversionDescriptor(ConversionFormat::mp4);
     m_outlets.movieCoverImageView->setArtwork(
-        descriptor.videoStream(info) ? QString() : u":/artwork/note.svg"_s);
+        firstStream(info, "video"_L1) ? QString() : u":/artwork/note.svg"_s);
     const QString facts = VideoWords::factsOf(info);
     m_outlets.factsLabel->setText(facts);
     m_outlets.factsLabel->setToolTip(facts);
@@ -120,7 +90,7 @@ void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
                 "Second try, in another way: the first one could not work.", "while converting"))
             : QString());
     if (isSecondTry)
-        applyAddedControls(m_outlets, WindowUIState::Converting);
+        applyWindowUIState(m_outlets, WindowUIState::Converting);
 }
 
 void StateNotes::resultIsThere(const Outcome &outcome)
@@ -171,18 +141,10 @@ void StateNotes::copyCommand()
 
 void StateNotes::showLog()
 {
-    auto *dialog = new QDialog(m_outlets.dropAcceptor->window());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(m_outlets.movieNameLabel->text());
-    auto *text = new QPlainTextEdit(
-        QString::fromUtf8(m_conversion.lastToolOutput()).replace(u'\r', u'\n'), dialog);
-    text->setReadOnly(true);
-    text->setLayoutDirection(Qt::LeftToRight);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
-    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    auto *layout = new QVBoxLayout(dialog);
-    layout->addWidget(text);
-    layout->addWidget(buttons);
-    dialog->resize(dialog->parentWidget()->size());
+    QWidget *window = m_outlets.dropAcceptor->window();
+    auto *dialog = qobject_cast<QDialog *>(
+        makeLogWindow(window, m_outlets.movieNameLabel->text(), m_conversion.lastToolOutput())
+            ->window());
+    dialog->resize(window->size());
     dialog->open();
 }

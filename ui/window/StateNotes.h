@@ -22,9 +22,6 @@ public:
     void stateChanged(WindowUIState state);
 
 private:
-    void dress();
-    void connectControls();
-    void connectWork();
     void videoWasExamined();
     void workChanged(const PlannedWork &work, bool isSecondTry);
     void resultIsThere(const Outcome &outcome);

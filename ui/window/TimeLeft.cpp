@@ -13,11 +13,10 @@ constexpr TimeLeft::Duration shortestSpan = 3s;
 /// The speeds of the older and the newer half differ by no more than this part.
 constexpr double tolerance = 0.35;
 
-std::chrono::seconds rounded(double milliseconds)
+qint64 rounded(double seconds)
 {
-    const double seconds = milliseconds / 1000;
     const double step = seconds < 60 ? 5 : seconds < 600 ? 10 : 60;
-    return std::chrono::seconds(std::llround(std::ceil(seconds / step) * step));
+    return std::llround(std::ceil(seconds / step) * step);
 }
 
 }
@@ -31,14 +30,7 @@ void TimeLeft::add(Duration elapsed, double fraction)
         m_samples.pop_front();
 }
 
-double TimeLeft::remainingMilliseconds(const Sample &from, const Sample &to) const
-{
-    const double speed
-        = (to.fraction - from.fraction) / double((to.elapsed - from.elapsed).count());
-    return (1 - m_samples.back().fraction) / speed;
-}
-
-std::optional<std::chrono::seconds> TimeLeft::estimate() const
+std::optional<qint64> TimeLeft::estimate() const
 {
     if (m_samples.size() < 5 || m_samples.back().fraction >= 1)
         return std::nullopt;
@@ -47,11 +39,13 @@ std::optional<std::chrono::seconds> TimeLeft::estimate() const
     const Sample &last = m_samples.back();
     if (last.elapsed - first.elapsed < shortestSpan)
         return std::nullopt;
-    const double older = remainingMilliseconds(first, middle);
-    const double newer = remainingMilliseconds(middle, last);
-    const double whole = remainingMilliseconds(first, last);
+    const auto remainingSeconds = [&last](const Sample &from, const Sample &to) {
+        const double milliseconds = double((to.elapsed - from.elapsed).count());
+        return (1 - last.fraction) * milliseconds / (to.fraction - from.fraction) / 1000;
+    };
+    const double older = remainingSeconds(first, middle);
+    const double newer = remainingSeconds(middle, last);
+    const double whole = remainingSeconds(first, last);
     const bool steady = std::isfinite(whole) && std::abs(older - newer) <= tolerance * whole;
-    if (!steady || whole > 1000.0 * 3600 * 100)
-        return std::nullopt;
-    return rounded(whole);
+    return steady && whole <= 3600.0 * 100 ? std::optional(rounded(whole)) : std::nullopt;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
 #include <chrono>
 #include <deque>
 #include <optional>
@@ -12,15 +14,14 @@ public:
 
     /// Notes the fraction of 0 to 1 reached; one that falls starts the estimate anew.
     void add(Duration elapsed, double fraction);
-    /// Rounded as far as it can be relied on; absent while it is not steady and at the end.
-    [[nodiscard]] std::optional<std::chrono::seconds> estimate() const;
+    /// Units: seconds, rounded as far as they can be relied on; absent while it is not steady and
+    /// at the end.
+    [[nodiscard]] std::optional<qint64> estimate() const;
 
 private:
     struct Sample {
         Duration elapsed;
         double fraction;
     };
-    [[nodiscard]] double remainingMilliseconds(const Sample &from, const Sample &to) const;
-
     std::deque<Sample> m_samples;
 };

@@ -60,11 +60,6 @@ QString wordsIn(const Words &words, const PlannedWork &work)
                           : localized(words.at(index(work.picture)).at(index(work.sound)));
 }
 
-QString sizeWords(const LocalizedText &format, qint64 width, qint64 height)
-{
-    return formatted(format, { width, height });
-}
-
 QString codecOf(const JSON &stream)
 {
     const QString name = stream[u"codec_name"_s].stringValue();
@@ -96,9 +91,9 @@ QString VideoWords::willDo(const PlannedWork &work)
 {
     QStringList words{ wordsIn(planWords, work) };
     if (work.scaledTo)
-        words << sizeWords(QT_TRANSLATE_NOOP3("Localizable", "Scales to %d × %d",
+        words << formatted(QT_TRANSLATE_NOOP3("Localizable", "Scales to %d × %d",
                                "What an entry of the format menu does: width, height"),
-            work.scaledTo->width(), work.scaledTo->height());
+            { qint64(work.scaledTo->width()), qint64(work.scaledTo->height()) });
     return joined(words);
 }
 
@@ -116,9 +111,9 @@ QString VideoWords::factsOf(const JSON &info)
         const qint64 width = stream[u"width"_s].intValue();
         const qint64 height = stream[u"height"_s].intValue();
         if (kind == u"video" && picture.isEmpty() && width > 0 && height > 0)
-            facts << sizeWords(
+            facts << formatted(
                 QT_TRANSLATE_NOOP3("Localizable", "%d × %d", "width and height of a picture"),
-                width, height);
+                { width, height });
         if (kind == u"video" && picture.isEmpty())
             picture = codecOf(stream);
         if (kind == u"audio" && sound.isEmpty())

@@ -45,10 +45,7 @@ constexpr Row rows[] = {
     {Aspect::Shown,        OUTLET(openFolderImageView),           {no,   no,     no,      no,       yes}},
     {Aspect::Enabled,      OUTLET(convertToButton),               {no,   no,     yes,     yes,      yes}},
     {Aspect::DropsAllowed, OUTLET(dropAcceptor),                  {yes,  no,     yes,     no,       yes}},
-};
 
-constexpr Row addedRows[] = {
-    //                                                         Initial Waiting CoverSet Converting Done
     {Aspect::ShownWithText, OUTLET(refusalLabel),                 {yes,  no,     no,      no,       no}},
     {Aspect::ShownWithText, OUTLET(anotherFormatLabel),           {yes,  no,     no,      no,       no}},
     {Aspect::ShownWithText, OUTLET(logLabel),                     {yes,  no,     no,      no,       no}},
@@ -103,12 +100,6 @@ void apply(const Row &row, const Ui::MainWindow &outlets, bool value)
 void applyWindowUIState(Ui::MainWindow &outlets, WindowUIState state)
 {
     for (const Row &row : rows)
-        apply(row, outlets, row.inState.at(static_cast<std::size_t>(state)));
-}
-
-void applyAddedControls(Ui::MainWindow &outlets, WindowUIState state)
-{
-    for (const Row &row : addedRows)
         apply(row, outlets, row.inState.at(static_cast<std::size_t>(state)));
 }
 

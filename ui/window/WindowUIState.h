@@ -15,10 +15,8 @@ enum class WindowUIState {
     ConversionIsDone,
 };
 
+/// Links and remarks that have no text at the moment stay hidden.
 void applyWindowUIState(Ui::MainWindow &outlets, WindowUIState state);
-
-/// Shows what stands beside those outlets. Controls that have no text at the moment stay hidden.
-void applyAddedControls(Ui::MainWindow &outlets, WindowUIState state);
 
 [[nodiscard]] QWidget *primaryControl(const Ui::MainWindow &outlets, WindowUIState state);
 [[nodiscard]] QWidget *spokenOutlet(const Ui::MainWindow &outlets, WindowUIState state);
