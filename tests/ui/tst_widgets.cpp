@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
 #include "ui/widgets/Appearance.h"
-#include "ui/widgets/ConvertPopupButtonCell.h"
+#include "ui/widgets/ConvertPopupButton.h"
 #include "ui/window/ProposedName.h"
 #include "ui/window/TimeLeft.h"
 

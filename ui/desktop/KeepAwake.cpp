@@ -42,9 +42,6 @@ struct KeepAwake::Hold {
     }
 };
 
-KeepAwake::KeepAwake() = default;
-KeepAwake::~KeepAwake() = default;
-
 void KeepAwake::start(const QString &reason)
 {
     m_hold = std::make_shared<Hold>();

@@ -6,19 +6,8 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
-
-void LauncherProgress::show(double fraction)
-{
-    const double bounded = std::isnan(fraction) ? 0 : std::clamp(fraction, 0.0, 1.0);
-    update(static_cast<int>(bounded * 100), false);
-}
-
-void LauncherProgress::finish() { update(hidden, true); }
-
-void LauncherProgress::clear() { update(hidden, false); }
 
 void LauncherProgress::update(int percent, bool urgent)
 {
@@ -26,7 +15,7 @@ void LauncherProgress::update(int percent, bool urgent)
         return;
     m_percent = percent;
     m_urgent = urgent;
-    const QVariantMap properties{ { u"progress"_s, std::max(percent, 0) / 100.0 },
+    const QVariantMap properties{ { u"progress"_s, std::clamp(percent, 0, 100) / 100.0 },
         { u"progress-visible"_s, percent != hidden }, { u"urgent"_s, urgent } };
     QDBusMessage signal = QDBusMessage::createSignal(
         u"/org/example/VideoConverter"_s, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);

@@ -10,11 +10,10 @@ public:
     ~LauncherProgress() { clear(); }
     Q_DISABLE_COPY_MOVE(LauncherProgress)
 
-    /// A fraction of 0 to 1; what lies outside is bounded.
-    void show(double fraction);
+    void show(int percent) { update(percent, false); }
     /// Takes the percentage away and asks for attention until clear().
-    void finish();
-    void clear();
+    void finish() { update(hidden, true); }
+    void clear() { update(hidden, false); }
 
 private:
     void update(int percent, bool urgent);

@@ -31,30 +31,23 @@ void openFolder(const QString &folderPath)
 
 struct KeepAwake::Hold {
     QProcess process;
-};
 
-KeepAwake::KeepAwake() = default;
-KeepAwake::~KeepAwake() { stop(); }
+    Hold() = default;
+    Q_DISABLE_COPY_MOVE(Hold)
+    ~Hold() { process.kill(); }
+};
 
 void KeepAwake::start(const QString & /*reason*/)
 {
-    stop();
     m_hold = std::make_shared<Hold>();
     // It ends with this program, however that ends.
     m_hold->process.start(u"/usr/bin/caffeinate"_s,
         { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
 }
 
-void KeepAwake::stop()
-{
-    if (m_hold)
-        m_hold->process.kill();
-    m_hold.reset();
-}
+void KeepAwake::stop() { m_hold.reset(); }
 
-void LauncherProgress::show(double /*fraction*/) { }
-void LauncherProgress::finish() { }
-void LauncherProgress::clear() { }
+void LauncherProgress::update(int /*percent*/, bool /*urgent*/) { }
 
 void DesktopNotification::show(const QString & /*title*/, const QString & /*text*/) { }
 void DesktopNotification::close() { }

@@ -77,8 +77,6 @@ QPalette withHighContrast(QPalette palette, bool dark)
 constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
 constexpr auto contrastKey = "contrast"_L1;
-constexpr uint prefersDark = 1;
-constexpr uint prefersHighContrast = 1;
 
 /// The style's own plain colours mean that no desktop has set any.
 bool platformHasColors()
@@ -108,13 +106,13 @@ Appearance::Appearance()
 #ifdef Q_OS_LINUX
 void Appearance::settingChanged(const QString &space, const QString &key, const QDBusVariant &value)
 {
-    if (space != appearanceSpace || (key != schemeKey && key != contrastKey))
-        return;
-    const uint wish = value.variant().toUInt();
-    if (key == schemeKey)
-        m_look.isDark = wish == prefersDark;
+    const bool isOne = value.variant().toUInt() == 1;
+    if (space == appearanceSpace && key == schemeKey)
+        m_look.isDark = isOne;
+    else if (space == appearanceSpace && key == contrastKey)
+        m_look.hasHighContrast = isOne;
     else
-        m_look.hasHighContrast = wish == prefersHighContrast;
+        return;
     QApplication::setPalette(palette(m_look));
 }
 #endif

@@ -9,6 +9,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 /// A view that listens to clicks, as a button; one that does not, as what it shows.
@@ -75,28 +78,20 @@ void Clickable::enable(QWidget *view)
     view->setAttribute(Qt::WA_Hover);
 }
 
-bool Clickable::isPress(const QEvent &event)
+bool Clickable::isPressed(QWidget &view, const QEvent &event)
 {
+    constexpr std::array changesOfLook{ QEvent::HoverEnter, QEvent::HoverLeave, QEvent::FocusIn,
+        QEvent::FocusOut, QEvent::PaletteChange };
+    if (std::ranges::count(changesOfLook, event.type()) > 0)
+        view.update();
+    if (!view.isEnabled())
+        return false;
     if (event.type() == QEvent::MouseButtonPress)
         return static_cast<const QMouseEvent &>(event).button() == Qt::LeftButton;
     if (event.type() != QEvent::KeyPress)
         return false;
     const int key = static_cast<const QKeyEvent &>(event).key();
     return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-bool Clickable::changesLook(const QEvent &event)
-{
-    switch (event.type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverLeave:
-    case QEvent::FocusIn:
-    case QEvent::FocusOut:
-    case QEvent::PaletteChange:
-        return true;
-    default:
-        return false;
-    }
 }
 
 void Clickable::paintFocus(QPainter &painter, const QWidget &view)

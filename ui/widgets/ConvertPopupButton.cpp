@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/ConvertPopupButton.h"
 
+#include "support/Localized.h"
 #include "ui/widgets/Clickable.h"
 
 #include <QEvent>
+#include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QMenu>
 #include <QPainter>
 #include <QProxyStyle>
@@ -36,6 +39,31 @@ public:
     int desktopFrame = 0;
 };
 
+QFont systemFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPointSizeF(13.0);
+    return font;
+}
+
+}
+
+ConvertPopupButtonCell::ConvertPopupButtonCell(const QString &, bool)
+    : m_overridenTitle(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.buttonTitle", "convert button title"),
+            "Convert"))
+{
+}
+
+QRectF ConvertPopupButtonCell::titleRectForBounds(const QRectF &bounds) const
+{
+    const double height = QFontMetricsF(m_font.value_or(systemFont()))
+                              .size(Qt::TextSingleLine, m_overridenTitle)
+                              .height();
+    const double diff = bounds.height() - height;
+    if (diff <= 0)
+        return bounds;
+    return { bounds.x(), bounds.y() + diff * 0.5 - 2.0, bounds.width(), height };
 }
 
 ConvertPopupButton::ConvertPopupButton(QWidget *parent)
@@ -128,7 +156,6 @@ void ConvertPopupButton::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(face, 8, 8);
     Clickable::paintFocus(painter, *this);
     painter.setPen(palette().color(isEnabled() ? QPalette::HighlightedText : QPalette::ButtonText));
-    painter.setFont(m_cell.font().value_or(font()));
     painter.drawText(m_cell.titleRectForBounds(rect()), Qt::AlignCenter, m_cell.title());
     paintIndicator(painter);
 }

@@ -1,9 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/widgets/ConvertPopupButtonCell.h"
-
+#include <QFont>
 #include <QPushButton>
+#include <QRectF>
+#include <QString>
+
+#include <optional>
+
+/// The face of the convert button: the same word whatever menu item is chosen. Units: points.
+class ConvertPopupButtonCell {
+public:
+    /// The text is not shown.
+    ConvertPopupButtonCell(const QString &text, bool pullsDown);
+
+    [[nodiscard]] const QString &overridenTitle() const { return m_overridenTitle; }
+    [[nodiscard]] QString title() const { return m_overridenTitle; }
+    void setTitle(const QString &) { }
+
+    void setFont(const std::optional<QFont> &font) { m_font = font; }
+
+    /// Where the word stands; the bounds themselves when they are not higher than the word.
+    [[nodiscard]] QRectF titleRectForBounds(const QRectF &bounds) const;
+
+private:
+    QString m_overridenTitle;
+    std::optional<QFont> m_font;
+};
 
 /// Opens the format menu; its face is drawn by its cell.
 class ConvertPopupButton : public QPushButton {
@@ -11,8 +34,6 @@ class ConvertPopupButton : public QPushButton {
 
 public:
     explicit ConvertPopupButton(QWidget *parent = nullptr);
-
-    [[nodiscard]] ConvertPopupButtonCell &cell() { return m_cell; }
 
     /// The menu stands beside the face, above or below, and scrolls where it finds no room.
     void setMenu(QMenu *menu);

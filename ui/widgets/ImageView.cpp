@@ -53,12 +53,10 @@ QSize ImageView::minimumSizeHint() const
 
 bool ImageView::event(QEvent *event)
 {
-    if (isEnabled() && Clickable::isPress(*event)) {
+    if (Clickable::isPressed(*this, *event)) {
         Q_EMIT clicked();
         return true;
     }
-    if (Clickable::changesLook(*event))
-        update();
     if (event->type() == QEvent::FontChange)
         updateGeometry();
     return QWidget::event(event);
@@ -98,23 +96,18 @@ void ImageView::paintArtwork(QPainter &painter)
 void ImageView::paintImage(QPainter &painter)
 {
     const QSize deviceSize = (QSizeF(size()) * devicePixelRatio()).toSize();
-    const QPixmap &picture = scaledImage(m_image.size().scaled(deviceSize, Qt::KeepAspectRatio));
-    const QSizeF pictureSize = QSizeF(picture.size()) / devicePixelRatio();
+    const QSize shown = m_image.size().scaled(deviceSize, Qt::KeepAspectRatio);
+    if (m_scaled.size() != shown)
+        m_scaled = QPixmap::fromImage(
+            m_image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    const QSizeF pictureSize = QSizeF(shown) / devicePixelRatio();
     const QRectF target = centred(pictureSize, rect());
     QPainterPath corners;
     corners.addRoundedRect(rect(), cornerRadius, cornerRadius);
     QPainterPath outline;
     outline.addRect(target);
-    QBrush brush(picture);
+    QBrush brush(m_scaled);
     brush.setTransform(QTransform::fromTranslate(target.x(), target.y())
                            .scale(1 / devicePixelRatio(), 1 / devicePixelRatio()));
     painter.fillPath(outline.intersected(corners), brush);
-}
-
-const QPixmap &ImageView::scaledImage(const QSize &deviceSize)
-{
-    if (m_scaled.size() != deviceSize)
-        m_scaled = QPixmap::fromImage(
-            m_image.scaled(deviceSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    return m_scaled;
 }

@@ -34,7 +34,6 @@ protected:
 private:
     void paintArtwork(QPainter &painter);
     void paintImage(QPainter &painter);
-    [[nodiscard]] const QPixmap &scaledImage(const QSize &deviceSize);
 
     QImage m_image;
     QPixmap m_scaled;

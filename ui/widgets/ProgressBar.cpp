@@ -28,22 +28,16 @@ ProgressBar::ProgressBar(QWidget *parent)
     });
 }
 
-void ProgressBar::setDoubleValue(double value)
+void ProgressBar::setFraction(double fraction)
 {
-    m_doubleValue = value;
-    if (!isBusy())
-        setValue(static_cast<int>(std::clamp(value, 0.0, 1.0) * steps));
+    const bool busy = fraction < 0;
+    if (busy != isBusy()) {
+        setRange(0, busy ? 0 : steps);
+        busy ? m_busyTimer->start() : m_busyTimer->stop();
+    }
+    m_fraction = std::clamp(fraction, 0.0, 1.0);
+    setValue(static_cast<int>(m_fraction * steps));
     // The base class would wait for a whole chunk of its style.
-    update();
-}
-
-void ProgressBar::setBusy(bool busy)
-{
-    if (busy == isBusy())
-        return;
-    setRange(0, busy ? 0 : steps);
-    busy ? m_busyTimer->start() : m_busyTimer->stop();
-    setDoubleValue(m_doubleValue);
     update();
 }
 
@@ -70,7 +64,7 @@ void ProgressBar::paintEvent(QPaintEvent *)
         filled.moveLeft((groove.width() + filled.width()) * position - filled.width());
         filled = filled.intersected(groove);
     } else {
-        filled.setWidth(groove.width() * std::clamp(m_doubleValue, 0.0, 1.0));
+        filled.setWidth(groove.width() * m_fraction);
     }
     if (filled.width() < 1)
         return;

@@ -3,18 +3,15 @@
 
 #include <QProgressBar>
 
-/// A slim bar over a fraction of 0 to 1; busy while the length of the work is unknown.
+/// A slim bar over a fraction of 0 to 1; busy while that is unknown.
 class ProgressBar : public QProgressBar {
     Q_OBJECT
 
 public:
     explicit ProgressBar(QWidget *parent = nullptr);
 
-    /// The value as it was set; what lies outside of 0 to 1 is bounded only where it is drawn.
-    [[nodiscard]] double doubleValue() const { return m_doubleValue; }
-    void setDoubleValue(double value);
-    [[nodiscard]] bool isBusy() const { return maximum() == 0; }
-    void setBusy(bool busy);
+    /// Negative while the length of the work is unknown.
+    void setFraction(double fraction);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -23,7 +20,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    double m_doubleValue = 0;
+    [[nodiscard]] bool isBusy() const { return maximum() == 0; }
+
+    double m_fraction = 0;
     QTimer *m_busyTimer;
     int m_busyStep = 0;
 };

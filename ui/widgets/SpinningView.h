@@ -16,7 +16,6 @@ public:
     void setSpinning(bool spinning);
     [[nodiscard]] const QColor &spinColor() const { return m_spinColor; }
     void setSpinColor(const QColor &color);
-    [[nodiscard]] bool isAnimating() const { return m_timer.isActive(); }
 
     /// Called once when the view is about to be shown first; before that nothing moves.
     void awakeFromNib();

@@ -54,14 +54,12 @@ QSize TextField::minimumSizeHint() const
 
 bool TextField::event(QEvent *event)
 {
-    if (isEnabled() && Clickable::isPress(*event)) {
+    if (Clickable::isPressed(*this, *event)) {
         Q_EMIT clicked();
         return true;
     }
     if (event->type() == QEvent::DynamicPropertyChange)
         resetCursorRects();
-    if (Clickable::changesLook(*event))
-        update();
     return QLabel::event(event);
 }
 

@@ -8,12 +8,11 @@
 class TextField : public QLabel {
     Q_OBJECT
     Q_PROPERTY(bool elided MEMBER m_elided)
-    Q_PROPERTY(bool dimmed READ isDimmed WRITE setDimmed)
+    Q_PROPERTY(bool dimmed MEMBER m_dimmed WRITE setDimmed)
 
 public:
     explicit TextField(QWidget *parent = nullptr);
 
-    [[nodiscard]] bool isDimmed() const { return m_dimmed; }
     void setDimmed(bool dimmed);
 
     void resetCursorRects();

@@ -349,8 +349,7 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
         setUiState(WindowUIState::Converting);
         FormatEntries::remember(*m_outlets->formatMenu, *m_chosenEntry);
     }
-    m_outlets->progressBar->setBusy(fraction < 0);
-    m_outlets->progressBar->setDoubleValue(std::max(fraction, 0.0));
+    m_outlets->progressBar->setFraction(fraction);
     m_status->setProgress(fraction, seconds);
 }
 

@@ -85,7 +85,7 @@ void ConversionStatus::setProgress(double fraction, qint64 seconds)
     if (fraction < 0 || !m_timer.isActive() || percent == m_percent)
         return;
     m_percent = percent;
-    m_launcher.show(m_fraction);
+    m_launcher.show(percent);
     showWork();
 }
 

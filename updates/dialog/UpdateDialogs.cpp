@@ -72,9 +72,8 @@ QPlainTextEdit *notesView(const QString &notes)
 
 }
 
-UpdateDialogs::UpdateDialogs(Updater &updater, QWidget *window, QUrl site, QObject *parent)
-    : QObject(parent)
-    , m_updater(updater)
+UpdateDialogs::UpdateDialogs(Updater &updater, QWidget *window, QUrl site)
+    : m_updater(updater)
     , m_window(window)
     , m_site(std::move(site))
 {

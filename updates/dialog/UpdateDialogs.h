@@ -19,7 +19,7 @@ class UpdateDialogs : public QObject {
     Q_OBJECT
 public:
     /// `site` is the vendor's web site or empty; updater and window outlive this object.
-    UpdateDialogs(Updater &updater, QWidget *window, QUrl site, QObject *parent = nullptr);
+    UpdateDialogs(Updater &updater, QWidget *window, QUrl site);
 
 private:
     void showCheck(const UpdateCheck &check);
