@@ -8,6 +8,7 @@
 #include "updates/Updater.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QFontDatabase>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -17,17 +18,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QWidget *showConversionLog(AppDelegate &delegate)
+QDialog *showConversionLog(AppDelegate &delegate)
 {
     const QString title = localized(
         QT_TRANSLATE_NOOP3("Localizable", "Conversion Log", "title of the log's window"));
-    QPlainTextEdit *log = makeLogWindow(delegate.window(), title, delegate.lastToolOutput());
+    QDialog *dialog = makeLogWindow(delegate.window(), title, delegate.lastToolOutput());
+    auto *log = dialog->findChild<QPlainTextEdit *>();
     log->setLineWrapMode(QPlainTextEdit::NoWrap);
     log->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     log->setAccessibleName(title);
-    log->window()->resize(720, 480);
-    log->window()->show();
-    return log->window();
+    dialog->resize(720, 480);
+    dialog->show();
+    return dialog;
 }
 
 }
@@ -40,7 +42,7 @@ void addHelpMenu(AppDelegate &delegate, Updater &updater)
                                     "menu command, opens a window")),
         menu);
     QObject::connect(
-        showLog, &QAction::triggered, menu, [&delegate, log = QPointer<QWidget>()]() mutable {
+        showLog, &QAction::triggered, menu, [&delegate, log = QPointer<QDialog>()]() mutable {
             if (log)
                 log->close();
             log = showConversionLog(delegate);
@@ -58,9 +60,5 @@ void addHelpMenu(AppDelegate &delegate, Updater &updater)
                              QT_TRANSLATE_NOOP3("Localizable", "Settings…", "menu command")));
     settings->setMenuRole(QAction::PreferencesRole);
     settings->setShortcut(Qt::CTRL | Qt::Key_Comma);
-    QObject::connect(settings, &QAction::triggered, window, [window] {
-        auto *dialog = new SettingsDialog(window);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->open();
-    });
+    QObject::connect(settings, &QAction::triggered, window, [window] { openSettings(window); });
 }

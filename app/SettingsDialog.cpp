@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -31,7 +32,7 @@ QCheckBox *addSwitch(
     return box;
 }
 
-QComboBox *languageBox()
+QComboBox *addLanguageBox(QFormLayout *layout)
 {
     auto *box = new QComboBox;
     box->addItem(localized(QT_TRANSLATE_NOOP3(
@@ -43,42 +44,40 @@ QComboBox *languageBox()
     for (const QString &language : languages)
         box->addItem(QLocale(language).nativeLanguageName(), language);
     box->setCurrentIndex(std::max(0, box->findData(Preferences::language())));
+    layout->addRow(localized(QT_TRANSLATE_NOOP3("Localizable", "Language:", "settings")), box);
     return box;
 }
 
 }
 
-SettingsDialog::SettingsDialog(QWidget *parent)
-    : QDialog(parent)
+void openSettings(QWidget *window)
 {
-    setWindowTitle(
+    auto *dialog = new QDialog(window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Settings", "title of the settings' window")));
-    auto *layout = new QFormLayout(this);
-    m_usage = addSwitch(layout,
+    auto *layout = new QFormLayout(dialog);
+    const bool noTracking = Configuration::doNotTrack();
+    const auto *usage = addSwitch(layout,
         QT_TRANSLATE_NOOP3("Localizable", "Send anonymous usage events", "settings"),
-        Preferences::sendsUsage() && !Configuration::doNotTrack(),
-        Configuration::doNotTrack() ? QString() : Configuration::collectorUrl());
-    m_updates = addSwitch(layout,
+        Preferences::sendsUsage(), noTracking ? QString() : Configuration::collectorUrl());
+    const auto *updates = addSwitch(layout,
         QT_TRANSLATE_NOOP3("Localizable", "Look for updates once a day", "settings"),
         Preferences::checksForUpdates(), Configuration::feedUrl());
-    m_language = languageBox();
-    layout->addRow(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Language:", "settings")), m_language);
+    const auto *language = addLanguageBox(layout);
     layout->addRow(QString(),
         new QLabel(localized(
             QT_TRANSLATE_NOOP3("Localizable", "From the next start on.", "settings, language"))));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     layout->addRow(buttons);
-}
-
-void SettingsDialog::accept()
-{
-    if (m_usage->isEnabled())
-        Preferences::setSendsUsage(m_usage->isChecked());
-    if (m_updates->isEnabled())
-        Preferences::setChecksForUpdates(m_updates->isChecked());
-    Preferences::setLanguage(m_language->currentData().toString());
-    QDialog::accept();
+    QObject::connect(dialog, &QDialog::accepted, dialog, [usage, updates, language] {
+        if (usage->isEnabled())
+            Preferences::setSendsUsage(usage->isChecked());
+        if (updates->isEnabled())
+            Preferences::setChecksForUpdates(updates->isChecked());
+        Preferences::setLanguage(language->currentData().toString());
+    });
+    dialog->open();
 }

@@ -79,7 +79,7 @@ bool displayQuestion(const QString &question)
     return box.clickedButton() == yes;
 }
 
-QPlainTextEdit *makeLogWindow(QWidget *parent, const QString &title, const QByteArray &output)
+QDialog *makeLogWindow(QWidget *parent, const QString &title, const QByteArray &output)
 {
     auto *dialog = new QDialog(parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -92,5 +92,5 @@ QPlainTextEdit *makeLogWindow(QWidget *parent, const QString &title, const QByte
     auto *layout = new QVBoxLayout(dialog);
     layout->addWidget(text);
     layout->addWidget(buttons);
-    return text;
+    return dialog;
 }

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-class QPlainTextEdit;
+class QDialog;
 class QWidget;
 
 /// Alerts that stop the program until they are answered, in plain text.
@@ -12,7 +12,6 @@ void displayError(const QString &message, const QString &informativeText = {});
 /// True exactly when "Yes" was pressed; Return, Escape and closing the alert answer no.
 [[nodiscard]] bool displayQuestion(const QString &question);
 
-/// Makes a window with what a tool printed, which deletes itself when it is closed. Returns the
-/// text in it.
-[[nodiscard]] QPlainTextEdit *makeLogWindow(
+/// With what a tool printed, in a QPlainTextEdit. Not shown yet; deletes itself when it is closed.
+[[nodiscard]] QDialog *makeLogWindow(
     QWidget *parent, const QString &title, const QByteArray &output);

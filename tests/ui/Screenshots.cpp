@@ -98,8 +98,7 @@ private Q_SLOTS:
         m_user.names << u"done"_s;
         QVERIFY(convert("copy|reports:100:100", WindowUIState::ConversionIsDone, name));
         take(u"5-done"_s);
-        SettingsDialog settings(m_delegate->window());
-        settings.show();
+        openSettings(m_delegate->window());
         take(u"7-settings"_s);
     }
 

@@ -39,36 +39,27 @@ ConversionStatus::ConversionStatus(QWidget *window, QLabel *workLabel)
 
 void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
 {
-    if (to == WindowUIState::Converting)
-        start();
-    else if (from == WindowUIState::Converting)
-        stop();
+    if (to == WindowUIState::Converting) {
+        m_timeLeft = {};
+        m_steadyTime = {};
+        m_fraction = -1;
+        m_clock.start();
+        m_timer.start();
+        showWork();
+        m_keepAwake.start(localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "Converting a video", "why the machine stays awake")));
+    } else if (from == WindowUIState::Converting) {
+        m_timer.stop();
+        m_keepAwake.stop();
+        m_launcher.clear();
+        m_percent = -1;
+        m_window->setWindowTitle(m_title);
+        m_workLabel->clear();
+    }
     if (to == WindowUIState::ConversionIsDone && !m_window->isActiveWindow())
         m_launcher.finish();
     if (to == WindowUIState::WaitingForCover || to == WindowUIState::Converting)
         m_notification.close();
-}
-
-void ConversionStatus::start()
-{
-    m_timeLeft = {};
-    m_steadyTime = {};
-    m_fraction = -1;
-    m_clock.start();
-    m_timer.start();
-    showWork();
-    m_keepAwake.start(localized(
-        QT_TRANSLATE_NOOP3("Localizable", "Converting a video", "why the machine stays awake")));
-}
-
-void ConversionStatus::stop()
-{
-    m_timer.stop();
-    m_keepAwake.stop();
-    m_launcher.clear();
-    m_percent = -1;
-    m_window->setWindowTitle(m_title);
-    m_workLabel->clear();
 }
 
 void ConversionStatus::setWork(const QString &work)

@@ -34,8 +34,6 @@ Q_SIGNALS:
     void notificationActivated();
 
 private:
-    void start();
-    void stop();
     void showWork();
     [[nodiscard]] QString speed() const;
     [[nodiscard]] QString timeLeft();

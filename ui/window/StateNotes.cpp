@@ -142,9 +142,8 @@ void StateNotes::copyCommand()
 void StateNotes::showLog()
 {
     QWidget *window = m_outlets.dropAcceptor->window();
-    auto *dialog = qobject_cast<QDialog *>(
-        makeLogWindow(window, m_outlets.movieNameLabel->text(), m_conversion.lastToolOutput())
-            ->window());
+    QDialog *dialog
+        = makeLogWindow(window, m_outlets.movieNameLabel->text(), m_conversion.lastToolOutput());
     dialog->resize(window->size());
     dialog->open();
 }
