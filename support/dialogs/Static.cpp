@@ -4,19 +4,95 @@
 #include "support/Bundle.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
+#include "support/Format.h"
 #include "support/Localized.h"
-#include "support/dialogs/AboutWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-AboutWindow &Static::aboutWindow()
+namespace {
+
+QString programName()
 {
-    static AboutWindow *const window = [] {
+    return Bundle::main()
+        .infoString(u"CFBundleName"_s)
+        .value_or(QGuiApplication::applicationDisplayName());
+}
+
+QString versionText()
+{
+    const QString version = Bundle::main()
+                                .infoString(u"CFBundleShortVersionString"_s)
+                                .value_or(Configuration::version());
+    return formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
+        { version });
+}
+
+QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    layout->addWidget(label);
+    return label;
+}
+
+/// Open, it does not keep the program from ending with its main window.
+QDialog *makeAboutBox()
+{
+    auto *box = new QDialog;
+    box->setAttribute(Qt::WA_QuitOnClose, false);
+    box->setWindowTitle(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "About %@", "about box, with the program's name"),
+        { programName() }));
+    auto *layout = new QVBoxLayout(box);
+    layout->setContentsMargins(32, 24, 32, 24);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addStrut(240);
+
+    auto *icon = addLabel(layout);
+    icon->setPixmap(QApplication::windowIcon().pixmap(96));
+    icon->setHidden(QApplication::windowIcon().isNull());
+
+    QLabel *name = addLabel(layout, programName());
+    QFont font = name->font();
+    font.setPointSizeF(font.pointSizeF() * 1.5);
+    font.setBold(true);
+    name->setFont(font);
+
+    QLabel *version = addLabel(layout, versionText());
+    version->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    layout->addSpacing(8);
+    if (!Static::applicationURL().isEmpty()) {
+        auto *website = new QPushButton(localized(
+            QT_TRANSLATE_NOOP3("Localizable", "Visit Web Site", "button of the about box")));
+        layout->addWidget(website, 0, Qt::AlignCenter);
+        QObject::connect(website, &QPushButton::clicked, box, [] {
+            if (const QUrl site(Static::applicationURL()); site.isValid())
+                QDesktopServices::openUrl(site);
+        });
+    }
+    return box;
+}
+
+}
+
+QDialog &Static::aboutWindow()
+{
+    static QDialog *const window = [] {
         // No widget may outlive the application object.
         qAddPostRoutine([] { delete &aboutWindow(); });
-        return new AboutWindow;
+        return makeAboutBox();
     }();
     return *window;
 }

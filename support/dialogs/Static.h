@@ -6,7 +6,7 @@
 
 #include <optional>
 
-class AboutWindow;
+class QDialog;
 
 /// Values of the whole process, each made once, by its first reader.
 class Static {
@@ -16,7 +16,7 @@ public:
     /// Reserved for one-time initialisation.
     static inline int onceToken = 0;
     /// The one about box; it goes with the application object. Thread: main.
-    [[nodiscard]] static AboutWindow &aboutWindow();
+    [[nodiscard]] static QDialog &aboutWindow();
     /// The vendor's web site in the user's language; empty when there is none. Thread: any.
     [[nodiscard]] static const QString &applicationURL();
 

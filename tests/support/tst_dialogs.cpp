@@ -2,7 +2,6 @@
 #include "Answering.h"
 #include "support/Bundle.h"
 #include "support/Console.h"
-#include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Static.h"
 #include "tests/fixtures/Rows.h"
@@ -111,9 +110,10 @@ private Q_SLOTS:
         info.write("<plist><dict><key>CFBundleName</key><string>Video &lt;b&gt;Turner</string>"
                    "<key>CFBundleShortVersionString</key><string>7.8</string></dict></plist>");
         info.close();
-        AboutWindow window;
+        QDialog &window = Static::aboutWindow();
         QVERIFY(info.remove());
-        window.showWindow();
+        window.show();
+        window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
 
         QStringList texts{ window.windowTitle() };

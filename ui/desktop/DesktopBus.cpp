@@ -7,19 +7,16 @@
 
 namespace DesktopBus {
 
-void call(const QDBusConnection &bus, const Method &method, const QVariantList &arguments,
-    const Answer &answer, std::chrono::milliseconds limit)
+void call(const QDBusConnection &bus, const QDBusMessage &method, const Answer &answer)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        method.service, method.path, method.interface, method.name);
-    message.setArguments(arguments);
+    constexpr int limit = 20'000;
     // Without a connection a pending call never ends.
     if (!bus.isConnected() && answer)
         return void(QMetaObject::invokeMethod(
             QCoreApplication::instance(),
             [answer] { answer(QDBusMessage::createError(QDBusError::Disconnected, QString())); },
             Qt::QueuedConnection));
-    const QDBusPendingCall pending = bus.asyncCall(message, static_cast<int>(limit.count()));
+    const QDBusPendingCall pending = bus.asyncCall(method, limit);
     if (!answer)
         return;
     auto *watcher = new QDBusPendingCallWatcher(pending, QCoreApplication::instance());

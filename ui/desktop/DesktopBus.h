@@ -4,7 +4,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 
-#include <chrono>
 #include <functional>
 
 /// Calls on D-Bus that nobody waits for. A missing bus or service is an error answer.
@@ -12,15 +11,7 @@ namespace DesktopBus {
 
 using Answer = std::function<void(const QDBusMessage &answer)>;
 
-struct Method {
-    QString service;
-    QString path;
-    QString interface;
-    QString name;
-};
-
-/// The answer comes later, as an error message after the time limit.
-void call(const QDBusConnection &bus, const Method &method, const QVariantList &arguments,
-    const Answer &answer = {}, std::chrono::milliseconds limit = std::chrono::seconds(20));
+/// The answer comes later, as an error message after 20 seconds.
+void call(const QDBusConnection &bus, const QDBusMessage &method, const Answer &answer = {});
 
 }

@@ -13,11 +13,11 @@ namespace {
 const QString service = u"org.freedesktop.Notifications"_s;
 const QString path = u"/org/freedesktop/Notifications"_s;
 
-void call(
-    const QString &method, const QVariantList &arguments, const DesktopBus::Answer &answer = {})
+void call(const QString &name, const QVariantList &arguments, const DesktopBus::Answer &answer = {})
 {
-    DesktopBus::call(
-        QDBusConnection::sessionBus(), { service, path, service, method }, arguments, answer);
+    QDBusMessage method = QDBusMessage::createMethodCall(service, path, service, name);
+    method.setArguments(arguments);
+    DesktopBus::call(QDBusConnection::sessionBus(), method, answer);
 }
 
 }

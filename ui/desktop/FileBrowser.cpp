@@ -16,9 +16,9 @@ void reveal(const QString &filePath)
     const QFileInfo file(QFileInfo(filePath).absoluteFilePath());
     const QStringList uris{ QString::fromLatin1(QUrl::fromLocalFile(file.filePath()).toEncoded()) };
     const QString service = u"org.freedesktop.FileManager1"_s;
-    const DesktopBus::Method showItems{ service, u"/org/freedesktop/FileManager1"_s, service,
-        u"ShowItems"_s };
-    DesktopBus::call(QDBusConnection::sessionBus(), showItems, { uris, QString() },
+    QDBusMessage showItems = QDBusMessage::createMethodCall(
+        service, u"/org/freedesktop/FileManager1"_s, service, u"ShowItems"_s);
+    DesktopBus::call(QDBusConnection::sessionBus(), showItems << uris << QString(),
         [folder = file.path()](const QDBusMessage &answer) {
             if (answer.type() == QDBusMessage::ErrorMessage)
                 openFolder(folder);

@@ -12,18 +12,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString portal = u"org.freedesktop.portal.Desktop"_s;
-const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
-const DesktopBus::Method portalInhibit{ portal, portalPath, u"org.freedesktop.portal.Inhibit"_s,
-    u"Inhibit"_s };
-const DesktopBus::Method loginInhibit{ u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
-    u"org.freedesktop.login1.Manager"_s, u"Inhibit"_s };
 constexpr uint suspendAndIdle = 4U | 8U;
 
 void closeRequest(const QDBusObjectPath &request)
 {
-    const QString interface = u"org.freedesktop.portal.Request"_s;
-    DesktopBus::call(
-        QDBusConnection::sessionBus(), { portal, request.path(), interface, u"Close"_s }, {});
+    DesktopBus::call(QDBusConnection::sessionBus(),
+        QDBusMessage::createMethodCall(
+            portal, request.path(), u"org.freedesktop.portal.Request"_s, u"Close"_s));
 }
 
 }
@@ -47,18 +42,18 @@ void KeepAwake::start(const QString &reason)
     m_hold = std::make_shared<Hold>();
     const std::weak_ptr<Hold> hold = m_hold;
     const auto askLoginManager = [hold, reason] {
-        const QVariantList arguments{ u"sleep:idle"_s, QCoreApplication::applicationName(), reason,
-            u"block"_s };
-        DesktopBus::call(QDBusConnection::systemBus(), loginInhibit, arguments,
-            [hold](const QDBusMessage &answer) {
-                if (const std::shared_ptr<Hold> owner = hold.lock())
-                    owner->descriptor
-                        = answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
-            });
+        QDBusMessage inhibit = QDBusMessage::createMethodCall(u"org.freedesktop.login1"_s,
+            u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"Inhibit"_s);
+        inhibit << u"sleep:idle"_s << QCoreApplication::applicationName() << reason << u"block"_s;
+        DesktopBus::call(QDBusConnection::systemBus(), inhibit, [hold](const QDBusMessage &answer) {
+            if (const std::shared_ptr<Hold> owner = hold.lock())
+                owner->descriptor = answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
+        });
     };
-    const QVariantMap options{ { u"reason"_s, reason } };
-    DesktopBus::call(QDBusConnection::sessionBus(), portalInhibit,
-        { QString(), suspendAndIdle, options },
+    QDBusMessage inhibit = QDBusMessage::createMethodCall(portal,
+        u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Inhibit"_s, u"Inhibit"_s);
+    inhibit << QString() << suspendAndIdle << QVariantMap{ { u"reason"_s, reason } };
+    DesktopBus::call(QDBusConnection::sessionBus(), inhibit,
         [hold, askLoginManager](const QDBusMessage &answer) {
             const std::shared_ptr<Hold> owner = hold.lock();
             const auto given = answer.arguments().value(0).value<QDBusObjectPath>();

@@ -4,7 +4,6 @@
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDir>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocalSocket>
@@ -38,24 +37,11 @@ QString meetingPlace()
         : folder + "/video-converter-"_L1 + QString::fromLatin1(digest.first(16));
 }
 
-QByteArray request(const QStringList &filePaths)
-{
-    QJsonArray paths;
-    for (const QString &path : filePaths)
-        paths.append(QFileInfo(path).absoluteFilePath());
-    return QJsonDocument(paths).toJson(QJsonDocument::Compact) + '\n';
-}
-
 std::optional<QStringList> absolutePaths(const QByteArray &request)
 {
     const QJsonDocument document = QJsonDocument::fromJson(request);
-    if (!document.isArray())
-        return std::nullopt;
-    QStringList paths;
-    const QJsonArray values = document.array();
-    for (const auto &value : values)
-        paths.append(value.toString());
-    const bool valid = std::all_of(paths.cbegin(), paths.cend(), QDir::isAbsolutePath);
+    const QStringList paths = document.toVariant().toStringList();
+    const bool valid = document.isArray() && std::ranges::all_of(paths, QDir::isAbsolutePath);
     return valid ? std::optional(paths) : std::nullopt;
 }
 
@@ -80,18 +66,18 @@ Answer ask(const QString &place, const QByteArray &request, const QDeadlineTimer
 
 }
 
-SingleInstance::SingleInstance(QObject *parent)
-    : QObject(parent)
+SingleInstance::SingleInstance()
 {
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::accept);
 }
 
-bool SingleInstance::handOver(const QStringList &filePaths)
+bool SingleInstance::handOver(const QStringList &absolutePaths)
 {
     const QDeadlineTimer deadline(longestWait);
     const QString place = meetingPlace();
-    const QByteArray message = request(filePaths);
+    const QJsonDocument paths(QJsonArray::fromStringList(absolutePaths));
+    const QByteArray message = paths.toJson(QJsonDocument::Compact) + '\n';
     if (place.isEmpty() || message.size() > longestRequest)
         return false;
     // Two starts at once: the second asks only after the first has begun to listen.

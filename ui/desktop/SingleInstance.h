@@ -13,11 +13,11 @@ class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    explicit SingleInstance(QObject *parent = nullptr);
+    SingleInstance();
 
     /// True when a running instance took the files; the caller then ends. Else this one takes the
     /// files of later starts. Waits at most one second.
-    [[nodiscard]] bool handOver(const QStringList &filePaths);
+    [[nodiscard]] bool handOver(const QStringList &absolutePaths);
 
 Q_SIGNALS:
     /// Another start asked for these files, absolute paths; an empty list asks only for the window.

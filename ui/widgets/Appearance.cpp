@@ -130,8 +130,8 @@ void Appearance::askDesktop()
         SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (const QLatin1StringView each : { schemeKey, contrastKey }) {
         const QString key = each;
-        DesktopBus::call(bus, { service, path, interface, u"Read"_s },
-            { QString(appearanceSpace), key },
+        QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
+        DesktopBus::call(bus, read << QString(appearanceSpace) << key,
             [self = QPointer(this), key](const QDBusMessage &answer) {
                 if (!self || answer.type() != QDBusMessage::ReplyMessage
                     || answer.arguments().isEmpty())

@@ -73,7 +73,6 @@ ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     QFont faceFont = font();
     faceFont.setWeight(QFont::DemiBold);
     setFont(faceFont);
-    m_cell.setFont(faceFont);
     setText(m_cell.title());
     setAttribute(Qt::WA_Hover);
     // Return presses it, as it does the other buttons.

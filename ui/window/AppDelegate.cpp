@@ -10,7 +10,6 @@
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Preferences.h"
-#include "support/dialogs/AboutWindow.h"
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
@@ -25,6 +24,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QFileOpenEvent>
 #include <QMimeData>
 #include <QScreen>
@@ -139,14 +139,10 @@ void AppDelegate::setUiState(WindowUIState state)
         QMetaObject::invokeMethod(
             this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
     }
-    Q_EMIT uiStateChanged(state);
 }
 
 void AppDelegate::showIntake()
 {
-    const bool examines = m_uiState == WindowUIState::WaitingForCover;
-    m_outlets->examiningLabel->setVisible(examines);
-    m_outlets->stopExaminingButton->setVisible(examines);
     const QString kept = Path::lastPathComponent(m_intake->keptPath());
     m_outlets->keptLabel->setText(
         formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
@@ -367,4 +363,10 @@ void AppDelegate::startOverButtonPressed()
     setUiState(WindowUIState::InitialState);
 }
 
-void AppDelegate::showAboutWindow() { Static::aboutWindow().showWindow(); }
+void AppDelegate::showAboutWindow()
+{
+    QDialog &about = Static::aboutWindow();
+    about.show();
+    about.raise();
+    about.activateWindow();
+}

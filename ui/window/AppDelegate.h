@@ -44,9 +44,6 @@ public:
     void takeFiles(const QStringList &paths);
     void rawFormatMenuItemPressed(QAction *item);
 
-Q_SIGNALS:
-    void uiStateChanged(AppDelegate::WindowUIState state);
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -16,7 +16,7 @@ enum class WindowUIState {
 };
 
 /// Links and remarks that have no text at the moment stay hidden.
-void applyWindowUIState(Ui::MainWindow &outlets, WindowUIState state);
+void applyWindowUIState(const Ui::MainWindow &outlets, WindowUIState state);
 
 [[nodiscard]] QWidget *primaryControl(const Ui::MainWindow &outlets, WindowUIState state);
 [[nodiscard]] QWidget *spokenOutlet(const Ui::MainWindow &outlets, WindowUIState state);

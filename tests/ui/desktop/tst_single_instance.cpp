@@ -77,9 +77,9 @@ private Q_SLOTS:
         const Start first;
         QTRY_VERIFY(first.runs);
         const QString odd = u"/f/new\nline \u00fc\"%d.mp4"_s;
-        const Start second({ u"/videos/a.mp4"_s, u"b.mp4"_s, odd });
+        const QStringList expected{ u"/videos/a.mp4"_s, odd };
+        const Start second(expected);
         QTRY_VERIFY(second.handedOver);
-        const QStringList expected{ u"/videos/a.mp4"_s, QDir::current().filePath(u"b.mp4"_s), odd };
         QTRY_COMPARE(first.received.value(0), expected);
         const Start third;
         QTRY_COMPARE(first.received.value(1, m_files), QStringList());
