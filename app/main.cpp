@@ -97,8 +97,7 @@ int runWindow(SingleInstance &instance, const QStringList &videos)
     delegate.takeFiles(videos);
     Async::background(StagedList::removeAbandoned);
     std::optional<Services> services;
-    // Once the window stands: its first question may be one about an earlier crash, and the network
-    // takes time to set up.
+    // Once the window stands: it may ask about an earlier crash, and the network takes its time.
     QTimer::singleShot(100ms, &delegate, [&] { services.emplace(delegate); });
     return QApplication::exec();
 }

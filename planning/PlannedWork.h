@@ -10,8 +10,7 @@
 
 enum class StreamWork { LeftOut, Copied, Encoded };
 
-/// What a conversion does with a video's picture and sound. Read from its argument list, so that it
-/// is never a second opinion. Thread: any.
+/// What a conversion does with picture and sound, read from its argument list. Thread: any.
 struct PlannedWork {
     StreamWork picture = StreamWork::LeftOut;
     StreamWork sound = StreamWork::LeftOut;

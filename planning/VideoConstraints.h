@@ -9,8 +9,7 @@
 
 #include <optional>
 
-/// Bound on the output picture, or none. Units: pixels. Only the larger number bounds, namely the
-/// larger side.
+/// Bound on the output picture, or none. Units: pixels. The larger number bounds the larger side.
 struct VideoDimensionsConstraints {
     struct Maximum {
         qint64 width;

@@ -14,22 +14,13 @@
 
 namespace {
 
-// Goes with the window in front, unless that is one which the program may close while the alert
-// stands, such as that of a download.
+// The window in front, unless the program may close that one meanwhile, as that of a download.
 QWidget *parentWindow()
 {
     QWidget *window = QApplication::activeWindow();
     while (window && !window->isModal() && window->parentWidget())
         window = window->parentWidget()->window();
     return window;
-}
-
-// The labels of a message box guess their format, and a file may be named like mark-up.
-void showPlainText(const QMessageBox &box)
-{
-    const auto labels = box.findChildren<QLabel *>();
-    for (QLabel *label : labels)
-        label->setTextFormat(Qt::PlainText);
 }
 
 // Lets a name without spaces go on in the next line instead of leaving the alert.
@@ -60,7 +51,9 @@ void displayError(const QString &message, const QString &informativeText)
     box.setText(breakable(message));
     if (!informativeText.isEmpty())
         box.setInformativeText(breakable(informativeText));
-    showPlainText(box);
+    // The labels guess their format, and a file may be named like mark-up.
+    for (QLabel *label : box.findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
     box.exec();
 }
 

@@ -43,8 +43,7 @@ struct SaveRequest {
     QString note;
 };
 
-/// File dialog for one result with one extension. Has no Q_OBJECT: the toolkit takes the desktop's
-/// own dialog only for its very own class.
+/// Has no Q_OBJECT: the toolkit takes the desktop's own dialog only for its very own class.
 class SaveSheet : public QFileDialog {
 public:
     SaveSheet(QWidget *window, const QString &folder, QString name, SaveRequest request);
@@ -91,8 +90,7 @@ SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, SaveR
 
 void SaveSheet::accept()
 {
-    // A dialog of the desktop is hidden by now and has asked about an existing file of the name as
-    // it was typed.
+    // A dialog of the desktop is hidden by now, and has asked about a file of the typed name.
     const bool isNative = testAttribute(Qt::WA_DontShowOnScreen);
     const QString chosen = isNative ? selectedFiles().value(0) : typedPath();
     if (chosen.isEmpty())

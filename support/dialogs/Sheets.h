@@ -16,9 +16,8 @@ void runChooseSheet(
 /// Tells the user why a path can't be taken, or returns false.
 using PathRefusal = std::function<bool(const QString &path)>;
 
-/// Proposes `filename` with the extension `ext` (without dot), which the answer always bears. The
-/// user has agreed to replace an existing file that is not refused. Opens in
-/// saveFolder(startFolder). Where the dialog is not the desktop's own it also shows `note`.
+/// Proposes `filename` in saveFolder(startFolder). The answer always bears the extension `ext`, and
+/// the user has agreed to replace it. Shows `note`, unless the dialog is the desktop's own.
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
     const std::function<void(const QString &path)> &path, const QString &startFolder = {},
     const PathRefusal &refuses = {}, const QString &note = {});

@@ -20,8 +20,7 @@ public:
     /// The vendor's web site in the user's language; empty when there is none. Thread: any.
     [[nodiscard]] static const QString &applicationURL();
 
-    /// Address of the site at `root` for a language; only Russian has a site of its own. Prints a
-    /// line when the language is one of `localizations`.
+    /// Only Russian has a site of its own. Prints a line for a language of `localizations`.
     [[nodiscard]] static QString siteAddress(const QString &root,
         const std::optional<QString> &languageCode, const QStringList &localizations);
 };

@@ -7,16 +7,15 @@
 
 class QLocalSocket;
 
-/// Later starts of the program, by one user on one display, hand their files to the one that runs.
-/// Where that one does not answer, each start is on its own.
+/// Later starts, by one user on one display, hand their files to the program that runs, if it
+/// answers.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
     SingleInstance();
 
-    /// True when a running instance took the files; the caller then ends. Else this one takes the
-    /// files of later starts. Waits at most one second.
+    /// True when a running instance took the files. Else this one takes those of later starts.
     [[nodiscard]] bool handOver(const QStringList &absolutePaths);
 
 Q_SIGNALS:

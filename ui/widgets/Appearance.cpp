@@ -124,8 +124,6 @@ void Appearance::askDesktop()
     const QString path = u"/org/freedesktop/portal/desktop"_s;
     const QString interface = u"org.freedesktop.portal.Settings"_s;
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return;
     bus.connect(service, path, interface, u"SettingChanged"_s, this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (const QLatin1StringView each : { schemeKey, contrastKey }) {

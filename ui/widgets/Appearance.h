@@ -6,8 +6,7 @@
 
 class QDBusVariant;
 
-/// Colours of the windows, light or dark and rich in contrast as the desktop is, also when that
-/// changes. Where the platform has colours of its own, those stay.
+/// Colours as light and as rich in contrast as the desktop's, unless the platform has its own.
 class Appearance : public QObject {
     Q_OBJECT
 

@@ -5,8 +5,7 @@
 
 namespace Color {
 
-/// A colour whose components are the whole-number quotients of 1 and the given ones. Errors: a
-/// component of 0 stops the program.
+/// Of the whole-number quotients of 1 and the components. Errors: a 0 stops the program.
 [[nodiscard]] inline QColor rgb(quint8 r, quint8 g, quint8 b)
 {
     const auto component = [](quint8 value) {

@@ -14,8 +14,7 @@ void setAllowDragDrop(QWidget *view, bool allow);
 /// The files of this machine among what is dragged or copied; addresses of others are left out.
 [[nodiscard]] QStringList localFiles(const QMimeData *data);
 
-/// The window's drop target: gates drops by allowDragDrop(), says over its whole area whether a
-/// drag is welcome, and hands drops on.
+/// The window's drop target: says over its whole area whether a drag is welcome, hands drops on.
 class DropBox : public QFrame {
     Q_OBJECT
 

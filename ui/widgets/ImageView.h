@@ -5,11 +5,10 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// Shows an image or a scalable drawing in proportion. Where something listens to clicked(), it
-/// works as a button.
+/// Shows an image or a scalable drawing in proportion; a button where clicked() is listened to.
 class ImageView : public QWidget {
     Q_OBJECT
-    Q_PROPERTY(QString artwork READ artwork WRITE setArtwork)
+    Q_PROPERTY(QString artwork MEMBER m_artwork WRITE setArtwork)
     Q_PROPERTY(bool tinted MEMBER m_tinted)
 
 public:
@@ -18,7 +17,6 @@ public:
     [[nodiscard]] const QImage &image() const { return m_image; }
     void setImage(const QImage &image);
     /// Resource path of an SVG drawing, which shows when there is no image.
-    [[nodiscard]] const QString &artwork() const { return m_artwork; }
     void setArtwork(const QString &resource);
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -8,12 +8,8 @@ void RoundedBox::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(m_fill.isValid() ? m_fill : palette().color(QPalette::Base));
-    painter.setPen(Qt::NoPen);
-    double inset = 0;
-    if (m_dashed) {
-        inset = 1;
-        painter.setPen(
-            QPen(palette().color(QPalette::PlaceholderText), 1.5, Qt::DashLine, Qt::RoundCap));
-    }
+    const QColor ink = palette().color(QPalette::PlaceholderText);
+    painter.setPen(m_dashed ? QPen(ink, 1.5, Qt::DashLine, Qt::RoundCap) : QPen(Qt::NoPen));
+    const double inset = m_dashed ? 1 : 0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 12, 12);
 }

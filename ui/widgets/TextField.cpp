@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,11 +18,11 @@ constexpr auto cursorKey = "_cursor";
 /// A name may hold line breaks and other controls; it still takes one line.
 QString onOneLine(QString text)
 {
-    for (QChar &character : text) {
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator
-            || character == QChar::ParagraphSeparator)
-            character = u' ';
-    }
+    const auto breaksLine = [](QChar character) {
+        return character.category() == QChar::Other_Control || character == QChar::LineSeparator
+            || character == QChar::ParagraphSeparator;
+    };
+    std::ranges::replace_if(text, breaksLine, u' ');
     return text;
 }
 

@@ -3,8 +3,8 @@
 
 #include <QLabel>
 
-/// A label of plain text on one line. Where something listens to clicked(), it works as a button;
-/// the dynamic property "_cursor" with the value "pointingHandCursor" shows that.
+/// A line of plain text; a button where clicked() is listened to. The dynamic property "_cursor" is
+/// the name of its cursor.
 class TextField : public QLabel {
     Q_OBJECT
     Q_PROPERTY(bool elided MEMBER m_elided)

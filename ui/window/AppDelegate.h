@@ -28,7 +28,6 @@ public:
 
     AppDelegate();
     ~AppDelegate() override;
-    Q_DISABLE_COPY_MOVE(AppDelegate)
 
     [[nodiscard]] QMainWindow *window() { return &m_window; }
     [[nodiscard]] WindowUIState uiState() const { return m_uiState; }

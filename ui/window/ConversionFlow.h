@@ -21,7 +21,6 @@ class ConversionFlow : public QObject {
 public:
     ConversionFlow(QMainWindow &window, const FileIntake &intake);
     ~ConversionFlow() override;
-    Q_DISABLE_COPY_MOVE(ConversionFlow)
 
     void choose(const std::optional<VideoConstraints> &constraints);
     /// Asks, then cancels the conversion that is shown. True when it is cancelled.

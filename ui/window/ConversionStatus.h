@@ -14,8 +14,7 @@
 
 class QLabel;
 
-/// Tells of a conversion outside of the bar: title, task bar, time left, notification; and keeps
-/// the machine awake for it.
+/// Tells of a conversion beside the bar, and keeps the machine awake for it.
 class ConversionStatus : public QObject {
     Q_OBJECT
 

@@ -21,8 +21,7 @@ constexpr auto describedKey = "isDescribed";
 /// Some desktops mark a letter of a menu item as its key.
 QString title(const QAction *item) { return item->text().remove(u'&'); }
 
-/// An entry for screen readers, which tells its tool tip as its description; the toolkit's own
-/// tells no description.
+/// Tells screen readers the tool tip as a description; the toolkit's own tells none.
 class EntryInterface : public QAccessibleObject, public QAccessibleActionInterface {
 public:
     using QAccessibleObject::QAccessibleObject;

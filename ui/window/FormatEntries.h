@@ -22,8 +22,7 @@ void prepare(QMenu &menu);
 void remember(QMenu &menu, QAction &entry);
 [[nodiscard]] std::optional<VideoConstraints> constraintsOf(
     const Ui::MainWindow &outlets, const QAction *item);
-/// Marks the entries that only copy this video, says of each what it does, and disables those that
-/// would make nothing of it.
+/// Marks those that only copy this video, disables those that make nothing of it, explains all.
 void mark(const Ui::MainWindow &outlets, const JSON &info);
 
 }

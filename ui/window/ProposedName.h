@@ -3,7 +3,6 @@
 
 #include <QString>
 
-/// What the save sheet proposes, without extension: the source's name, at most 25 characters,
-/// numbered where that would be the source itself. Looks at the disk.
+/// The source's name, at most 25 characters, numbered where that would be the source itself.
 [[nodiscard]] QString proposedName(
     const QString &sourcePath, const QString &folder, const QString &ext);

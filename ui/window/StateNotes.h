@@ -11,8 +11,8 @@ class FileIntake;
 struct Outcome;
 struct PlannedWork;
 
-/// Says beside the states' own texts what is known of the video and its result, and offers what the
-/// user may want next. Made before what changes the state, so that the texts are there in time.
+/// What is known of the video and its result, and links to what the user may want next.
+/// Made before what changes the state, so that the texts are there in time.
 class StateNotes : public QObject {
     Q_OBJECT
 

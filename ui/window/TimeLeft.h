@@ -14,8 +14,7 @@ public:
 
     /// Notes the fraction of 0 to 1 reached; one that falls starts the estimate anew.
     void add(Duration elapsed, double fraction);
-    /// Units: seconds, rounded as far as they can be relied on; absent while it is not steady and
-    /// at the end.
+    /// Units: seconds, rounded; absent while it is not steady and at the end.
     [[nodiscard]] std::optional<qint64> estimate() const;
 
 private:
