@@ -62,20 +62,19 @@ QStringList filesOnCommandLine(const QApplication &application)
 class Services {
 public:
     explicit Services(AppDelegate &delegate)
-        : m_window(delegate.window())
-        , m_updater(UpdaterSettings::configured())
-        , m_dialogs(m_updater, m_window, QUrl(Configuration::siteUrl()))
+        : m_updater(UpdaterSettings::configured())
+        , m_dialogs(m_updater, delegate.window(), QUrl(Configuration::siteUrl()))
     {
         m_updater.setDelegate(&m_updaterDelegate);
         addHelpMenu(delegate, m_updater);
         m_session.begin();
-        m_crashReports.uploadPending(
-            [this](const QString &report) { return askToSendReport(m_window, report); });
+        m_crashReports.uploadPending([window = delegate.window()](const QString &report) {
+            return askToSendReport(window, report);
+        });
         m_updater.checkInBackground();
     }
 
 private:
-    QWidget *m_window;
     UpdaterDelegate m_updaterDelegate;
     Updater m_updater;
     UpdateDialogs m_dialogs;

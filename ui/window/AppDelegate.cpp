@@ -106,8 +106,7 @@ AppDelegate::AppDelegate()
     m_window.restoreGeometry(Defaults::value(placeKey).toByteArray());
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
-    connectOutlets();
-    connectMenus();
+    connectControls();
     connectWork();
     m_window.installEventFilter(this);
     qApp->installEventFilter(this);
@@ -173,38 +172,12 @@ void AppDelegate::showStateInMenus()
     outlets.startOverAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
 }
 
-void AppDelegate::connectOutlets()
-{
-    const Ui::MainWindow &outlets = *m_outlets;
-    FileIntake *intake = m_intake.get();
-    connect(outlets.dropAcceptor, &DropBox::performDragOperation, intake,
-        &FileIntake::performDragOperation);
-    connect(outlets.openFromFolderLabel, &TextField::clicked, intake, &FileIntake::buttonPress);
-    connect(outlets.openFolderImageView, &ImageView::clicked, m_conversion.get(),
-        &ConversionFlow::openFolder);
-    connect(outlets.cancelProgressImageView, &ImageView::clicked, this,
-        &AppDelegate::cancelProgressPressed);
-    connect(outlets.cancelProgressButton, &QPushButton::clicked, this,
-        &AppDelegate::cancelProgressPressed);
-    connect(outlets.stopExaminingButton, &QPushButton::clicked, intake, &FileIntake::cancel);
-    connect(
-        outlets.startOverButton, &QPushButton::clicked, this, &AppDelegate::startOverButtonPressed);
-    connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
-        if (m_uiState == WindowUIState::ConversionIsDone)
-            m_conversion->openFolder();
-        else
-            applicationShouldHandleReopen(m_window.isVisible());
-    });
-}
-
-void AppDelegate::connectMenus()
+void AppDelegate::connectControls()
 {
     const Ui::MainWindow &outlets = *m_outlets;
     const auto onTrigger = [](const QAction *action, auto *receiver, auto slot) {
         connect(action, &QAction::triggered, receiver, slot);
     };
-    outlets.convertToButton->setMenu(outlets.formatMenu);
-    connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
     onTrigger(
         outlets.repeatAction, this, [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
     onTrigger(outlets.openAction, m_intake.get(), &FileIntake::buttonPress);
@@ -212,9 +185,30 @@ void AppDelegate::connectMenus()
     onTrigger(outlets.cancelAction, this, &AppDelegate::cancelProgressPressed);
     onTrigger(outlets.revealAction, m_conversion.get(), &ConversionFlow::openFolder);
     onTrigger(outlets.startOverAction, this, &AppDelegate::startOverButtonPressed);
-    outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
     onTrigger(outlets.quitAction, &m_window, &QWidget::close);
     onTrigger(outlets.aboutAction, this, &AppDelegate::showAboutWindow);
+    outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
+
+    const auto onClick = []<class View>(const View *view, QAction *action) {
+        connect(view, &View::clicked, action, &QAction::trigger);
+    };
+    onClick(outlets.openFromFolderLabel, outlets.openAction);
+    onClick(outlets.stopExaminingButton, outlets.cancelAction);
+    onClick(outlets.cancelProgressButton, outlets.cancelAction);
+    onClick(outlets.cancelProgressImageView, outlets.cancelAction);
+    onClick(outlets.openFolderImageView, outlets.revealAction);
+    onClick(outlets.showInFolderLabel, outlets.revealAction);
+    onClick(outlets.startOverButton, outlets.startOverAction);
+    outlets.convertToButton->setMenu(outlets.formatMenu);
+    connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
+    connect(outlets.dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
+        &FileIntake::performDragOperation);
+    connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
+        if (m_uiState == WindowUIState::ConversionIsDone)
+            m_conversion->openFolder();
+        else
+            applicationShouldHandleReopen(m_window.isVisible());
+    });
 }
 
 void AppDelegate::connectWork()

@@ -47,8 +47,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void connectOutlets();
-    void connectMenus();
+    void connectControls();
     void connectWork();
     void showIntake();
     void showStateInMenus();

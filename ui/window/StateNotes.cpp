@@ -34,8 +34,6 @@ StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFl
     connect(m_outlets.anotherFormatLabel, &TextField::clicked, &m_intake, &FileIntake::takeAgain);
     connect(m_outlets.logLabel, &TextField::clicked, this, &StateNotes::showLog);
     connect(m_outlets.copyCommandLabel, &TextField::clicked, this, &StateNotes::copyCommand);
-    connect(m_outlets.showInFolderLabel, &TextField::clicked, &m_conversion,
-        &ConversionFlow::openFolder);
     connect(m_outlets.openResultButton, &QPushButton::clicked, &m_conversion,
         &ConversionFlow::openResult);
     // The marks have the colours of the moment.
