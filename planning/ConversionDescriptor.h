@@ -37,6 +37,4 @@ struct ConversionDescriptor {
 
     [[nodiscard]] QStringList ffmpegArguments(const QString &path, const QString &destPath,
         const JSON &conversionInfo, const VideoDimensionsConstraints &constraints) const;
-
-    bool operator==(const ConversionDescriptor &) const = default;
 };

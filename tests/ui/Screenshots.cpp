@@ -33,6 +33,11 @@ private:
         const QPixmap picture = window->screen()->grabWindow(0);
         QVERIFY(picture.save(m_pictures + u'/' + name + u".png"_s));
     }
+    void centre()
+    {
+        auto *window = m_delegate->window();
+        window->move(window->screen()->geometry().center() - window->rect().center());
+    }
     void drag(const QString &address, const QString &name)
     {
         QMimeData data;
@@ -50,9 +55,7 @@ private:
 private Q_SLOTS:
     void states()
     {
-        const QSize screen = m_delegate->window()->screen()->size();
-        m_delegate->window()->move(
-            QRect(QPoint(), screen).center() - m_delegate->window()->rect().center());
+        centre();
         take(u"1-initial"_s);
         drag(url(u"video.mov"_s), u"1-dragged-file"_s);
         drag(u"http://localhost/page"_s, u"1-dragged-link"_s);
@@ -104,9 +107,7 @@ private Q_SLOTS:
 
     void outcomes()
     {
-        const QSize screen = m_delegate->window()->screen()->size();
-        m_delegate->window()->move(
-            QRect(QPoint(), screen).center() - m_delegate->window()->rect().center());
+        centre();
         Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
         QVERIFY(QFile::copy(m_video, path(u"result.mkv"_s)));

@@ -54,10 +54,9 @@ Answer ask(const QString &place, const QByteArray &request, const QDeadlineTimer
     socket.connectToServer(place);
     if (!socket.waitForConnected(left())) {
         const auto error = socket.error();
-        return error == QLocalSocket::ConnectionRefusedError
-                || error == QLocalSocket::ServerNotFoundError
-            ? Answer::Nobody
-            : Answer::Silence;
+        const bool isNobody = error == QLocalSocket::ConnectionRefusedError
+            || error == QLocalSocket::ServerNotFoundError;
+        return isNobody ? Answer::Nobody : Answer::Silence;
     }
     socket.write(request);
     while (!socket.canReadLine() && !deadline.hasExpired() && socket.waitForReadyRead(left())) { }

@@ -50,8 +50,8 @@ void TextField::resetCursorRects()
 
 QSize TextField::minimumSizeHint() const
 {
-    const QSize hint = QLabel::minimumSizeHint();
-    return m_elided ? QSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height()) : hint;
+    return m_elided ? QSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height())
+                    : QLabel::minimumSizeHint();
 }
 
 bool TextField::event(QEvent *event)

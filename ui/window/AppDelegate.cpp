@@ -273,8 +273,7 @@ void AppDelegate::applicationDidFinishLaunching()
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
     m_conversion->stayOpen();
-    if (!hasVisibleWindows || m_window.isMinimized())
-        m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
+    m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     if (!hasVisibleWindows)
         m_window.activateWindow();

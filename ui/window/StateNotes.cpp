@@ -119,9 +119,9 @@ void StateNotes::conversionFailed(const Outcome &outcome)
 
 void StateNotes::clearFailure()
 {
-    for (QLabel *label : { m_outlets.refusalLabel, static_cast<QLabel *>(m_outlets.logLabel),
-             static_cast<QLabel *>(m_outlets.anotherFormatLabel) })
-        label->clear();
+    m_outlets.refusalLabel->clear();
+    m_outlets.logLabel->clear();
+    m_outlets.anotherFormatLabel->clear();
 }
 
 void StateNotes::copyCommand()
