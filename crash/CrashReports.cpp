@@ -14,14 +14,16 @@ namespace {
 constexpr qsizetype keptReports = 10;
 constexpr qint64 reportLimit = qint64{ 64 } * 1024;
 
-QStringList reports(const QString &pattern)
+QStringList reports(const QString &suffix)
 {
     QStringList paths;
     const QDir folder(CrashReporter::folder());
-    const auto entries = folder.entryInfoList(
-        { pattern }, QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
-    for (const QFileInfo &entry : entries)
-        paths.append(entry.filePath());
+    const auto entries
+        = folder.entryInfoList(QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        if (entry.fileName().startsWith("crash-"_L1) && entry.fileName().endsWith(suffix))
+            paths.append(entry.filePath());
+    }
     return paths;
 }
 
@@ -43,14 +45,14 @@ QString marked(const QString &path, const QString &state)
 CrashReports::CrashReports(QObject *parent)
     : QObject(parent)
 {
-    const QStringList old = reports(u"crash-*.txt"_s).mid(keptReports);
+    const QStringList old = reports(u".txt"_s).mid(keptReports);
     for (const QString &path : old)
         QFile::remove(path);
 }
 
 QStringList CrashReports::pending() const
 {
-    QStringList paths = reports(u"crash-*.txt"_s);
+    QStringList paths = reports(u".txt"_s);
     paths.removeIf([](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
     return paths;
 }
@@ -60,7 +62,7 @@ void CrashReports::uploadPending(const Question &ask)
     if (!CrashService::isConfigured())
         return;
     const QPointer<CrashReports> self(this);
-    const QStringList agreed = reports(u"crash-*.agreed.txt"_s);
+    const QStringList agreed = reports(u".agreed.txt"_s);
     for (const QString &path : pending()) {
         const SendReport answer = CrashService::mayAlwaysSend()
             ? SendReport::Always

@@ -54,11 +54,12 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 QStringList Bundle::localizations() const
 {
     const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList folders
-        = resources.entryList({ u'*' + localizationSuffix }, QDir::Dirs, QDir::Name);
-    for (QString &folder : folders)
-        folder.chop(localizationSuffix.size());
-    return folders;
+    QStringList languages;
+    for (const QString &folder : resources.entryList(QDir::Dirs, QDir::Name)) {
+        if (folder.endsWith(localizationSuffix))
+            languages << folder.chopped(localizationSuffix.size());
+    }
+    return languages;
 }
 
 QString Bundle::localizationPath(const QString &language) const

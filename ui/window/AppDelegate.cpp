@@ -13,6 +13,7 @@
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
+#include "ui/widgets/Announcement.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
@@ -22,7 +23,6 @@
 #include "ui/window/VideoWords.h"
 #include "ui_MainWindow.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QFileOpenEvent>
@@ -80,12 +80,6 @@ void dress(const Ui::MainWindow &outlets, int line)
     Clickable::enable(outlets.openFolderImageView);
 }
 
-void announce(QWidget *outlet)
-{
-    QAccessibleEvent event(outlet, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
-}
-
 }
 
 AppDelegate::AppDelegate()
@@ -95,6 +89,7 @@ AppDelegate::AppDelegate()
     Q_INIT_RESOURCE(artwork);
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
+    m_announcement = new Announcement(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
@@ -136,17 +131,19 @@ void AppDelegate::setUiState(WindowUIState state)
         m_status->stateChanged(former, state);
         // The texts that go with the state are set after it.
         QMetaObject::invokeMethod(
-            this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
+            this, [this] { m_announcement->say(spokenOutlet(*m_outlets, m_uiState)); },
+            Qt::QueuedConnection);
     }
 }
 
 void AppDelegate::showIntake()
 {
     const QString kept = Path::lastPathComponent(m_intake->keptPath());
-    m_outlets->keptLabel->setText(
-        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
-                      "name of a video that came while another one is converted"),
-            { kept }));
+    if (!kept.isEmpty())
+        m_outlets->keptLabel->setText(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                          "name of a video that came while another one is converted"),
+                { kept }));
     m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
     // A result stays to be looked at until the user starts over.
     if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
@@ -224,7 +221,7 @@ void AppDelegate::connectWork()
         [this] { setUiState(WindowUIState::InitialState); });
     connect(m_intake.get(), &FileIntake::kept, this, [this] {
         showIntake();
-        announce(m_outlets->keptLabel);
+        m_announcement->say(m_outlets->keptLabel);
     });
     connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
     connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
@@ -240,7 +237,7 @@ void AppDelegate::connectWork()
             Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
         if (!m_outlets->remarksLabel->text().isEmpty())
-            announce(m_outlets->remarksLabel);
+            m_announcement->say(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
@@ -323,7 +320,7 @@ void AppDelegate::showRefusal(const Outcome &refusal)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
     applyWindowUIState(*m_outlets, m_uiState);
-    announce(m_outlets->refusalLabel);
+    m_announcement->say(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)

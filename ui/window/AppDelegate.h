@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class Announcement;
 class ConversionFlow;
 class ConversionStatus;
 class FileIntake;
@@ -61,6 +62,7 @@ private:
 
     QMainWindow m_window;
     std::unique_ptr<Ui::MainWindow> m_outlets;
+    Announcement *m_announcement = nullptr;
     std::unique_ptr<ConversionStatus> m_status;
     std::unique_ptr<FileIntake> m_intake;
     std::unique_ptr<ConversionFlow> m_conversion;
