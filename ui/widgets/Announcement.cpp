@@ -1,22 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/Announcement.h"
 
-#include <QAccessibleWidget>
-
-namespace {
-
-QAccessibleInterface *notificationOf(const QString &, QObject *object)
-{
-    auto *announcement = qobject_cast<Announcement *>(object);
-    return announcement ? new QAccessibleWidget(announcement, QAccessible::Notification) : nullptr;
-}
-
-}
+#include <QAccessible>
 
 Announcement::Announcement(QWidget *window)
     : QWidget(window)
 {
-    QAccessible::installFactory(notificationOf);
     setGeometry(0, 0, 0, 0);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/Clickable.h"
 
+#include "ui/widgets/Announcement.h"
 #include "ui/widgets/ImageView.h"
 #include "ui/widgets/SpinningView.h"
 #include "ui/widgets/TextField.h"
@@ -67,6 +68,8 @@ QAccessibleInterface *makeInterface(const QString &, QObject *object)
         return new ClickableInterface(label, QAccessible::StaticText);
     if (auto *spinner = qobject_cast<SpinningView *>(object))
         return new SpinnerInterface(spinner, QAccessible::Animation);
+    if (auto *announcement = qobject_cast<Announcement *>(object))
+        return new QAccessibleWidget(announcement, QAccessible::Notification);
     return nullptr;
 }
 

@@ -13,7 +13,7 @@ void enable(QWidget *view);
 [[nodiscard]] bool isPressed(QWidget &view, const QEvent &event);
 /// A ring around the view that has the focus, once the user moves it by keyboard.
 void paintFocus(QPainter &painter, const QWidget &view);
-/// Tells screen readers that such views are buttons, and that a spinner is one. Called once.
+/// Tells screen readers what the views of this folder are. Called once.
 void installAccessibility();
 
 }
