@@ -3,7 +3,6 @@
 #include "app/HelpMenu.h"
 #include "crash/Crash.h"
 #include "crash/CrashReports.h"
-#include "crash/SessionEvents.h"
 #include "crash/dialog/CrashQuestion.h"
 #include "engine/Async.h"
 #include "engine/FFMPEG.h"
@@ -72,7 +71,7 @@ public:
 
     void start()
     {
-        m_session.begin();
+        m_crashReports.beginSession();
         m_crashReports.uploadPending(
             [this](const QString &report) { return askToSendReport(m_window, report); });
         m_updater.checkInBackground();
@@ -85,7 +84,6 @@ private:
     UpdateDialogs m_dialogs;
     HelpMenu m_helpMenu;
     CrashReports m_crashReports;
-    SessionEvents m_session;
 };
 
 int runWindow(SingleInstance &instance, const QStringList &videos)
