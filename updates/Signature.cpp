@@ -3,21 +3,13 @@
 
 #include <sodium.h>
 
-namespace {
-
-const unsigned char *bytes(const QByteArray &data)
+bool isSignedBy(QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message)
 {
-    return reinterpret_cast<const unsigned char *>(data.constData());
-}
-
-}
-
-bool isSignedBy(const QByteArray &publicKey, const QByteArray &signature,
-    std::span<const unsigned char> message)
-{
+    const auto bytes
+        = [](QByteArrayView view) { return reinterpret_cast<const unsigned char *>(view.data()); };
     return publicKey.size() == crypto_sign_PUBLICKEYBYTES && signature.size() == crypto_sign_BYTES
         && sodium_init() >= 0
-        && crypto_sign_verify_detached(
-               bytes(signature), message.data(), message.size(), bytes(publicKey))
+        && crypto_sign_verify_detached(bytes(signature), bytes(message),
+               static_cast<std::size_t>(message.size()), bytes(publicKey))
         == 0;
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-
-#include <span>
+#include <QByteArrayView>
 
 /// An Ed25519 signature over exactly these bytes. Keys are 32 bytes, signatures 64. Thread: any.
-[[nodiscard]] bool isSignedBy(const QByteArray &publicKey, const QByteArray &signature,
-    std::span<const unsigned char> message);
+[[nodiscard]] bool isSignedBy(
+    QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message);

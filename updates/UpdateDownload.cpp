@@ -41,10 +41,8 @@ UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)
 
 void UpdateDownload::start()
 {
-    if (!m_file.open()) {
-        Q_EMIT failed(false);
-        return;
-    }
+    if (!m_file.open())
+        return Q_EMIT failed(false);
     auto *fetch = new Fetch(m_network, m_item.url, m_file, m_target.limits, this);
     connect(fetch, &Fetch::progressed, this, &UpdateDownload::progressed);
     connect(fetch, &Fetch::finished, this, &UpdateDownload::finish);
@@ -54,23 +52,14 @@ void UpdateDownload::finish(bool complete)
 {
     const qint64 size = m_file.size();
     const uchar *bytes = complete && m_file.flush() && size > 0 ? m_file.map(0, size) : nullptr;
-    if (!bytes) {
-        Q_EMIT failed(false);
-        return;
-    }
-    if (!isSignedBy(
-            m_target.publicKey, m_item.signature, { bytes, static_cast<std::size_t>(size) })) {
-        Q_EMIT failed(true);
-        return;
-    }
+    const QByteArrayView content(bytes, bytes ? size : 0);
+    const bool isSigned = bytes && isSignedBy(m_target.publicKey, m_item.signature, content);
     QFile file;
     const QString name = u"VideoConverter-"_s + m_item.versionText;
-    const bool isOpen = openNew(file, m_target.folder, name, fileKind(m_item.url));
-    if (isOpen && file.write(reinterpret_cast<const char *>(bytes), size) == size && file.flush()) {
-        Q_EMIT saved(file.fileName());
-        return;
-    }
+    const bool isOpen = isSigned && openNew(file, m_target.folder, name, fileKind(m_item.url));
+    if (isOpen && file.write(content.data(), size) == size && file.flush())
+        return Q_EMIT saved(file.fileName());
     if (isOpen)
         file.remove();
-    Q_EMIT failed(false);
+    Q_EMIT failed(bytes && !isSigned);
 }

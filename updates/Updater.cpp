@@ -35,12 +35,6 @@ bool isCheckDue()
     return !last.isValid() || qAbs(last.secsTo(QDateTime::currentDateTimeUtc())) >= secondsPerDay;
 }
 
-std::span<const unsigned char> bytesOf(const QByteArray &data)
-{
-    return { reinterpret_cast<const unsigned char *>(data.constData()),
-        static_cast<std::size_t>(data.size()) };
-}
-
 }
 
 UpdaterSettings UpdaterSettings::configured()
@@ -57,8 +51,6 @@ Updater::Updater(UpdaterSettings settings, QObject *parent)
 {
     connect(&m_hourly, &QTimer::timeout, this, &Updater::checkInBackground);
 }
-
-Updater::~Updater() = default;
 
 void Updater::checkForUpdates()
 {
@@ -133,9 +125,9 @@ UpdateCheck Updater::judged(const QByteArray &feed) const
 
 bool Updater::isSignedItem(const AppcastItem &item) const
 {
-    const QByteArray statement = item.signature + item.versionText.toUtf8();
     return item.url.isValid() && item.signature.size() == 64
-        && isSignedBy(m_publicKey, item.versionSignature, bytesOf(statement));
+        && isSignedBy(
+            m_publicKey, item.versionSignature, item.signature + item.versionText.toUtf8());
 }
 
 std::unique_ptr<UpdateDownload> Updater::download(const AppcastItem &item) const

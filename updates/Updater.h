@@ -45,8 +45,6 @@ class Updater : public QObject {
     Q_OBJECT
 public:
     explicit Updater(UpdaterSettings settings, QObject *parent = nullptr);
-    ~Updater() override;
-    Q_DISABLE_COPY_MOVE(Updater)
 
     /// Asked before each check; outlives the updater.
     void setDelegate(const UpdaterDelegate *delegate) { m_delegate = delegate; }
