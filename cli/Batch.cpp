@@ -2,6 +2,8 @@
 #include "cli/Batch.h"
 
 #include "cli/report/Diagnostics.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "engine/Async.h"
 #include "engine/Conversion.h"
 #include "engine/ExistingResult.h"
@@ -18,13 +20,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-/// Encoders use several threads themselves: more jobs than cores only cost memory.
-std::size_t jobsWanted(int number)
-{
-    const int jobs = number == 0 ? QThread::idealThreadCount() : number;
-    return static_cast<std::size_t>(std::max(jobs, 1));
-}
 
 /// What a folder holds beside videos is no failure; what is called a video there and can't be read
 /// is one.
@@ -61,15 +56,23 @@ Outcome outcomeOf(const Progress &progress)
     return outcome;
 }
 
+void printFailure(const ConversionItem &item, const Outcome &outcome)
+{
+    const bool isDestination = kindOf(outcome) == OutcomeKind::DestinationRefused;
+    const QString &file = isDestination ? item.destPath : item.input.name;
+    Output::failure(file, outcome);
+    for (const QString &remark : remarksOn(outcome))
+        Output::errorLine(printable(file + u": "_s + remark));
 }
 
-Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter,
-    Interruption &interruption)
+}
+
+Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter)
     : m_line(line)
     , m_items(std::move(items))
     , m_reporter(reporter)
-    , m_interruption(interruption)
-    , m_jobs(jobsWanted(line.jobs))
+    // Encoders use several threads themselves: more jobs than cores only cost memory.
+    , m_jobs(static_cast<std::size_t>(line.jobs > 0 ? line.jobs : QThread::idealThreadCount()))
     , m_firstFailed(m_items.size())
 {
     m_sum.all = m_items.size();
@@ -79,11 +82,11 @@ Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporte
     }
 }
 
-ExitCode Batch::run()
+ExitCode Batch::run(const Interruption &interruption)
 {
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &m_loop, [this] { report(); });
-    QObject::connect(&m_interruption, &Interruption::arrived, &m_loop, [this] { stop(); });
+    QObject::connect(&interruption, &Interruption::arrived, &m_loop, [this] { stop(); });
     timer.start(m_reporter.interval());
     m_clock.start();
     MainQueue::post([this] { goOn(); });
@@ -228,7 +231,7 @@ void Batch::report()
             .elapsed = std::chrono::milliseconds(running.clock.elapsed()) };
         sample.left = running.steadyTime.shown(sample.secondsLeft());
         fraction += running.progress->fractionCompleted();
-        samples.push_back({ &m_items[index], sample });
+        samples.push_back({ m_items[index], sample, running.told });
     }
     // What was skipped took no time and says nothing about the rest.
     constexpr qint64 parts = 1000;
@@ -270,6 +273,7 @@ void Batch::settle(std::size_t index, const Outcome &outcome)
     ++m_sum.failed;
     m_isCancelled |= kindOf(outcome) == OutcomeKind::Cancelled;
     m_reporter.failed(m_items[index], outcome);
+    printFailure(m_items[index], outcome);
     if (index < m_firstFailed) {
         m_firstFailed = index;
         m_code = exitCodeOf(kindOf(outcome));

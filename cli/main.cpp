@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 #include "cli/report/Diagnostics.h"
-#include "cli/report/JsonReporter.h"
 #include "cli/report/Output.h"
+#include "cli/report/Reporter.h"
 #include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/StagedList.h"
@@ -44,7 +44,7 @@ ExitCode shown(const UsageText &usage)
     else
         Output::errorLine(usage.text);
     if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
-        JsonReporter::misused(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
+        printMisuse(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
     return usage.code;
 }
 
