@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/arguments/EntryName.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "planning/ConversionDescriptor.h"
@@ -29,30 +30,24 @@ constexpr std::array groups{
         QT_TRANSLATE_NOOP3("Localizable", "MP4 quality", "Heading of a group of outputs") },
 };
 
-VideoConstraints entryNamed(const QString &name)
-{
-    return *videoConstraints(name, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s);
-}
-
 qint64 longestSide(const VideoDimensionsConstraints &dimension)
 {
     return std::max(dimension.maximum()->width, dimension.maximum()->height);
 }
 
-QString plainLine(const QString &name)
+QString plainLine(const VideoConstraints &entry)
 {
-    const VideoConstraints entry = entryNamed(name);
-    QString text = u"  "_s + leftJustified(name, 36) + conversionDescriptor(entry.format).ext;
+    QString text
+        = u"  "_s + leftJustified(entry.destDevice, 36) + conversionDescriptor(entry.format).ext;
     if (entry.dimension.maximum())
         text = leftJustified(text, 44) + u"<= "_s
             + QString::number(longestSide(entry.dimension)).rightJustified(4) + u" px"_s;
     return text;
 }
 
-QJsonObject jsonEntry(const QString &name, QLatin1StringView group)
+QJsonObject jsonEntry(const VideoConstraints &entry, QLatin1StringView group)
 {
-    const VideoConstraints entry = entryNamed(name);
-    QJsonObject object{ { u"name"_s, name }, { u"group"_s, group },
+    QJsonObject object{ { u"name"_s, entry.destDevice }, { u"group"_s, group },
         { u"extension"_s, conversionDescriptor(entry.format).ext },
         { u"maximum"_s, QJsonValue::Null } };
     if (entry.dimension.maximum())
@@ -62,17 +57,18 @@ QJsonObject jsonEntry(const QString &name, QLatin1StringView group)
 
 }
 
-ExitCode listFormats(const CommandLine &line)
+ExitCode listFormats(const CommandLine &line, Interruption & /*interruption*/)
 {
     QJsonArray list;
     for (const Group &group : groups) {
         if (!line.json)
             Output::line(localized(group.heading));
         for (const QString &name : entryNames(group.group)) {
+            const VideoConstraints entry = entryMeant(name).value();
             if (line.json)
-                list << jsonEntry(name, group.id);
+                list << jsonEntry(entry, group.id);
             else
-                Output::line(plainLine(name));
+                Output::line(plainLine(entry));
         }
     }
     if (line.json)

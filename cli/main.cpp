@@ -24,17 +24,9 @@ namespace {
 ExitCode run(const CommandLine &line)
 {
     Interruption interruption;
-    switch (line.verb) {
-    case Verb::Formats:
-        return listFormats(line);
-    case Verb::Probe:
-        return probeVideos(line, interruption);
-    case Verb::Plan:
-        return planConversions(line, interruption);
-    case Verb::Convert:
-        return convertVideos(line, interruption);
-    }
-    return ExitCode::Usage;
+    // In the order of the verbs.
+    constexpr std::array commands{ listFormats, probeVideos, planConversions, convertVideos };
+    return commands.at(static_cast<std::size_t>(line.verb))(line, interruption);
 }
 
 ExitCode shown(const UsageText &usage)

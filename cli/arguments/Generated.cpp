@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "cli/arguments/Generated.h"
-
 #include "cli/arguments/EntryName.h"
 #include "cli/arguments/Options.h"
 
@@ -197,11 +195,10 @@ complete -c video-converter-cli -n __fish_use_subcommand -f -a '%VERBS%'
 complete -c video-converter-cli -n '__fish_seen_subcommand_from formats' -f
 )"_s + lines.join(u'\n');
 }
+
 }
 
-namespace Generated {
-
-QString named(const QString &name)
+QString generatedText(const QString &name)
 {
     QString text;
     if (name == "man"_L1)
@@ -215,6 +212,4 @@ QString named(const QString &name)
     const QStringList verbs(verbNames.begin(), verbNames.end());
     return text.replace(u"%NAMES%"_s, entryNames().join(u'\n'))
         .replace(u"%VERBS%"_s, verbs.join(u' '));
-}
-
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/arguments/Help.h"
-
+#include "cli/arguments/Options.h"
 #include "cli/report/ShownText.h"
 #include "support/Format.h"
 
