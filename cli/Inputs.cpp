@@ -65,17 +65,11 @@ std::vector<Input> inputsIn(const CommandLine &line)
 
 std::optional<QStringList> namesIn(const CommandLine &line)
 {
-    QByteArray bytes;
-    if (line.list == u"-") {
-        bytes = StandardInput::readAll(listLimit);
-    } else {
-        QFile file(line.list);
-        if (!file.open(QIODevice::ReadOnly))
-            return std::nullopt;
-        bytes = file.read(listLimit);
-    }
+    const auto bytes = StandardInput::contentsOf(line.list, listLimit);
+    if (!bytes)
+        return std::nullopt;
     QStringList names;
-    for (const QByteArray &name : bytes.split(line.listIsNullSeparated ? '\0' : '\n'))
+    for (const QByteArray &name : bytes->split(line.listIsNullSeparated ? '\0' : '\n'))
         names << QFile::decodeName(name);
     names.removeAll(QString());
     return names;

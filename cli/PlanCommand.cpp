@@ -11,7 +11,6 @@
 #include "support/Interruption.h"
 #include "support/StandardInput.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -24,15 +23,11 @@ constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 /// Media information as the tool prints it, or as 'probe --json' wraps it.
 std::variant<JSON, Outcome> savedInfo(const QString &name)
 {
-    QFile file(name);
-    QByteArray bytes;
-    if (name == "-"_L1 || name == "/dev/stdin"_L1)
-        bytes = StandardInput::readAll(infoLimit);
-    else if (file.open(QIODevice::ReadOnly))
-        bytes = file.read(infoLimit);
-    else
+    const bool isInput = name == "/dev/stdin"_L1;
+    const auto bytes = StandardInput::contentsOf(isInput ? u"-"_s : name, infoLimit);
+    if (!bytes)
         return Outcome{ Reason::InfoNotReadable };
-    const JSON json = JSON::parse(bytes);
+    const JSON json = JSON::parse(*bytes);
     if (json.value().isNull())
         return Outcome{ Reason::InfoNoJson };
     const JSON inner = json[u"info"_s];

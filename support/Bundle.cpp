@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto localizationSuffix = ".lproj"_L1;
-
 QString mainBundlePath()
 {
     const QFileInfo executable(
@@ -54,14 +52,11 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 QStringList Bundle::localizations() const
 {
     const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList folders
-        = resources.entryList({ u'*' + localizationSuffix }, QDir::Dirs, QDir::Name);
-    for (QString &folder : folders)
-        folder.chop(localizationSuffix.size());
-    return folders;
+    QStringList folders = resources.entryList({ u"*.lproj"_s }, QDir::Dirs, QDir::Name);
+    return folders.replaceInStrings(u".lproj"_s, QString());
 }
 
 QString Bundle::localizationPath(const QString &language) const
 {
-    return m_bundlePath + "/Contents/Resources/"_L1 + language + localizationSuffix;
+    return m_bundlePath + "/Contents/Resources/"_L1 + language + ".lproj"_L1;
 }

@@ -43,23 +43,19 @@ JSON JSON::parse(const QByteArray &bytes)
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
     if (document.isObject())
         return JSON(document.object());
-    if (document.isArray())
-        return JSON(document.array());
-    return {};
+    return document.isArray() ? JSON(document.array()) : JSON();
 }
 
 JSON JSON::operator[](const QString &key) const
 {
-    const QJsonValue member = m_value.toObject().value(key);
+    const QJsonValue member = m_value[key];
     return member.isUndefined() ? JSON() : JSON(member);
 }
 
 std::vector<JSON> JSON::array() const
 {
-    std::vector<JSON> elements;
     const QJsonArray values = m_value.toArray();
-    for (const auto &element : values)
-        elements.emplace_back(element);
+    std::vector<JSON> elements(values.begin(), values.end());
     return elements;
 }
 
@@ -68,14 +64,7 @@ std::optional<QString> JSON::string() const
     return m_value.isString() ? std::optional(m_value.toString()) : std::nullopt;
 }
 
-QString JSON::stringValue() const
-{
-    if (m_value.isDouble())
-        return m_value.toVariant().toString();
-    if (m_value.isBool())
-        return m_value.toBool() ? u"true"_s : u"false"_s;
-    return m_value.toString();
-}
+QString JSON::stringValue() const { return m_value.toVariant().toString(); }
 
 std::optional<qint64> JSON::integer() const
 {

@@ -53,14 +53,9 @@ QString max(const QString &text, int count)
 
 qint64 asInt(QStringView text)
 {
-    const QStringView digits
-        = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    if (digits.isEmpty() || !std::ranges::all_of(digits, isDigit))
-        return 0;
-    bool fits = false;
-    const qint64 number = text.toLongLong(&fits);
-    return fits ? number : 0;
+    // White space and null characters around a number do not belong to it.
+    const auto isPart = [](QChar c) { return c.isDigit() || c == u'+' || c == u'-'; };
+    return std::ranges::all_of(text, isPart) ? text.toLongLong() : 0;
 }
 
 qint64 asInt64(QStringView text) { return asInt(text); }
