@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Batch.h"
 
-#include "cli/report/Diagnostics.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "engine/Async.h"
@@ -52,7 +51,7 @@ Outcome outcomeOf(const Progress &progress)
     // The engine prints the output of a failed tool itself, unless it can't be decoded.
     const QByteArray output = progress.toolOutput();
     if (!hasFailed || Text::stringValue(output).isEmpty())
-        Diagnostics::write(output);
+        Output::diagnostics(output);
     return outcome;
 }
 

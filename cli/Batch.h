@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ConversionItem.h"
+#include "cli/Inputs.h"
 #include "cli/report/Reporter.h"
 #include "engine/ConversionRun.h"
 #include "engine/Destination.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
+#include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
@@ -47,14 +47,9 @@ QStringList plannedArguments(
         .ffmpegArguments(QString(), QString(), info, entry.dimension);
 }
 
-QString shellLine(const ConversionItem *item, const QStringList &arguments)
-{
-    return item ? shellQuoted(QStringList{ toolPath(Tool::Ffmpeg) } + arguments)
-                : shellQuoted(arguments);
-}
-
 void print(const CommandLine &line, const ConversionItem *item, const JSON &info)
 {
+    const QStringList tool = item ? QStringList{ toolPath(Tool::Ffmpeg) } : QStringList();
     QJsonObject object;
     for (const VideoConstraints &entry : line.entries) {
         const QStringList arguments = plannedArguments(item, entry, info);
@@ -63,7 +58,7 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             continue;
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(shellLine(item, arguments));
+        Output::line(shellQuoted(tool + arguments));
     }
     if (line.json)
         Output::json(QJsonDocument(object), QJsonDocument::Indented);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/report/Diagnostics.h"
 #include "cli/report/Output.h"
 #include "cli/report/Reporter.h"
 #include "engine/Async.h"
@@ -62,7 +61,7 @@ int exitStatus(ExitCode code)
 int main(int argc, char *argv[])
 {
     StandardInput::setAside();
-    Diagnostics::take();
+    Output::takeDiagnostics();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"video-converter-cli"_s);
     QCoreApplication::setApplicationVersion(Configuration::version());
@@ -74,7 +73,7 @@ int main(int argc, char *argv[])
         return exitStatus(shown(*text));
     const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
-        Diagnostics::show();
+        Output::showDiagnostics();
     if (const QString destination = line.output + line.folder;
         destination.contains(QChar::ReplacementCharacter)
         && !std::all_of(argv, argv + argc, isText))

@@ -108,26 +108,15 @@ complete -F _video_converter_cli video-converter-cli)"_s
         .replace(u"%CASES%"_s, cases(u"        %1) words=\"%2\" ;;"_s, u" "_s, spellings));
 }
 
-QString zshAction(const OptionRow &row)
-{
-    switch (row.kind) {
-    case ValueKind::None:
-        return {};
-    case ValueKind::Entry:
-        return u":%1:{compadd -M 'm:{a-zA-Z}={A-Za-z}' -a names}"_s.arg(row.value);
-    case ValueKind::File:
-        return u":%1:_files"_s.arg(row.value);
-    case ValueKind::Folder:
-        return u":%1:_files -/"_s.arg(row.value);
-    case ValueKind::Text:
-        return u":%1: "_s.arg(row.value);
-    }
-    return {};
-}
-
 /// "'(-o --output)'{-o,--output}'[the file to write]:OUT:_files'"
 QString zshOption(const OptionRow &row)
 {
+    // In the order of the kinds.
+    constexpr std::array actions{ ""_L1, ":{compadd -M 'm:{a-zA-Z}={A-Za-z}' -a names}"_L1,
+        ":_files"_L1, ":_files -/"_L1, ": "_L1 };
+    QString action = actions.at(static_cast<std::size_t>(row.kind));
+    if (row.kind != ValueKind::None)
+        action.prepend(u':' + row.value).replace(u"'"_s, uR"('\'')"_s);
     const QString text = english(row)
                              .replace(u"'"_s, uR"('\'')"_s)
                              .replace(u':', uR"(\:)"_s)
@@ -135,7 +124,7 @@ QString zshOption(const OptionRow &row)
     const QString words = row.letter.isEmpty()
         ? u"'--%1"_s.arg(row.name)
         : u"'(-%1 --%2)'{-%1,--%2}'"_s.arg(row.letter, row.name);
-    return words + u"[%1]%2'"_s.arg(text, zshAction(row).replace(u"'"_s, uR"('\'')"_s));
+    return words + u"[%1]%2'"_s.arg(text, action);
 }
 
 QString zshCompletion()
@@ -162,6 +151,9 @@ _video_converter_cli "$@")zsh"_s.replace(u"%CASES%"_s,
 
 QString fishOption(const OptionRow &row)
 {
+    // In the order of the kinds.
+    constexpr std::array actions{ ""_L1, " -x -a '(__video_converter_names)'"_L1, " -r -F"_L1,
+        " -x -a '(__fish_complete_directories)'"_L1, " -x"_L1 };
     QString line = u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2"_s;
     QStringList verbs;
     for (std::size_t verb = 0; verb < verbNames.size(); ++verb) {
@@ -171,13 +163,8 @@ QString fishOption(const OptionRow &row)
     line = line.arg(verbs.join(u' '), row.name);
     if (!row.letter.isEmpty())
         line += u" -s "_s + row.letter;
-    if (row.kind == ValueKind::Entry)
-        line += u" -x -a '(__video_converter_names)'"_s;
-    else if (row.kind == ValueKind::Folder)
-        line += u" -x -a '(__fish_complete_directories)'"_s;
-    else if (row.kind != ValueKind::None)
-        line += row.kind == ValueKind::File ? u" -r -F"_s : u" -x"_s;
-    return line + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
+    return line + actions.at(static_cast<std::size_t>(row.kind))
+        + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
 }
 
 QString fishCompletion()
@@ -200,15 +187,11 @@ complete -c video-converter-cli -n '__fish_seen_subcommand_from formats' -f
 
 QString generatedText(const QString &name)
 {
-    QString text;
-    if (name == "man"_L1)
-        text = manOptions();
-    if (name == "bash"_L1)
-        text = bashCompletion();
-    if (name == "zsh"_L1)
-        text = zshCompletion();
-    if (name == "fish"_L1)
-        text = fishCompletion();
+    QString text = name == "man"_L1 ? manOptions()
+        : name == "bash"_L1         ? bashCompletion()
+        : name == "zsh"_L1          ? zshCompletion()
+        : name == "fish"_L1         ? fishCompletion()
+                                    : QString();
     const QStringList verbs(verbNames.begin(), verbNames.end());
     return text.replace(u"%NAMES%"_s, entryNames().join(u'\n'))
         .replace(u"%VERBS%"_s, verbs.join(u' '));

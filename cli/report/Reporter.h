@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ConversionItem.h"
+#include "cli/Inputs.h"
 #include "cli/report/ProgressLine.h"
 #include "planning/PlannedWork.h"
 
