@@ -20,7 +20,7 @@
 #include <QUuid>
 
 #include <atomic>
-#include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,32 +28,22 @@ namespace {
 
 std::atomic<bool> started = false;
 
-std::unique_ptr<QNetworkAccessManager> &managerSlot()
-{
-    static std::unique_ptr<QNetworkAccessManager> manager;
-    return manager;
-}
-
 QNetworkAccessManager &manager()
 {
-    if (!managerSlot()) {
-        managerSlot() = std::make_unique<QNetworkAccessManager>();
+    static QNetworkAccessManager *manager = nullptr;
+    if (!manager) {
+        manager = new QNetworkAccessManager;
         // Its own threads have to end while there still is an application object.
-        qAddPostRoutine([] { managerSlot().reset(); });
+        qAddPostRoutine([] { delete std::exchange(manager, nullptr); });
     }
-    return *managerSlot();
-}
-
-QUrl collectUrl()
-{
-    QUrl url(Configuration::collectorUrl());
-    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
-    return url;
+    return *manager;
 }
 
 QNetworkRequest collectRequest()
 {
-    QNetworkRequest request(collectUrl());
+    QUrl url(Configuration::collectorUrl());
+    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
+    QNetworkRequest request(url);
     request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
     request.setTransferTimeout();
     request.setAttribute(

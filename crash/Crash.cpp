@@ -2,7 +2,6 @@
 #include "crash/Crash.h"
 
 #include "crash/ReportWriter.h"
-#include "crash/Stack.h"
 #include "support/Configuration.h"
 
 #include <QDateTime>

@@ -42,3 +42,7 @@ private:
 
     int m_descriptor;
 };
+
+/// Writes the stack of a crash, innermost frame first: the program's or library's name and the
+/// offset that addr2line takes. `context` is the signal handler's third argument. Takes no memory.
+void writeStack(ReportWriter &report, void *context);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "updates/UpdateDownload.h"
 
-#include "updates/Signature.h"
-
 #include <QDir>
 #include <QRegularExpression>
+
+#include <sodium.h>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +30,17 @@ bool openNew(QFile &file, const QString &folder, const QString &name, const QStr
     return false;
 }
 
+}
+
+bool isSignedBy(QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message)
+{
+    const auto bytes
+        = [](QByteArrayView view) { return reinterpret_cast<const unsigned char *>(view.data()); };
+    return publicKey.size() == crypto_sign_PUBLICKEYBYTES && signature.size() == crypto_sign_BYTES
+        && sodium_init() >= 0
+        && crypto_sign_verify_detached(bytes(signature), bytes(message),
+               static_cast<std::size_t>(message.size()), bytes(publicKey))
+        == 0;
 }
 
 UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)

@@ -4,7 +4,6 @@
 #include "support/Configuration.h"
 #include "support/Defaults.h"
 #include "support/Preferences.h"
-#include "updates/Signature.h"
 #include "updates/UpdateDownload.h"
 #include "updates/UpdaterDelegate.h"
 
