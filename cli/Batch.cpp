@@ -85,7 +85,7 @@ ExitCode Batch::run(const Interruption &interruption)
 {
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &m_loop, [this] { report(); });
-    QObject::connect(&interruption, &Interruption::arrived, &m_loop, [this] { stop(); });
+    QObject::connect(&interruption, &Interruption::arrived, &m_loop, [this] { goOn(); });
     timer.start(m_reporter.interval());
     m_clock.start();
     MainQueue::post([this] { goOn(); });
@@ -111,15 +111,10 @@ void Batch::goOn()
     }
     while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
         examine(m_next++);
-    if (isOver())
-        m_loop.quit();
-}
-
-bool Batch::isOver() const
-{
     // Who was interrupted does not wait for examinations.
     const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
-    return m_running.empty() && (m_isStopped || !isWaiting);
+    if (m_running.empty() && (m_isStopped || !isWaiting))
+        m_loop.quit();
 }
 
 ConversionJob Batch::jobOf(std::size_t index, const JSON &info) const
@@ -289,6 +284,4 @@ void Batch::stop()
     m_looking->cancel();
     for (const auto &[index, running] : m_running)
         running.progress->cancel();
-    if (isOver())
-        m_loop.quit();
 }

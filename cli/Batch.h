@@ -55,7 +55,6 @@ private:
 
     [[nodiscard]] ConversionJob jobOf(std::size_t index, const JSON &info) const;
     [[nodiscard]] std::optional<Outcome> refusalOfDestination(std::size_t index) const;
-    [[nodiscard]] bool isOver() const;
 
     const CommandLine &m_line;
     std::vector<ConversionItem> m_items;

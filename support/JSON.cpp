@@ -20,15 +20,11 @@ std::optional<qint64> truncated(double number)
 
 qint64 leadingNumber(const QString &text)
 {
-    static const QRegularExpression number(uR"(^\s*([+-]?\d+)((?:\.\d*)?(?:[eE][+-]?\d+)?))"_s);
-    const QRegularExpressionMatch match = number.match(text);
-    if (!match.hasMatch())
-        return 0;
-    bool fits = false;
-    const qint64 whole = match.captured(1).toLongLong(&fits);
-    if (fits && match.capturedLength(2) == 0)
-        return whole;
-    return truncated((match.captured(1) + match.captured(2)).toDouble()).value_or(0);
+    static const QRegularExpression number(uR"(^\s*[+-]?\d+(?:\.\d*)?(?:[eE][+-]?\d+)?)"_s);
+    const QString digits = number.match(text).captured();
+    bool isWhole = false;
+    const qint64 whole = digits.toLongLong(&isWhole);
+    return isWhole ? whole : truncated(digits.toDouble()).value_or(0);
 }
 
 }
