@@ -30,29 +30,27 @@ constexpr std::array groups{
         QT_TRANSLATE_NOOP3("Localizable", "MP4 quality", "Heading of a group of outputs") },
 };
 
-qint64 longestSide(const VideoDimensionsConstraints &dimension)
+std::optional<qint64> longestSide(const VideoConstraints &entry)
 {
-    return std::max(dimension.maximum()->width, dimension.maximum()->height);
+    const auto &maximum = entry.dimension.maximum();
+    return maximum ? std::optional(std::max(maximum->width, maximum->height)) : std::nullopt;
 }
 
 QString plainLine(const VideoConstraints &entry)
 {
     QString text
         = u"  "_s + leftJustified(entry.destDevice, 36) + conversionDescriptor(entry.format).ext;
-    if (entry.dimension.maximum())
-        text = leftJustified(text, 44) + u"<= "_s
-            + QString::number(longestSide(entry.dimension)).rightJustified(4) + u" px"_s;
+    if (const auto side = longestSide(entry))
+        text = leftJustified(text, 44) + u"<= %1 px"_s.arg(*side, 4);
     return text;
 }
 
 QJsonObject jsonEntry(const VideoConstraints &entry, QLatin1StringView group)
 {
-    QJsonObject object{ { u"name"_s, entry.destDevice }, { u"group"_s, group },
+    const auto side = longestSide(entry);
+    return { { u"name"_s, entry.destDevice }, { u"group"_s, group },
         { u"extension"_s, conversionDescriptor(entry.format).ext },
-        { u"maximum"_s, QJsonValue::Null } };
-    if (entry.dimension.maximum())
-        object[u"maximum"_s] = longestSide(entry.dimension);
-    return object;
+        { u"maximum"_s, side ? QJsonValue(*side) : QJsonValue() } };
 }
 
 }

@@ -33,13 +33,6 @@ QString uniquePath(const QString &base, const QString &ext, QSet<QString> &taken
     return path;
 }
 
-/// Of what a folder holds, videos come before the pictures and notes that bear their names.
-std::pair<bool, QString> rank(const Input &input)
-{
-    const bool isOther = input.isFound && !isCalledMedia(input.name);
-    return { isOther, input.path };
-}
-
 /// The same on every machine, whatever else is in the list.
 bool isInShard(const QString &name, const Shard &shard)
 {
@@ -55,17 +48,14 @@ void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
     const VideoConstraints &entry = line.entries.front();
     const QString extension = conversionDescriptor(entry.format).ext;
-    const auto mayBeResult
-        = [&](const Input &input) { return Path::pathExtension(input.path) == extension; };
     std::vector<Input> sources = inputs;
-    std::erase_if(sources, mayBeResult);
+    std::erase_if(
+        sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
     // Results of the other parts of a divided list are results too.
     line.shard = {};
     QSet<QString> results;
-    if (!sources.empty()) {
-        for (const ConversionItem &item : conversionItems(line, entry, sources))
-            results << item.destPath;
-    }
+    for (const ConversionItem &item : conversionItems(line, entry, sources))
+        results << item.destPath;
     std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
 }
 
@@ -86,8 +76,7 @@ std::vector<Input> inputsIn(const CommandLine &line)
                 { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
     }
     dropEarlierResults(inputs, line);
-    std::sort(inputs.begin(), inputs.end(),
-        [](const Input &left, const Input &right) { return left.path < right.path; });
+    std::ranges::sort(inputs, {}, &Input::path);
     return inputs;
 }
 
@@ -139,8 +128,10 @@ std::vector<ConversionItem> conversionItems(
         return { { inputs.front(), absolutePath(line.output) } };
     std::vector<std::size_t> order(inputs.size());
     std::iota(order.begin(), order.end(), 0);
-    std::sort(order.begin(), order.end(), [&](std::size_t left, std::size_t right) {
-        return rank(inputs[left]) < rank(inputs[right]);
+    // Of what a folder holds, videos come before the pictures and notes that bear their names.
+    std::ranges::sort(order, {}, [&](std::size_t index) {
+        const Input &input = inputs[index];
+        return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
     });
     const QString ext = conversionDescriptor(entry.format).ext;
     const QString folder = absolutePath(line.folder + u'/');

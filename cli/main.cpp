@@ -30,11 +30,9 @@ ExitCode run(const CommandLine &line)
 
 ExitCode shown(const UsageText &usage)
 {
-    if (usage.code == ExitCode::Done)
-        Output::line(usage.text);
-    else
-        Output::errorLine(usage.text);
-    if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
+    const bool isWrong = usage.code != ExitCode::Done;
+    isWrong ? Output::errorLine(usage.text) : Output::line(usage.text);
+    if (isWrong && QCoreApplication::arguments().contains(u"--json"_s))
         printMisuse(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
     return usage.code;
 }

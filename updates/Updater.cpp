@@ -54,22 +54,18 @@ Updater::Updater(UpdaterSettings settings, QObject *parent)
 void Updater::checkForUpdates()
 {
     m_byUser = true;
-    const QString feed = feedUrl();
-    if (feed.isEmpty()) {
-        Q_EMIT checked({ .outcome = UpdateCheck::Outcome::NotConfigured, .byUser = true });
-        return;
-    }
-    start(feed);
+    if (feedUrl().isEmpty())
+        return Q_EMIT checked({ .outcome = UpdateCheck::Outcome::NotConfigured, .byUser = true });
+    start();
 }
 
 void Updater::checkInBackground()
 {
-    const QString feed = feedUrl();
-    if (feed.isEmpty())
+    if (feedUrl().isEmpty())
         return;
     m_hourly.start(1h);
     if (Preferences::checksForUpdates() && isCheckDue())
-        start(feed);
+        start();
 }
 
 QString Updater::feedUrl() const
@@ -77,14 +73,14 @@ QString Updater::feedUrl() const
     return m_delegate ? m_delegate->feedURLStringForUpdater(this) : QString();
 }
 
-void Updater::start(const QString &feedUrl)
+void Updater::start()
 {
     if (m_fetch)
         return; // The check that runs answers.
     Defaults::setValue(lastCheckKey, QDateTime::currentDateTimeUtc());
     m_feed.setData(QByteArray());
     m_feed.open(QIODevice::WriteOnly);
-    m_fetch = std::make_unique<Fetch>(m_network, QUrl(feedUrl), m_feed, m_settings.feedLimits);
+    m_fetch = std::make_unique<Fetch>(m_network, QUrl(feedUrl()), m_feed, m_settings.feedLimits);
     connect(m_fetch.get(), &Fetch::finished, this, &Updater::finish);
 }
 

@@ -65,7 +65,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString feedUrl() const;
-    void start(const QString &feedUrl);
+    void start();
     void finish(bool complete);
     [[nodiscard]] UpdateCheck judged(const QByteArray &feed) const;
     [[nodiscard]] bool isSignedItem(const AppcastItem &item) const;
