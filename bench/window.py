@@ -100,7 +100,7 @@ def measure(build, folder):
         print(f"{'video to painted cover':34} {ours:.0f} ms / bare tools {plain:.0f} ms = {ours / plain:.2f} ({ours - plain:+.0f} ms)")
 
         busy = bench_bundle(build, folder, build / "tests/fixtures/fake-tool")
-        script = "output|print:Duration: 00:01:40.00, start: 0\\n|reports:20000:440"
+        script = "copy|print:Duration: 00:01:40.00, start: 0\\n|reports:20000:440"
         result = subprocess.check_output([busy, "progress", video, folder], env={**screen.env, "FAKE_TOOL_SCRIPT": script}, text=True)
         stall, share = result.split()
         print(f"{'2 000 reports a second':34} longest stall {stall} ms, {share} % of one core")

@@ -28,14 +28,16 @@ bool isConfigured() { return !Configuration::crashUrl().isEmpty() && !Configurat
 
 bool mayAlwaysSend() { return Defaults::value(alwaysSendKey).toBool(); }
 
-QStringList reports(const QString &pattern)
+QStringList reports(const QString &suffix)
 {
     QStringList paths;
     const QDir folder(CrashReporter::folder());
-    const auto entries = folder.entryInfoList(
-        { pattern }, QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
-    for (const QFileInfo &entry : entries)
-        paths.append(entry.filePath());
+    const auto entries
+        = folder.entryInfoList(QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        if (entry.fileName().startsWith("crash-"_L1) && entry.fileName().endsWith(suffix))
+            paths.append(entry.filePath());
+    }
     return paths;
 }
 
@@ -65,13 +67,13 @@ void note(const QString &session, const QString &state)
 
 CrashReports::CrashReports()
 {
-    for (const QString &path : reports(u"crash-*.txt"_s).mid(keptReports))
+    for (const QString &path : reports(u".txt"_s).mid(keptReports))
         QFile::remove(path);
 }
 
 QStringList CrashReports::pending()
 {
-    QStringList paths = reports(u"crash-*.txt"_s);
+    QStringList paths = reports(u".txt"_s);
     paths.removeIf([](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
     return paths;
 }
@@ -81,7 +83,7 @@ void CrashReports::uploadPending(const Question &ask)
     if (!isConfigured())
         return;
     const QPointer<QObject> alive(&m_network);
-    const QStringList agreed = reports(u"crash-*.agreed.txt"_s);
+    const QStringList agreed = reports(u".agreed.txt"_s);
     for (const QString &path : pending()) {
         const SendReport answer
             = mayAlwaysSend() ? SendReport::Always : ask(QString::fromUtf8(contents(path)));

@@ -18,7 +18,7 @@ const QRegularExpression &damage()
         uR"(error while decoding|Invalid NAL unit|Packet corrupt|partial file|File ended prematurely|)"
         uR"(invalid as first byte|exceeds containing|corrupted macroblock|ac-tex damaged|[Hh]eader missing|)"
         uR"(is not allocated|PES packet size mismatch|Truncating packet|invalid new backstep|)"
-        uR"(Invalid data found|[Ee]rror reading|slice mismatch|invalid mb type|end mismatch))"_s);
+        uR"(Invalid data found|[Ee]rror reading|slice mismatch|invalid mb type|end mismatch|could not find sync byte))"_s);
     return expression;
 }
 

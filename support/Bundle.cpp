@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto localizationSuffix = ".lproj"_L1;
+
 QString mainBundlePath()
 {
     const QFileInfo executable(
@@ -52,11 +54,15 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 QStringList Bundle::localizations() const
 {
     const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList folders = resources.entryList({ u"*.lproj"_s }, QDir::Dirs, QDir::Name);
-    return folders.replaceInStrings(u".lproj"_s, QString());
+    QStringList languages;
+    for (const QString &folder : resources.entryList(QDir::Dirs, QDir::Name)) {
+        if (folder.endsWith(localizationSuffix))
+            languages << folder.chopped(localizationSuffix.size());
+    }
+    return languages;
 }
 
 QString Bundle::localizationPath(const QString &language) const
 {
-    return m_bundlePath + "/Contents/Resources/"_L1 + language + ".lproj"_L1;
+    return m_bundlePath + "/Contents/Resources/"_L1 + language + localizationSuffix;
 }

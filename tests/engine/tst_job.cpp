@@ -109,6 +109,11 @@ private Q_SLOTS:
             const QByteArray bytes = read(name);
             write(u"cut-"_s + name, bytes.first(bytes.size() / 2));
         }
+        make(u"-i PATH/whole.mp4 -vn -c:a mp2 -f mpegts"_s, u"holed.ts"_s);
+        const QByteArray stream = read(u"holed.ts"_s);
+        const qsizetype quarter = stream.size() / 4;
+        write(u"holed.ts"_s,
+            stream.first(quarter) + QByteArray(quarter, '\0') + stream.last(2 * quarter));
         QByteArray holed = read(u"fast.mp4"_s);
         write(u"holed.mp4"_s, holed.first(holed.size() / 2).leftJustified(holed.size(), '\0'));
         holed = read(u"whole.mp4"_s);
@@ -151,6 +156,8 @@ private Q_SLOTS:
                     "The converting progress was finished at 4s|The video is damaged in places." },
                 { "second half never written, copied", "holed.mp4", "MKV",
                     "The converting progress was finished at 4s|The video is damaged in places." },
+                { "a part lost on the air, encoded", "holed.ts", "audio",
+                    "The converting progress was finished at 5s|The video is damaged in places." },
                 { "longer than its streams", "boasting.mp4", "MKV",
                     "The converting progress was finished at 8s" },
                 { "frames without time stamps", "bframes.avi", "MKV",

@@ -148,10 +148,11 @@ void AppDelegate::showIntake()
     m_outlets->examiningLabel->setVisible(examines);
     m_outlets->stopExaminingButton->setVisible(examines);
     const QString kept = Path::lastPathComponent(m_intake->keptPath());
-    m_outlets->keptLabel->setText(
-        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
-                      "name of a video that came while another one is converted"),
-            { kept }));
+    if (!kept.isEmpty())
+        m_outlets->keptLabel->setText(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                          "name of a video that came while another one is converted"),
+                { kept }));
     m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
     // A result stays to be looked at until the user starts over.
     if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
