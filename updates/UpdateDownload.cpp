@@ -2,6 +2,7 @@
 #include "updates/UpdateDownload.h"
 
 #include <QDir>
+#include <QNetworkReply>
 #include <QRegularExpression>
 
 #include <sodium.h>
@@ -54,9 +55,9 @@ void UpdateDownload::start()
 {
     if (!m_file.open())
         return Q_EMIT failed(false);
-    auto *fetch = new Fetch(m_network, m_item.url, m_file, m_target.limits, this);
-    connect(fetch, &Fetch::progressed, this, &UpdateDownload::progressed);
-    connect(fetch, &Fetch::finished, this, &UpdateDownload::finish);
+    const QNetworkReply *reply = fetch(m_network, m_item.url, m_file, m_target.limits,
+        [this](bool complete) { finish(complete); });
+    connect(reply, &QNetworkReply::downloadProgress, this, &UpdateDownload::progressed);
 }
 
 void UpdateDownload::finish(bool complete)

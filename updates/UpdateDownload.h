@@ -38,6 +38,6 @@ private:
 
     AppcastItem m_item;
     Target m_target;
-    QNetworkAccessManager m_network;
     QTemporaryFile m_file;
+    QNetworkAccessManager m_network;
 };

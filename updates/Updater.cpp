@@ -75,18 +75,18 @@ QString Updater::feedUrl() const
 
 void Updater::start()
 {
-    if (m_fetch)
+    if (std::exchange(m_isChecking, true))
         return; // The check that runs answers.
     Defaults::setValue(lastCheckKey, QDateTime::currentDateTimeUtc());
     m_feed.setData(QByteArray());
     m_feed.open(QIODevice::WriteOnly);
-    m_fetch = std::make_unique<Fetch>(m_network, QUrl(feedUrl()), m_feed, m_settings.feedLimits);
-    connect(m_fetch.get(), &Fetch::finished, this, &Updater::finish);
+    fetch(m_network, QUrl(feedUrl()), m_feed, m_settings.feedLimits,
+        [this](bool complete) { finish(complete); });
 }
 
 void Updater::finish(bool complete)
 {
-    m_fetch.release()->deleteLater();
+    m_isChecking = false;
     m_feed.close();
     UpdateCheck check = complete ? judged(m_feed.data()) : UpdateCheck{};
     check.byUser = std::exchange(m_byUser, false);

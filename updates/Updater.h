@@ -73,9 +73,9 @@ private:
     UpdaterSettings m_settings;
     QByteArray m_publicKey;
     const UpdaterDelegate *m_delegate = nullptr;
-    QNetworkAccessManager m_network;
     QTimer m_hourly;
     QBuffer m_feed;
-    std::unique_ptr<Fetch> m_fetch;
+    QNetworkAccessManager m_network;
+    bool m_isChecking = false;
     bool m_byUser = false;
 };
