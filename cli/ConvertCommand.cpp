@@ -20,6 +20,5 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
     const auto &videos = std::get<std::vector<Input>>(inputs);
     if (videos.empty())
         return ExitCode::Done;
-    return Batch(line, conversionItems(line, line.entries.front(), videos), *reporter)
-        .run(interruption);
+    return Batch(line, conversionItems(line, videos), *reporter).run(interruption);
 }

@@ -46,15 +46,14 @@ bool isInShard(const QString &name, const Shard &shard)
 /// Any other file of the output's format is a video like the rest.
 void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
-    const VideoConstraints &entry = line.entries.front();
-    const QString extension = conversionDescriptor(entry.format).ext;
+    const QString extension = conversionDescriptor(line.entries.front().format).ext;
     std::vector<Input> sources = inputs;
     std::erase_if(
         sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
     // Results of the other parts of a divided list are results too.
     line.shard = {};
     QSet<QString> results;
-    for (const ConversionItem &item : conversionItems(line, entry, sources))
+    for (const ConversionItem &item : conversionItems(line, sources))
         results << item.destPath;
     std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
 }
@@ -122,7 +121,7 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
 }
 
 std::vector<ConversionItem> conversionItems(
-    const CommandLine &line, const VideoConstraints &entry, const std::vector<Input> &inputs)
+    const CommandLine &line, const std::vector<Input> &inputs)
 {
     if (line.folder.isEmpty())
         return { { inputs.front(), absolutePath(line.output) } };
@@ -133,7 +132,7 @@ std::vector<ConversionItem> conversionItems(
         const Input &input = inputs[index];
         return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
     });
-    const QString ext = conversionDescriptor(entry.format).ext;
+    const QString ext = conversionDescriptor(line.entries.front().format).ext;
     const QString folder = absolutePath(line.folder + u'/');
     QSet<QString> taken;
     std::vector<ConversionItem> items(inputs.size());

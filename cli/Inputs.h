@@ -40,7 +40,7 @@ struct InputRefusal {
 /// which number depends on the set of inputs alone, not on their order. Of a divided list only this
 /// part is given.
 [[nodiscard]] std::vector<ConversionItem> conversionItems(
-    const CommandLine &line, const VideoConstraints &entry, const std::vector<Input> &inputs);
+    const CommandLine &line, const std::vector<Input> &inputs);
 
 /// The name's extension is that of videos or music. Others may be both too.
 [[nodiscard]] bool isCalledMedia(const QString &name);

@@ -91,7 +91,7 @@ ExitCode planAll(const CommandLine &line, Interruption &interruption)
         CommandLine one = line;
         one.entries = { entry };
         for (const ConversionItem &item :
-            conversionItems(one, entry, std::get<std::vector<Input>>(inputs))) {
+            conversionItems(one, std::get<std::vector<Input>>(inputs))) {
             const ExitCode end = plan(one, item, interruption);
             code = code == ExitCode::Done ? end : code;
             if (Interruption::signal() != 0)

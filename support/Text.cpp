@@ -6,22 +6,13 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isAscii(QStringView text)
 {
     return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
-}
-
-// Position behind the first `count` characters; the text's end when it has fewer.
-qsizetype endOfCharacters(QStringView text, int count)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
-    for (int i = 0; i < count; ++i) {
-        if (finder.toNextBoundary() < 0)
-            return text.size();
-    }
-    return finder.position();
 }
 
 }
@@ -46,9 +37,13 @@ qsizetype characterCount(QStringView text)
 QString max(const QString &text, int count)
 {
     Q_ASSERT(count > 0);
-    if (text.size() <= count || endOfCharacters(text, count) == text.size())
-        return text;
-    return text.first(endOfCharacters(text, count - 1)) + QChar(u'…');
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    for (int i = 1; i < count; ++i)
+        finder.toNextBoundary();
+    const qsizetype kept = finder.position();
+    const qsizetype next = finder.toNextBoundary(); // -1 behind the end
+    const bool fits = text.size() <= count || next < 0 || next == text.size();
+    return fits ? text : text.first(kept) + QChar(u'…');
 }
 
 qint64 asInt(QStringView text)
@@ -67,6 +62,39 @@ QString stringValue(const QByteArray &bytes)
         QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(bytes);
     return decoder.hasError() ? QString() : text;
+}
+
+}
+
+namespace Pattern {
+
+QRegularExpression compiled(const QString &pattern, QRegularExpression::PatternOptions options)
+{
+    return QRegularExpression(u"(*ANY)"_s + pattern, options);
+}
+
+QStringView searchRange(QStringView text, qsizetype count)
+{
+    const bool cutsPair = count > 0 && text[count - 1].isHighSurrogate();
+    return text.first(cutsPair ? count - 1 : count);
+}
+
+QString matchPattern(const QString &text, const QString &pattern, int index)
+{
+    return matchRegex(text, compiled(pattern, lineOptions), index);
+}
+
+QString matchRegex(const QString &text, const QRegularExpression &expression, int index)
+{
+    if (!expression.isValid())
+        return {};
+    const QStringView searched = searchRange(text, Text::characterCount(text));
+    return substringFromCheckingResult(expression.match(searched), index);
+}
+
+QString substringFromCheckingResult(const QRegularExpressionMatch &match, int subRangeIndex)
+{
+    return match.captured(subRangeIndex);
 }
 
 }
