@@ -39,21 +39,6 @@ QNetworkAccessManager &manager()
     return *manager;
 }
 
-QNetworkRequest collectRequest()
-{
-    QUrl url(Configuration::collectorUrl());
-    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
-    QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
-    request.setTransferTimeout();
-    request.setAttribute(
-        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    // A cookie would tell the collector more than the hit does.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    return request;
-}
-
 QString responseDescription(const QNetworkReply &reply)
 {
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -65,7 +50,17 @@ QString responseDescription(const QNetworkReply &reply)
 
 void post(const QByteArray &body)
 {
-    QNetworkReply *reply = manager().post(collectRequest(), body);
+    QUrl url(Configuration::collectorUrl());
+    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
+    request.setTransferTimeout();
+    request.setAttribute(
+        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    // A cookie would tell the collector more than the hit does.
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    QNetworkReply *reply = manager().post(request, body);
     QObject::connect(reply, &QNetworkReply::finished, reply, [reply] {
         if (reply->error() != QNetworkReply::NoError)
             Console::print(responseDescription(*reply) + u',' + reply->errorString());

@@ -20,13 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ExitCode run(const CommandLine &line)
-{
-    Interruption interruption;
-    // In the order of the verbs.
-    constexpr std::array commands{ listFormats, probeVideos, planConversions, convertVideos };
-    return commands.at(static_cast<std::size_t>(line.verb))(line, interruption);
-}
+// In the order of the verbs.
+constexpr std::array commands{ listFormats, probeVideos, planConversions, convertVideos };
 
 ExitCode shown(const UsageText &usage)
 {
@@ -77,7 +72,8 @@ int main(int argc, char *argv[])
         && !std::all_of(argv, argv + argc, isText))
         return exitStatus(Output::failure(destination, { Reason::DestinationNameNotText }));
     Async::background(StagedList::removeAbandoned);
-    const ExitCode code = run(line);
+    Interruption interruption;
+    const ExitCode code = commands.at(static_cast<std::size_t>(line.verb))(line, interruption);
     FFMPEG::shutDown();
     return exitStatus(code);
 }

@@ -10,9 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QNetworkRequest requestFor(const QUrl &url)
+QNetworkReply *fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target,
+    const FetchLimits &limits, const std::function<void(bool complete)> &finished)
 {
     QNetworkRequest request(url);
     request.setAttribute(
@@ -26,15 +25,7 @@ QNetworkRequest requestFor(const QUrl &url)
         QNetworkRequest::UserAgentHeader, u"VideoConverter/"_s + Configuration::version());
     // What arrives is counted as it is, and nothing unfolds into more.
     request.setRawHeader("Accept-Encoding", "identity");
-    return request;
-}
-
-}
-
-QNetworkReply *fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target,
-    const FetchLimits &limits, const std::function<void(bool complete)> &finished)
-{
-    QNetworkReply *reply = network.get(requestFor(url));
+    QNetworkReply *reply = network.get(request);
     reply->setReadBufferSize(qint64{ 256 } * 1024);
     QTimer::singleShot(limits.time, reply, &QNetworkReply::abort);
     const auto takeBytes = [reply, &target, limit = limits.bytes] {
