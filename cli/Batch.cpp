@@ -16,7 +16,7 @@
 #include <QThread>
 #include <QTimer>
 
-using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,11 +32,11 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
 bool isVideoOrMusic(const JSON &info)
 {
-    if (info[QStringLiteral("format")][QStringLiteral("format_name")].stringValue() == u"tty")
+    if (info[u"format"_s][u"format_name"_s].stringValue() == u"tty")
         return false;
-    const std::vector<JSON> streams = info[QStringLiteral("streams")].array();
+    const std::vector<JSON> streams = info[u"streams"_s].array();
     return std::any_of(streams.begin(), streams.end(), [](const JSON &stream) {
-        const QString kind = stream[QStringLiteral("codec_type")].stringValue();
+        const QString kind = stream[u"codec_type"_s].stringValue();
         return kind == u"video" || kind == u"audio";
     });
 }

@@ -8,15 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isAscii(QStringView text)
-{
-    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
-}
-
-}
-
 namespace Text {
 
 qint64 length(QStringView text) { return text.size(); }
@@ -25,7 +16,7 @@ qsizetype characterCount(QStringView text)
 {
     // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII
     // units in one character.
-    if (isAscii(text))
+    if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; }))
         return text.size() - text.count(u"\r\n");
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
     qsizetype count = 0;
