@@ -7,12 +7,15 @@
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QDBusConnectionInterface>
 #include <QFileOpenEvent>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
+
+const bool hasScreenReader = qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
 
 /// From a file that arrives to a result that stands.
 class tst_workflow : public WindowTest {
@@ -104,6 +107,35 @@ private Q_SLOTS:
         events.sort();
         QCOMPARE(events, told);
         QCOMPARE(announced.size(), rows.size());
+    }
+
+    void screenReader_hearsEachState()
+    {
+        QVERIFY(hasScreenReader);
+        QVERIFY(
+            QDBusConnection::sessionBus().interface()->startService(u"org.a11y.Bus"_s).isValid());
+        QTRY_VERIFY(QAccessible::isActive());
+        static QStringList heard;
+        heard.clear();
+        const auto former = QAccessible::installUpdateHandler([](QAccessibleEvent *event) {
+            QAccessibleInterface *shown = event->accessibleInterface();
+            if (event->type() == QAccessible::ObjectShow && shown
+                && shown->role() == QAccessible::Notification)
+                heard << shown->text(QAccessible::Name);
+        });
+        QFile notes(path(u"notes.mkv"_s));
+        QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("no video") > 0);
+        notes.close();
+        m_delegate->takeFiles({ notes.fileName() });
+        QTRY_VERIFY(!m_user.read.isEmpty());
+        QVERIFY(convert("reports:100:100", WindowUIState::ConversionIsDone));
+        QTRY_COMPARE(heard,
+            (QStringList{ u"Examining “notes.mkv”"_s, u"Drag a video here"_s,
+                u"The file is not a video, or it is damaged or incomplete."_s,
+                u"Examining “video.mov”"_s, u"video.mov"_s, u"Converting…"_s,
+                u"The result has no moving picture, although the video has one."_s,
+                u"Conversion complete"_s }));
+        QAccessible::installUpdateHandler(former);
     }
 
     void keyboard_isEnough()

@@ -14,6 +14,7 @@
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
+#include "ui/widgets/Announcement.h"
 #include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
@@ -25,7 +26,6 @@
 #include "ui/window/WindowMemory.h"
 #include "ui_MainWindow.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileOpenEvent>
@@ -82,6 +82,7 @@ AppDelegate::AppDelegate()
     Q_INIT_RESOURCE(artwork);
     Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
+    m_announcement = new Announcement(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
@@ -137,7 +138,8 @@ void AppDelegate::setUiState(WindowUIState state)
         m_status->stateChanged(former, state);
         // The texts that go with the state are set after it.
         QMetaObject::invokeMethod(
-            this, [this] { announce(spokenOutlet(*m_outlets, m_uiState)); }, Qt::QueuedConnection);
+            this, [this] { m_announcement->say(spokenOutlet(*m_outlets, m_uiState)); },
+            Qt::QueuedConnection);
     }
     Q_EMIT uiStateChanged(state);
 }
@@ -158,12 +160,6 @@ void AppDelegate::showIntake()
     if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
         QMetaObject::invokeMethod(
             m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
-}
-
-void AppDelegate::announce(QWidget *outlet) const
-{
-    QAccessibleEvent event(outlet, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
 }
 
 void AppDelegate::showStateInMenus()
@@ -239,7 +235,7 @@ void AppDelegate::connectWork()
         [this] { setUiState(WindowUIState::InitialState); });
     connect(m_intake.get(), &FileIntake::kept, this, [this] {
         showIntake();
-        announce(m_outlets->keptLabel);
+        m_announcement->say(m_outlets->keptLabel);
     });
     connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
     connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
@@ -255,7 +251,7 @@ void AppDelegate::connectWork()
             Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
         if (!m_outlets->remarksLabel->text().isEmpty())
-            announce(m_outlets->remarksLabel);
+            m_announcement->say(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
@@ -348,7 +344,7 @@ void AppDelegate::showRefusal(const Outcome &refusal)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
     m_notes->stateChanged(m_uiState);
-    announce(m_outlets->refusalLabel);
+    m_announcement->say(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class Announcement;
 class ConversionFlow;
 class ConversionStatus;
 class FileIntake;
@@ -59,7 +60,6 @@ private:
     void connectWork();
     void showIntake();
     void showStateInMenus();
-    void announce(QWidget *outlet) const;
     void fileWasExamined(const QImage &cover, const QString &duration);
     void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
@@ -70,6 +70,7 @@ private:
 
     QMainWindow m_window;
     std::unique_ptr<Ui::MainWindow> m_outlets;
+    Announcement *m_announcement = nullptr;
     std::unique_ptr<ConversionStatus> m_status;
     std::unique_ptr<FileIntake> m_intake;
     std::unique_ptr<ConversionFlow> m_conversion;

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+/// Says what happens to people who use a screen reader; shows nothing. Thread: main.
+class Announcement : public QWidget {
+    Q_OBJECT
+public:
+    explicit Announcement(QWidget *window);
+
+    /// Says what the outlet is called or shows.
+    void say(QWidget *outlet);
+};
