@@ -20,7 +20,7 @@
 #include <QUuid>
 
 #include <atomic>
-#include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,40 +28,15 @@ namespace {
 
 std::atomic<bool> started = false;
 
-std::unique_ptr<QNetworkAccessManager> &managerSlot()
-{
-    static std::unique_ptr<QNetworkAccessManager> manager;
-    return manager;
-}
-
 QNetworkAccessManager &manager()
 {
-    if (!managerSlot()) {
-        managerSlot() = std::make_unique<QNetworkAccessManager>();
+    static QNetworkAccessManager *manager = nullptr;
+    if (!manager) {
+        manager = new QNetworkAccessManager;
         // Its own threads have to end while there still is an application object.
-        qAddPostRoutine([] { managerSlot().reset(); });
+        qAddPostRoutine([] { delete std::exchange(manager, nullptr); });
     }
-    return *managerSlot();
-}
-
-QUrl collectUrl()
-{
-    QUrl url(Configuration::collectorUrl());
-    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
-    return url;
-}
-
-QNetworkRequest collectRequest()
-{
-    QNetworkRequest request(collectUrl());
-    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
-    request.setTransferTimeout();
-    request.setAttribute(
-        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
-    // A cookie would tell the collector more than the hit does.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    return request;
+    return *manager;
 }
 
 QString responseDescription(const QNetworkReply &reply)
@@ -75,7 +50,17 @@ QString responseDescription(const QNetworkReply &reply)
 
 void post(const QByteArray &body)
 {
-    QNetworkReply *reply = manager().post(collectRequest(), body);
+    QUrl url(Configuration::collectorUrl());
+    url.setPath(url.adjusted(QUrl::StripTrailingSlash).path() + "/collect"_L1);
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
+    request.setTransferTimeout();
+    request.setAttribute(
+        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
+    // A cookie would tell the collector more than the hit does.
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    QNetworkReply *reply = manager().post(request, body);
     QObject::connect(reply, &QNetworkReply::finished, reply, [reply] {
         if (reply->error() != QNetworkReply::NoError)
             Console::print(responseDescription(*reply) + u',' + reply->errorString());

@@ -3,7 +3,6 @@
 #include "app/HelpMenu.h"
 #include "crash/Crash.h"
 #include "crash/CrashReports.h"
-#include "crash/SessionEvents.h"
 #include "crash/dialog/CrashQuestion.h"
 #include "engine/Async.h"
 #include "engine/FFMPEG.h"
@@ -67,7 +66,7 @@ public:
     {
         m_updater.setDelegate(&m_updaterDelegate);
         addHelpMenu(delegate, m_updater);
-        m_session.begin();
+        m_crashReports.beginSession();
         m_crashReports.uploadPending([window = delegate.window()](const QString &report) {
             return askToSendReport(window, report);
         });
@@ -79,7 +78,6 @@ private:
     Updater m_updater;
     UpdateDialogs m_dialogs;
     CrashReports m_crashReports;
-    SessionEvents m_session;
 };
 
 int runWindow(SingleInstance &instance, const QStringList &videos)

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Batch.h"
 
-#include "cli/report/Diagnostics.h"
+#include "cli/report/Output.h"
+#include "cli/report/ShownText.h"
 #include "engine/Async.h"
 #include "engine/Conversion.h"
 #include "engine/ExistingResult.h"
@@ -15,16 +16,9 @@
 #include <QThread>
 #include <QTimer>
 
-using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Encoders use several threads themselves: more jobs than cores only cost memory.
-std::size_t jobsWanted(int number)
-{
-    const int jobs = number == 0 ? QThread::idealThreadCount() : number;
-    return static_cast<std::size_t>(std::max(jobs, 1));
-}
 
 /// What a folder holds beside videos is no failure; what is called a video there and can't be read
 /// is one.
@@ -38,11 +32,11 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
 bool isVideoOrMusic(const JSON &info)
 {
-    if (info[QStringLiteral("format")][QStringLiteral("format_name")].stringValue() == u"tty")
+    if (info[u"format"_s][u"format_name"_s].stringValue() == u"tty")
         return false;
-    const std::vector<JSON> streams = info[QStringLiteral("streams")].array();
+    const std::vector<JSON> streams = info[u"streams"_s].array();
     return std::any_of(streams.begin(), streams.end(), [](const JSON &stream) {
-        const QString kind = stream[QStringLiteral("codec_type")].stringValue();
+        const QString kind = stream[u"codec_type"_s].stringValue();
         return kind == u"video" || kind == u"audio";
     });
 }
@@ -57,19 +51,27 @@ Outcome outcomeOf(const Progress &progress)
     // The engine prints the output of a failed tool itself, unless it can't be decoded.
     const QByteArray output = progress.toolOutput();
     if (!hasFailed || Text::stringValue(output).isEmpty())
-        Diagnostics::write(output);
+        Output::diagnostics(output);
     return outcome;
 }
 
+void printFailure(const ConversionItem &item, const Outcome &outcome)
+{
+    const bool isDestination = kindOf(outcome) == OutcomeKind::DestinationRefused;
+    const QString &file = isDestination ? item.destPath : item.input.name;
+    Output::failure(file, outcome);
+    for (const QString &remark : remarksOn(outcome))
+        Output::errorLine(printable(file + u": "_s + remark));
 }
 
-Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter,
-    Interruption &interruption)
+}
+
+Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter)
     : m_line(line)
     , m_items(std::move(items))
     , m_reporter(reporter)
-    , m_interruption(interruption)
-    , m_jobs(jobsWanted(line.jobs))
+    // Encoders use several threads themselves: more jobs than cores only cost memory.
+    , m_jobs(static_cast<std::size_t>(line.jobs > 0 ? line.jobs : QThread::idealThreadCount()))
     , m_firstFailed(m_items.size())
 {
     m_sum.all = m_items.size();
@@ -79,11 +81,11 @@ Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporte
     }
 }
 
-ExitCode Batch::run()
+ExitCode Batch::run(const Interruption &interruption)
 {
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &m_loop, [this] { report(); });
-    QObject::connect(&m_interruption, &Interruption::arrived, &m_loop, [this] { stop(); });
+    QObject::connect(&interruption, &Interruption::arrived, &m_loop, [this] { goOn(); });
     timer.start(m_reporter.interval());
     m_clock.start();
     MainQueue::post([this] { goOn(); });
@@ -109,15 +111,10 @@ void Batch::goOn()
     }
     while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
         examine(m_next++);
-    if (isOver())
-        m_loop.quit();
-}
-
-bool Batch::isOver() const
-{
     // Who was interrupted does not wait for examinations.
     const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
-    return m_running.empty() && (m_isStopped || !isWaiting);
+    if (m_running.empty() && (m_isStopped || !isWaiting))
+        m_loop.quit();
 }
 
 ConversionJob Batch::jobOf(std::size_t index, const JSON &info) const
@@ -228,7 +225,7 @@ void Batch::report()
             .elapsed = std::chrono::milliseconds(running.clock.elapsed()) };
         sample.left = running.steadyTime.shown(sample.secondsLeft());
         fraction += running.progress->fractionCompleted();
-        samples.push_back({ &m_items[index], sample });
+        samples.push_back({ m_items[index], sample, running.told });
     }
     // What was skipped took no time and says nothing about the rest.
     constexpr qint64 parts = 1000;
@@ -270,6 +267,7 @@ void Batch::settle(std::size_t index, const Outcome &outcome)
     ++m_sum.failed;
     m_isCancelled |= kindOf(outcome) == OutcomeKind::Cancelled;
     m_reporter.failed(m_items[index], outcome);
+    printFailure(m_items[index], outcome);
     if (index < m_firstFailed) {
         m_firstFailed = index;
         m_code = exitCodeOf(kindOf(outcome));
@@ -286,6 +284,4 @@ void Batch::stop()
     m_looking->cancel();
     for (const auto &[index, running] : m_running)
         running.progress->cancel();
-    if (isOver())
-        m_loop.quit();
 }

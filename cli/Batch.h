@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ConversionItem.h"
+#include "cli/Inputs.h"
 #include "cli/report/Reporter.h"
 #include "engine/ConversionRun.h"
 #include "engine/Destination.h"
@@ -22,12 +22,11 @@ class Interruption;
 /// main; each tool is a process of its own.
 class Batch {
 public:
-    Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter,
-        Interruption &interruption);
+    Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter);
     Q_DISABLE_COPY_MOVE(Batch)
 
     /// An event loop runs inside.
-    [[nodiscard]] ExitCode run();
+    [[nodiscard]] ExitCode run(const Interruption &interruption);
 
 private:
     struct Examined {
@@ -40,6 +39,7 @@ private:
         JSON info;
         QElapsedTimer clock;
         SteadyTime steadyTime;
+        qint64 told = -1;
     };
 
     void goOn();
@@ -55,12 +55,10 @@ private:
 
     [[nodiscard]] ConversionJob jobOf(std::size_t index, const JSON &info) const;
     [[nodiscard]] std::optional<Outcome> refusalOfDestination(std::size_t index) const;
-    [[nodiscard]] bool isOver() const;
 
     const CommandLine &m_line;
     std::vector<ConversionItem> m_items;
     Reporter &m_reporter;
-    Interruption &m_interruption;
     Destination m_others;
     std::size_t m_jobs;
     QEventLoop m_loop;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
+#include "cli/arguments/EntryName.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "planning/ConversionDescriptor.h"
@@ -29,50 +30,43 @@ constexpr std::array groups{
         QT_TRANSLATE_NOOP3("Localizable", "MP4 quality", "Heading of a group of outputs") },
 };
 
-VideoConstraints entryNamed(const QString &name)
+std::optional<qint64> longestSide(const VideoConstraints &entry)
 {
-    return *videoConstraints(name, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s);
+    const auto &maximum = entry.dimension.maximum();
+    return maximum ? std::optional(std::max(maximum->width, maximum->height)) : std::nullopt;
 }
 
-qint64 longestSide(const VideoDimensionsConstraints &dimension)
+QString plainLine(const VideoConstraints &entry)
 {
-    return std::max(dimension.maximum()->width, dimension.maximum()->height);
-}
-
-QString plainLine(const QString &name)
-{
-    const VideoConstraints entry = entryNamed(name);
-    QString text = u"  "_s + leftJustified(name, 36) + conversionDescriptor(entry.format).ext;
-    if (entry.dimension.maximum())
-        text = leftJustified(text, 44) + u"<= "_s
-            + QString::number(longestSide(entry.dimension)).rightJustified(4) + u" px"_s;
+    QString text
+        = u"  "_s + leftJustified(entry.destDevice, 36) + conversionDescriptor(entry.format).ext;
+    if (const auto side = longestSide(entry))
+        text = leftJustified(text, 44) + u"<= %1 px"_s.arg(*side, 4);
     return text;
 }
 
-QJsonObject jsonEntry(const QString &name, QLatin1StringView group)
+QJsonObject jsonEntry(const VideoConstraints &entry, QLatin1StringView group)
 {
-    const VideoConstraints entry = entryNamed(name);
-    QJsonObject object{ { u"name"_s, name }, { u"group"_s, group },
+    const auto side = longestSide(entry);
+    return { { u"name"_s, entry.destDevice }, { u"group"_s, group },
         { u"extension"_s, conversionDescriptor(entry.format).ext },
-        { u"maximum"_s, QJsonValue::Null } };
-    if (entry.dimension.maximum())
-        object[u"maximum"_s] = longestSide(entry.dimension);
-    return object;
+        { u"maximum"_s, side ? QJsonValue(*side) : QJsonValue() } };
 }
 
 }
 
-ExitCode listFormats(const CommandLine &line)
+ExitCode listFormats(const CommandLine &line, Interruption & /*interruption*/)
 {
     QJsonArray list;
     for (const Group &group : groups) {
         if (!line.json)
             Output::line(localized(group.heading));
         for (const QString &name : entryNames(group.group)) {
+            const VideoConstraints entry = entryMeant(name).value();
             if (line.json)
-                list << jsonEntry(name, group.id);
+                list << jsonEntry(entry, group.id);
             else
-                Output::line(plainLine(name));
+                Output::line(plainLine(entry));
         }
     }
     if (line.json)

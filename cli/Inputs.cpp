@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Inputs.h"
 
-#include "cli/ConversionItem.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Path.h"
 #include "support/StandardInput.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QMimeDatabase>
 #include <QRegularExpression>
 #include <QSet>
+#include <QtEndian>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -21,23 +23,38 @@ namespace {
 
 constexpr auto listLimit = qint64{ 256 } * 1024 * 1024;
 
+/// The path, numbered until it differs from all others in more than letter case.
+QString uniquePath(const QString &base, const QString &ext, QSet<QString> &taken)
+{
+    QString path = base + u'.' + ext;
+    for (int number = 2; taken.contains(path.toCaseFolded()); ++number)
+        path = base + u' ' + QString::number(number) + u'.' + ext;
+    taken.insert(path.toCaseFolded());
+    return path;
+}
+
+/// The same on every machine, whatever else is in the list.
+bool isInShard(const QString &name, const Shard &shard)
+{
+    const QByteArray hash
+        = QCryptographicHash::hash(QFile::encodeName(name), QCryptographicHash::Sha256);
+    const auto number = qFromBigEndian<quint64>(hash.constData());
+    return number % static_cast<quint64>(shard.parts) == static_cast<quint64>(shard.part - 1);
+}
+
 /// Leaves out what an earlier run into the same tree has made: the names that this run would write.
 /// Any other file of the output's format is a video like the rest.
 void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
-    const VideoConstraints &entry = line.entries.front();
-    const QString extension = conversionDescriptor(entry.format).ext;
-    const auto mayBeResult
-        = [&](const Input &input) { return Path::pathExtension(input.path) == extension; };
+    const QString extension = conversionDescriptor(line.entries.front().format).ext;
     std::vector<Input> sources = inputs;
-    std::erase_if(sources, mayBeResult);
+    std::erase_if(
+        sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
     // Results of the other parts of a divided list are results too.
     line.shard = {};
     QSet<QString> results;
-    if (!sources.empty()) {
-        for (const ConversionItem &item : conversionItems(line, entry, sources))
-            results << item.destPath;
-    }
+    for (const ConversionItem &item : conversionItems(line, sources))
+        results << item.destPath;
     std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
 }
 
@@ -58,24 +75,17 @@ std::vector<Input> inputsIn(const CommandLine &line)
                 { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
     }
     dropEarlierResults(inputs, line);
-    std::sort(inputs.begin(), inputs.end(),
-        [](const Input &left, const Input &right) { return left.path < right.path; });
+    std::ranges::sort(inputs, {}, &Input::path);
     return inputs;
 }
 
 std::optional<QStringList> namesIn(const CommandLine &line)
 {
-    QByteArray bytes;
-    if (line.list == u"-") {
-        bytes = StandardInput::readAll(listLimit);
-    } else {
-        QFile file(line.list);
-        if (!file.open(QIODevice::ReadOnly))
-            return std::nullopt;
-        bytes = file.read(listLimit);
-    }
+    const auto bytes = StandardInput::contentsOf(line.list, listLimit);
+    if (!bytes)
+        return std::nullopt;
     QStringList names;
-    for (const QByteArray &name : bytes.split(line.listIsNullSeparated ? '\0' : '\n'))
+    for (const QByteArray &name : bytes->split(line.listIsNullSeparated ? '\0' : '\n'))
         names << QFile::decodeName(name);
     names.removeAll(QString());
     return names;
@@ -108,6 +118,34 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
         return known.insert(input.path), known.size() == before;
     });
     return inputs;
+}
+
+std::vector<ConversionItem> conversionItems(
+    const CommandLine &line, const std::vector<Input> &inputs)
+{
+    if (line.folder.isEmpty())
+        return { { inputs.front(), absolutePath(line.output) } };
+    std::vector<std::size_t> order(inputs.size());
+    std::iota(order.begin(), order.end(), 0);
+    // Of what a folder holds, videos come before the pictures and notes that bear their names.
+    std::ranges::sort(order, {}, [&](std::size_t index) {
+        const Input &input = inputs[index];
+        return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
+    });
+    const QString ext = conversionDescriptor(line.entries.front().format).ext;
+    const QString folder = absolutePath(line.folder + u'/');
+    QSet<QString> taken;
+    std::vector<ConversionItem> items(inputs.size());
+    for (const std::size_t index : order) {
+        const Input &input = inputs[index];
+        const QString name
+            = Path::stringByDeletingPathExtension(Path::lastPathComponent(input.path));
+        const QString subfolder = input.subfolder.isEmpty() ? QString() : input.subfolder + u'/';
+        items[index] = { input, uniquePath(folder + subfolder + name, ext, taken) };
+    }
+    std::erase_if(
+        items, [&](const ConversionItem &item) { return !isInShard(item.input.name, line.shard); });
+    return items;
 }
 
 bool isCalledMedia(const QString &name)

@@ -19,6 +19,12 @@ struct Input {
     bool isFound = false;
 };
 
+/// An input with the absolute path of its result.
+struct ConversionItem {
+    Input input;
+    QString destPath;
+};
+
 /// Why a list or a folder of inputs can't be read.
 struct InputRefusal {
     QString name;
@@ -28,6 +34,13 @@ struct InputRefusal {
 /// The videos of a command line, each once, with those of a folder and a list. Hidden files and
 /// what an earlier run made beside a video are left out. No file is opened. Thread: main.
 [[nodiscard]] std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line);
+
+/// The inputs with their destinations, in the inputs' order. In a folder each result gets its
+/// input's name with the output's extension, and a number where two bear the same name. Who gets
+/// which number depends on the set of inputs alone, not on their order. Of a divided list only this
+/// part is given.
+[[nodiscard]] std::vector<ConversionItem> conversionItems(
+    const CommandLine &line, const std::vector<Input> &inputs);
 
 /// The name's extension is that of videos or music. Others may be both too.
 [[nodiscard]] bool isCalledMedia(const QString &name);

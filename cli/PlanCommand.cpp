@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/ConversionItem.h"
 #include "cli/Examination.h"
+#include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
@@ -11,7 +11,6 @@
 #include "support/Interruption.h"
 #include "support/StandardInput.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -24,15 +23,11 @@ constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 /// Media information as the tool prints it, or as 'probe --json' wraps it.
 std::variant<JSON, Outcome> savedInfo(const QString &name)
 {
-    QFile file(name);
-    QByteArray bytes;
-    if (name == "-"_L1 || name == "/dev/stdin"_L1)
-        bytes = StandardInput::readAll(infoLimit);
-    else if (file.open(QIODevice::ReadOnly))
-        bytes = file.read(infoLimit);
-    else
+    const bool isInput = name == "/dev/stdin"_L1;
+    const auto bytes = StandardInput::contentsOf(isInput ? u"-"_s : name, infoLimit);
+    if (!bytes)
         return Outcome{ Reason::InfoNotReadable };
-    const JSON json = JSON::parse(bytes);
+    const JSON json = JSON::parse(*bytes);
     if (json.value().isNull())
         return Outcome{ Reason::InfoNoJson };
     const JSON inner = json[u"info"_s];
@@ -52,14 +47,9 @@ QStringList plannedArguments(
         .ffmpegArguments(QString(), QString(), info, entry.dimension);
 }
 
-QString shellLine(const ConversionItem *item, const QStringList &arguments)
-{
-    return item ? shellQuoted(QStringList{ toolPath(Tool::Ffmpeg) } + arguments)
-                : shellQuoted(arguments);
-}
-
 void print(const CommandLine &line, const ConversionItem *item, const JSON &info)
 {
+    const QStringList tool = item ? QStringList{ toolPath(Tool::Ffmpeg) } : QStringList();
     QJsonObject object;
     for (const VideoConstraints &entry : line.entries) {
         const QStringList arguments = plannedArguments(item, entry, info);
@@ -68,7 +58,7 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             continue;
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(shellLine(item, arguments));
+        Output::line(shellQuoted(tool + arguments));
     }
     if (line.json)
         Output::json(QJsonDocument(object), QJsonDocument::Indented);
@@ -101,7 +91,7 @@ ExitCode planAll(const CommandLine &line, Interruption &interruption)
         CommandLine one = line;
         one.entries = { entry };
         for (const ConversionItem &item :
-            conversionItems(one, entry, std::get<std::vector<Input>>(inputs))) {
+            conversionItems(one, std::get<std::vector<Input>>(inputs))) {
             const ExitCode end = plan(one, item, interruption);
             code = code == ExitCode::Done ? end : code;
             if (Interruption::signal() != 0)

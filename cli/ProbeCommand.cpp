@@ -14,19 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-qint64 wholeSeconds(const JSON &info)
-{
-    return static_cast<qint64>(info[u"format"_s][u"duration"_s].stringValue().toDouble());
-}
-
 QJsonObject jsonOf(const VideoDescription &video)
 {
-    QJsonValue cover = QJsonValue::Null;
+    const double seconds = video.info[u"format"_s][u"duration"_s].stringValue().toDouble();
+    QJsonValue cover;
     if (video.cover)
         cover = QJsonObject{ { u"width"_s, video.cover->width() },
             { u"height"_s, video.cover->height() } };
     return { { u"info"_s, video.info.value() }, { u"duration"_s, video.duration },
-        { u"seconds"_s, wholeSeconds(video.info) }, { u"cover"_s, cover } };
+        { u"seconds"_s, static_cast<qint64>(seconds) }, { u"cover"_s, cover } };
 }
 
 /// Such as "video, h264, 1920 x 1080" or "audio, aac, 48000 Hz, 2 channels".

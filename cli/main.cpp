@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/report/Diagnostics.h"
-#include "cli/report/JsonReporter.h"
 #include "cli/report/Output.h"
+#include "cli/report/Reporter.h"
 #include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/StagedList.h"
@@ -21,30 +20,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ExitCode run(const CommandLine &line)
-{
-    Interruption interruption;
-    switch (line.verb) {
-    case Verb::Formats:
-        return listFormats(line);
-    case Verb::Probe:
-        return probeVideos(line, interruption);
-    case Verb::Plan:
-        return planConversions(line, interruption);
-    case Verb::Convert:
-        return convertVideos(line, interruption);
-    }
-    return ExitCode::Usage;
-}
+// In the order of the verbs.
+constexpr std::array commands{ listFormats, probeVideos, planConversions, convertVideos };
 
 ExitCode shown(const UsageText &usage)
 {
-    if (usage.code == ExitCode::Done)
-        Output::line(usage.text);
-    else
-        Output::errorLine(usage.text);
-    if (usage.code != ExitCode::Done && QCoreApplication::arguments().contains(u"--json"_s))
-        JsonReporter::misused(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
+    const bool isWrong = usage.code != ExitCode::Done;
+    isWrong ? Output::errorLine(usage.text) : Output::line(usage.text);
+    if (isWrong && QCoreApplication::arguments().contains(u"--json"_s))
+        printMisuse(usage.text.section(u'\n', 0, 0).section(u": "_s, 1));
     return usage.code;
 }
 
@@ -70,7 +54,7 @@ int exitStatus(ExitCode code)
 int main(int argc, char *argv[])
 {
     StandardInput::setAside();
-    Diagnostics::take();
+    Output::takeDiagnostics();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"video-converter-cli"_s);
     QCoreApplication::setApplicationVersion(Configuration::version());
@@ -82,13 +66,14 @@ int main(int argc, char *argv[])
         return exitStatus(shown(*text));
     const auto &line = *std::get_if<CommandLine>(&parsed);
     if (line.verbose)
-        Diagnostics::show();
+        Output::showDiagnostics();
     if (const QString destination = line.output + line.folder;
         destination.contains(QChar::ReplacementCharacter)
         && !std::all_of(argv, argv + argc, isText))
         return exitStatus(Output::failure(destination, { Reason::DestinationNameNotText }));
     Async::background(StagedList::removeAbandoned);
-    const ExitCode code = run(line);
+    Interruption interruption;
+    const ExitCode code = commands.at(static_cast<std::size_t>(line.verb))(line, interruption);
     FFMPEG::shutDown();
     return exitStatus(code);
 }

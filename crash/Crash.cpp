@@ -2,7 +2,6 @@
 #include "crash/Crash.h"
 
 #include "crash/ReportWriter.h"
-#include "crash/Stack.h"
 #include "support/Configuration.h"
 
 #include <QDateTime>
@@ -11,6 +10,7 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <climits>
@@ -53,11 +53,7 @@ std::atomic_bool crashKnown;
 
 const Fatal &fatalOf(int signal)
 {
-    for (const Fatal &fatal : fatals) {
-        if (fatal.signal == signal)
-            return fatal;
-    }
-    return fatals.front();
+    return *std::ranges::find(fatals, signal, &Fatal::signal); // Handles no other.
 }
 
 // Sends the signal to this thread again, with its first details, for whoever would have got it
@@ -158,14 +154,13 @@ QByteArray describeSystem()
 
 void setAlternateStack()
 {
-    stack_t stack = {};
-    const bool hasNone = ::sigaltstack(nullptr, &stack) == 0 && (stack.ss_flags & SS_DISABLE) != 0;
-    if (!hasNone)
-        return; // A sanitizer's own, which it gives back itself.
-    stack = {};
-    stack.ss_sp = alternateStack;
-    stack.ss_size = sizeof alternateStack;
-    ::sigaltstack(&stack, nullptr);
+    stack_t current = {};
+    stack_t ours = {};
+    ours.ss_sp = alternateStack;
+    ours.ss_size = sizeof alternateStack;
+    // Another one is a sanitizer's own, which it gives back itself.
+    if (::sigaltstack(nullptr, &current) == 0 && (current.ss_flags & SS_DISABLE) != 0)
+        ::sigaltstack(&ours, nullptr);
 }
 
 void setHandlers()

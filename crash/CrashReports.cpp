@@ -2,17 +2,31 @@
 #include "crash/CrashReports.h"
 
 #include "crash/Crash.h"
+#include "support/Configuration.h"
+#include "support/Defaults.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QNetworkReply>
 #include <QPointer>
+#include <QTimer>
+#include <QUuid>
+
+#include <chrono>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr qsizetype keptReports = 10;
 constexpr qint64 reportLimit = qint64{ 64 } * 1024;
+constexpr auto alwaysSendKey = "CrashReportsAlwaysSend"_L1;
+
+bool isConfigured() { return !Configuration::crashUrl().isEmpty() && !Configuration::doNotTrack(); }
+
+bool mayAlwaysSend() { return Defaults::value(alwaysSendKey).toBool(); }
 
 QStringList reports(const QString &suffix)
 {
@@ -40,17 +54,24 @@ QString marked(const QString &path, const QString &state)
     return QFile::rename(path, newPath) ? newPath : path;
 }
 
+QString notePath() { return CrashReporter::folder() + u"/session"_s; }
+
+void note(const QString &session, const QString &state)
+{
+    QFile file(notePath());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(u"%1 %2"_s.arg(session, state).toUtf8());
 }
 
-CrashReports::CrashReports(QObject *parent)
-    : QObject(parent)
+}
+
+CrashReports::CrashReports()
 {
-    const QStringList old = reports(u".txt"_s).mid(keptReports);
-    for (const QString &path : old)
+    for (const QString &path : reports(u".txt"_s).mid(keptReports))
         QFile::remove(path);
 }
 
-QStringList CrashReports::pending() const
+QStringList CrashReports::pending()
 {
     QStringList paths = reports(u".txt"_s);
     paths.removeIf([](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
@@ -59,18 +80,17 @@ QStringList CrashReports::pending() const
 
 void CrashReports::uploadPending(const Question &ask)
 {
-    if (!CrashService::isConfigured())
+    if (!isConfigured())
         return;
-    const QPointer<CrashReports> self(this);
+    const QPointer<QObject> alive(&m_network);
     const QStringList agreed = reports(u".agreed.txt"_s);
     for (const QString &path : pending()) {
-        const SendReport answer = CrashService::mayAlwaysSend()
-            ? SendReport::Always
-            : ask(QString::fromUtf8(contents(path)));
-        if (!self)
+        const SendReport answer
+            = mayAlwaysSend() ? SendReport::Always : ask(QString::fromUtf8(contents(path)));
+        if (!alive)
             return; // The question is a window; the program may have ended under it.
         if (answer == SendReport::Always)
-            CrashService::setMayAlwaysSend();
+            Defaults::setValue(alwaysSendKey, true);
         if (answer == SendReport::No)
             marked(path, u"refused"_s);
         else
@@ -82,8 +102,49 @@ void CrashReports::uploadPending(const Question &ask)
 
 void CrashReports::upload(const QString &path)
 {
-    m_service.post(contents(path), [path](bool taken) {
-        if (taken)
-            marked(path, u"sent"_s);
+    post(contents(path), [path] { marked(path, u"sent"_s); });
+}
+
+void CrashReports::beginSession()
+{
+    const QStringList ended = QString::fromUtf8(contents(notePath())).split(u' ');
+    QFile::remove(notePath());
+    if (!isConfigured() || !mayAlwaysSend())
+        return;
+    if (ended.size() == 2)
+        sendEvent(ended[1] == u"ended" ? u"clean end"_s : u"no clean end"_s, ended[0]);
+
+    const QString session = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    QDir().mkpath(CrashReporter::folder());
+    note(session, u"running"_s);
+    sendEvent(u"start"_s, session);
+    QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &m_network,
+        [session] { note(session, u"ended"_s); });
+}
+
+void CrashReports::sendEvent(const QString &event, const QString &session)
+{
+    const QString text = u"Session: %1\nEvent: %2\nVersion: %3\nSystem: %4, %5\n"_s.arg(session,
+        event, Configuration::version(), QSysInfo::prettyProductName(),
+        QSysInfo::currentCpuArchitecture());
+    post(text.toUtf8(), [] {});
+}
+
+void CrashReports::post(const QByteArray &text, const std::function<void()> &taken)
+{
+    QNetworkRequest request{ QUrl(Configuration::crashUrl()) };
+    request.setHeader(QNetworkRequest::ContentTypeHeader, u"text/plain; charset=utf-8"_s);
+    request.setHeader(
+        QNetworkRequest::UserAgentHeader, u"VideoConverter/"_s + Configuration::version());
+    request.setAttribute(
+        QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    QNetworkReply *reply = m_network.post(request, text);
+    reply->setReadBufferSize(4096); // The answer's body is never read.
+    QTimer::singleShot(20s, reply, &QNetworkReply::abort);
+    QObject::connect(reply, &QNetworkReply::finished, &m_network, [reply, taken] {
+        reply->deleteLater();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        if (reply->error() == QNetworkReply::NoError && status / 100 == 2)
+            taken();
     });
 }

@@ -1,33 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "crash/CrashService.h"
-
-#include <QObject>
-#include <QString>
+#include <QNetworkAccessManager>
 #include <QStringList>
 
 #include <functional>
 
 enum class SendReport { Yes, No, Always };
 
-/// The newest ten reports. A file's name tells its state: crash-….txt is new, .agreed.txt may be
-/// sent but has not arrived, then there are .sent.txt and .refused.txt. Thread: main.
-class CrashReports : public QObject {
-    Q_OBJECT
+/// What the crash service is sent: reports, and how sessions begin and end; nothing without its
+/// address or with DO_NOT_TRACK. The newest ten reports are kept. A file's name tells its state:
+/// crash-….txt is new, .agreed.txt may be sent but has not arrived, then there are .sent.txt and
+/// .refused.txt. Thread: main.
+class CrashReports {
 public:
     using Question = std::function<SendReport(const QString &report)>;
 
-    explicit CrashReports(QObject *parent = nullptr);
+    CrashReports();
 
     /// Paths of the reports that the user has not been asked about, newest first.
-    [[nodiscard]] QStringList pending() const;
+    [[nodiscard]] static QStringList pending();
     /// Asks about each pending report and sends those that may be, with those that did not arrive
-    /// the last time. Does nothing without a service or with DO_NOT_TRACK.
+    /// the last time.
     void uploadPending(const Question &ask);
+    /// Tells that a session starts and how the one before ended, if the user has agreed to
+    /// everything being sent. The clean end is noted when the application is about to quit.
+    void beginSession();
 
 private:
     void upload(const QString &path);
+    void sendEvent(const QString &event, const QString &session);
+    void post(const QByteArray &text, const std::function<void()> &taken);
 
-    CrashService m_service;
+    QNetworkAccessManager m_network;
 };

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "crash/Stack.h"
-
 #include "crash/ReportWriter.h"
 
 #include <cstring>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Untested: nobody has run this on macOS yet.
 #include "crash/ReportWriter.h"
-#include "crash/Stack.h"
 
 #include <cstring>
 #include <dlfcn.h>

@@ -2,7 +2,6 @@
 #include "engine/DurationScanner.h"
 
 #include "engine/ToolOutput.h"
-#include "support/Pattern.h"
 #include "support/Text.h"
 
 void DurationScanner::append(const QString &block)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/ToolOutput.h"
 
-#include "support/Pattern.h"
 #include "support/Text.h"
 
 #include <QFile>

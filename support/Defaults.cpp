@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::mutex defaultsMutex;
+std::mutex registeredMutex;
 
 QVariantMap &registered()
 {
@@ -17,13 +17,7 @@ QVariantMap &registered()
     return map;
 }
 
-class Store : public QSettings {
-public:
-    Store()
-        : QSettings(u"VideoConverter"_s, u"VideoConverter"_s)
-    {
-    }
-};
+QSettings store() { return QSettings(u"VideoConverter"_s, u"VideoConverter"_s); }
 
 }
 
@@ -31,26 +25,18 @@ namespace Defaults {
 
 void registerDefaults(const QVariantMap &defaults)
 {
-    const std::lock_guard lock(defaultsMutex);
+    const std::lock_guard lock(registeredMutex);
     registered().insert(defaults);
 }
 
 QVariant value(const QString &key)
 {
-    const std::lock_guard lock(defaultsMutex);
-    return Store().value(key, registered().value(key));
+    const std::lock_guard lock(registeredMutex);
+    return store().value(key, registered().value(key));
 }
 
-void setValue(const QString &key, const QVariant &value)
-{
-    const std::lock_guard lock(defaultsMutex);
-    Store().setValue(key, value);
-}
+void setValue(const QString &key, const QVariant &value) { store().setValue(key, value); }
 
-void remove(const QString &key)
-{
-    const std::lock_guard lock(defaultsMutex);
-    Store().remove(key);
-}
+void remove(const QString &key) { store().remove(key); }
 
 }

@@ -8,27 +8,19 @@
 
 namespace {
 
-std::optional<struct stat> attributes(const QString &path)
+std::optional<std::pair<quint64, quint64>> idOf(const QString &path)
 {
-    struct stat result { };
-    if (::stat(QFile::encodeName(path).constData(), &result) != 0)
+    struct stat file { };
+    if (::stat(QFile::encodeName(path).constData(), &file) != 0)
         return std::nullopt;
-    return result;
+    return std::pair{ file.st_dev, file.st_ino };
 }
 
 }
 
-quint64 fileSize(const QString &path)
-{
-    const auto file = attributes(path);
-    return file ? static_cast<quint64>(file->st_size) : 0;
-}
+quint64 fileSize(const QString &path) { return static_cast<quint64>(QFileInfo(path).size()); }
 
-bool isRegularFile(const QString &path)
-{
-    const auto file = attributes(path);
-    return file && S_ISREG(file->st_mode);
-}
+bool isRegularFile(const QString &path) { return QFileInfo(path).isFile(); }
 
 FileIds::FileIds(std::initializer_list<QString> paths)
 {
@@ -38,14 +30,14 @@ FileIds::FileIds(std::initializer_list<QString> paths)
 
 void FileIds::add(const QString &path)
 {
-    if (const auto file = attributes(path))
-        m_ids.insert({ file->st_dev, file->st_ino });
+    if (const auto id = idOf(path))
+        m_ids.insert(*id);
 }
 
 bool FileIds::contains(const QString &path) const
 {
-    const auto file = attributes(path);
-    return file && m_ids.contains({ file->st_dev, file->st_ino });
+    const auto id = idOf(path);
+    return id && m_ids.contains(*id);
 }
 
 QString linkTarget(const QString &path)

@@ -8,18 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString inLocaleDigits(qint64 number)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(number);
-}
-
 QString textOf(const FormatArgument &argument)
 {
-    if (const auto *number = std::get_if<qint64>(&argument))
-        return inLocaleDigits(*number);
-    return std::get<QString>(argument);
+    if (const auto *text = std::get_if<QString>(&argument))
+        return *text;
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(std::get<qint64>(argument));
 }
 
 }
@@ -31,8 +26,7 @@ QString formatted(const QString &format, const std::vector<FormatArgument> &argu
     QString result;
     qsizetype copied = 0;
     std::size_t next = 0;
-    for (auto matches = directive.globalMatch(format); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
+    for (const QRegularExpressionMatch &match : directive.globalMatch(format)) {
         result += QStringView(format).mid(copied, match.capturedStart() - copied);
         copied = match.capturedEnd();
         if (match.hasCaptured(1)) {

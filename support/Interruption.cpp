@@ -23,19 +23,17 @@ extern "C" void handleSignal(int signalNumber)
     errno = error;
 }
 
+// Ignored ones stay so: nohup and a script's background jobs leave them like that.
 void watch(int signalNumber)
 {
     struct sigaction action { };
+    if (::sigaction(signalNumber, nullptr, &action) == 0 && action.sa_handler == SIG_IGN)
+        return;
+    action = {};
     action.sa_handler = handleSignal;
     ::sigemptyset(&action.sa_mask);
     // No SA_RESTART: a write to a reader that does not read must end too.
     ::sigaction(signalNumber, &action, nullptr);
-}
-
-bool isIgnored(int signalNumber)
-{
-    struct sigaction action { };
-    return ::sigaction(signalNumber, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
 }
@@ -55,14 +53,9 @@ Interruption::Interruption()
         Q_EMIT arrived();
     });
     ::signal(SIGPIPE, SIG_IGN);
-    // Ignored ones stay so: nohup and a script's background jobs leave them like that.
-    for (const int signalNumber : { SIGINT, SIGTERM, SIGHUP, SIGQUIT }) {
-        if (!isIgnored(signalNumber))
-            watch(signalNumber);
-    }
+    for (const int signalNumber : { SIGINT, SIGTERM, SIGHUP, SIGQUIT })
+        watch(signalNumber);
 }
-
-Interruption::~Interruption() = default;
 
 int Interruption::signal() { return firstSignal; }
 

@@ -10,8 +10,6 @@ class Interruption : public QObject {
 
 public:
     Interruption();
-    ~Interruption() override;
-    Q_DISABLE_COPY_MOVE(Interruption)
 
     /// Number of the first signal that came, 0 before. Thread: any.
     [[nodiscard]] static int signal();

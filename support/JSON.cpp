@@ -20,15 +20,11 @@ std::optional<qint64> truncated(double number)
 
 qint64 leadingNumber(const QString &text)
 {
-    static const QRegularExpression number(uR"(^\s*([+-]?\d+)((?:\.\d*)?(?:[eE][+-]?\d+)?))"_s);
-    const QRegularExpressionMatch match = number.match(text);
-    if (!match.hasMatch())
-        return 0;
-    bool fits = false;
-    const qint64 whole = match.captured(1).toLongLong(&fits);
-    if (fits && match.capturedLength(2) == 0)
-        return whole;
-    return truncated((match.captured(1) + match.captured(2)).toDouble()).value_or(0);
+    static const QRegularExpression number(uR"(^\s*[+-]?\d+(?:\.\d*)?(?:[eE][+-]?\d+)?)"_s);
+    const QString digits = number.match(text).captured();
+    bool isWhole = false;
+    const qint64 whole = digits.toLongLong(&isWhole);
+    return isWhole ? whole : truncated(digits.toDouble()).value_or(0);
 }
 
 }
@@ -43,23 +39,19 @@ JSON JSON::parse(const QByteArray &bytes)
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
     if (document.isObject())
         return JSON(document.object());
-    if (document.isArray())
-        return JSON(document.array());
-    return {};
+    return document.isArray() ? JSON(document.array()) : JSON();
 }
 
 JSON JSON::operator[](const QString &key) const
 {
-    const QJsonValue member = m_value.toObject().value(key);
+    const QJsonValue member = m_value[key];
     return member.isUndefined() ? JSON() : JSON(member);
 }
 
 std::vector<JSON> JSON::array() const
 {
-    std::vector<JSON> elements;
     const QJsonArray values = m_value.toArray();
-    for (const auto &element : values)
-        elements.emplace_back(element);
+    std::vector<JSON> elements(values.begin(), values.end());
     return elements;
 }
 
@@ -68,14 +60,7 @@ std::optional<QString> JSON::string() const
     return m_value.isString() ? std::optional(m_value.toString()) : std::nullopt;
 }
 
-QString JSON::stringValue() const
-{
-    if (m_value.isDouble())
-        return m_value.toVariant().toString();
-    if (m_value.isBool())
-        return m_value.toBool() ? u"true"_s : u"false"_s;
-    return m_value.toString();
-}
+QString JSON::stringValue() const { return m_value.toVariant().toString(); }
 
 std::optional<qint64> JSON::integer() const
 {

@@ -12,13 +12,6 @@ QString withoutTrailingSeparators(QString path)
     return path;
 }
 
-// Position of the dot before the extension within a name; -1 when the name has no extension.
-qsizetype extensionDot(const QString &name)
-{
-    const qsizetype dot = name.lastIndexOf(u'.');
-    return dot > 0 && dot < name.size() - 1 ? dot : -1;
-}
-
 }
 
 namespace Path {
@@ -32,8 +25,8 @@ QString lastPathComponent(const QString &path)
 QString pathExtension(const QString &path)
 {
     const QString name = lastPathComponent(path);
-    const qsizetype dot = extensionDot(name);
-    return dot < 0 ? QString() : name.sliced(dot + 1);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot > 0 ? name.sliced(dot + 1) : QString();
 }
 
 QString stringByDeletingLastPathComponent(const QString &path)
@@ -70,12 +63,10 @@ QString stringByAppendingPathComponent(const QString &path, const QString &compo
     QString name = withoutTrailingSeparators(component);
     if (path.isEmpty())
         return name;
-    QString folder = withoutTrailingSeparators(path);
-    const qsizetype start
-        = std::ranges::find_if(name, [](QChar c) { return c != u'/'; }) - name.begin();
-    if (start == name.size())
-        return folder;
-    return folder + (folder.endsWith(u'/') ? u""_s : u"/"_s) + name.sliced(start);
+    while (name.startsWith(u'/'))
+        name.remove(0, 1);
+    const QString folder = withoutTrailingSeparators(path);
+    return name.isEmpty() ? folder : folder + (folder.endsWith(u'/') ? u""_s : u"/"_s) + name;
 }
 
 std::optional<QString> stringByAppendingPathExtension(const QString &path, const QString &extension)

@@ -25,12 +25,12 @@ void setAside()
         ::close(nothing);
 }
 
-QByteArray readAll(qint64 limit)
+std::optional<QByteArray> contentsOf(const QString &name, qint64 limit)
 {
-    QFile input;
-    if (original < 0 || !input.open(original, QIODevice::ReadOnly))
-        return {};
-    return input.read(limit);
+    QFile file(name);
+    if (name == u"-")
+        return file.open(original, QIODevice::ReadOnly) ? file.read(limit) : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? std::optional(file.read(limit)) : std::nullopt;
 }
 
 }

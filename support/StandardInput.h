@@ -3,13 +3,16 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 /// The program's own standard input. The tools inherit descriptor 0, where a key would steer them.
 namespace StandardInput {
 
 /// Puts the input aside and /dev/null in its place, also where 1 or 2 are closed. Called first
 /// thing in main.
 void setAside();
-/// All that comes from the input that was put aside, at most `limit` bytes.
-[[nodiscard]] QByteArray readAll(qint64 limit);
+/// What a file holds, or for "-" all that comes from the input that was put aside; at most `limit`
+/// bytes. Absent when the file can't be read.
+[[nodiscard]] std::optional<QByteArray> contentsOf(const QString &name, qint64 limit);
 
 }

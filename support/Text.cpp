@@ -6,25 +6,7 @@
 
 #include <algorithm>
 
-namespace {
-
-bool isAscii(QStringView text)
-{
-    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
-}
-
-// Position behind the first `count` characters; the text's end when it has fewer.
-qsizetype endOfCharacters(QStringView text, int count)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
-    for (int i = 0; i < count; ++i) {
-        if (finder.toNextBoundary() < 0)
-            return text.size();
-    }
-    return finder.position();
-}
-
-}
+using namespace Qt::StringLiterals;
 
 namespace Text {
 
@@ -34,7 +16,7 @@ qsizetype characterCount(QStringView text)
 {
     // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII
     // units in one character.
-    if (isAscii(text))
+    if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; }))
         return text.size() - text.count(u"\r\n");
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
     qsizetype count = 0;
@@ -46,21 +28,20 @@ qsizetype characterCount(QStringView text)
 QString max(const QString &text, int count)
 {
     Q_ASSERT(count > 0);
-    if (text.size() <= count || endOfCharacters(text, count) == text.size())
-        return text;
-    return text.first(endOfCharacters(text, count - 1)) + QChar(u'…');
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    for (int i = 1; i < count; ++i)
+        finder.toNextBoundary();
+    const qsizetype kept = finder.position();
+    const qsizetype next = finder.toNextBoundary(); // -1 behind the end
+    const bool fits = text.size() <= count || next < 0 || next == text.size();
+    return fits ? text : text.first(kept) + QChar(u'…');
 }
 
 qint64 asInt(QStringView text)
 {
-    const QStringView digits
-        = text.startsWith(u'+') || text.startsWith(u'-') ? text.sliced(1) : text;
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    if (digits.isEmpty() || !std::ranges::all_of(digits, isDigit))
-        return 0;
-    bool fits = false;
-    const qint64 number = text.toLongLong(&fits);
-    return fits ? number : 0;
+    // White space and null characters around a number do not belong to it.
+    const auto isPart = [](QChar c) { return c.isDigit() || c == u'+' || c == u'-'; };
+    return std::ranges::all_of(text, isPart) ? text.toLongLong() : 0;
 }
 
 qint64 asInt64(QStringView text) { return asInt(text); }
@@ -72,6 +53,39 @@ QString stringValue(const QByteArray &bytes)
         QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(bytes);
     return decoder.hasError() ? QString() : text;
+}
+
+}
+
+namespace Pattern {
+
+QRegularExpression compiled(const QString &pattern, QRegularExpression::PatternOptions options)
+{
+    return QRegularExpression(u"(*ANY)"_s + pattern, options);
+}
+
+QStringView searchRange(QStringView text, qsizetype count)
+{
+    const bool cutsPair = count > 0 && text[count - 1].isHighSurrogate();
+    return text.first(cutsPair ? count - 1 : count);
+}
+
+QString matchPattern(const QString &text, const QString &pattern, int index)
+{
+    return matchRegex(text, compiled(pattern, lineOptions), index);
+}
+
+QString matchRegex(const QString &text, const QRegularExpression &expression, int index)
+{
+    if (!expression.isValid())
+        return {};
+    const QStringView searched = searchRange(text, Text::characterCount(text));
+    return substringFromCheckingResult(expression.match(searched), index);
+}
+
+QString substringFromCheckingResult(const QRegularExpressionMatch &match, int subRangeIndex)
+{
+    return match.captured(subRangeIndex);
 }
 
 }

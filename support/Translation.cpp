@@ -10,16 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool agrees(const QLocale &locale, const QString &localization)
-{
-    const QLocale other(localization);
-    return locale.language() == other.language() && locale.script() == other.script();
-}
-
-}
-
 namespace Translation {
 
 QString language(const QStringList &wanted, const QStringList &localizations)
@@ -29,7 +19,8 @@ QString language(const QStringList &wanted, const QStringList &localizations)
         if (localizations.contains(each))
             return each;
         for (const QString &localization : localizations) {
-            if (agrees(locale, localization))
+            const QLocale other(localization);
+            if (locale.language() == other.language() && locale.script() == other.script())
                 return localization;
         }
         if (locale.language() == QLocale::English || locale.language() == QLocale::C)

@@ -10,9 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QNetworkRequest requestFor(const QUrl &url)
+QNetworkReply *fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target,
+    const FetchLimits &limits, const std::function<void(bool complete)> &finished)
 {
     QNetworkRequest request(url);
     request.setAttribute(
@@ -26,46 +25,22 @@ QNetworkRequest requestFor(const QUrl &url)
         QNetworkRequest::UserAgentHeader, u"VideoConverter/"_s + Configuration::version());
     // What arrives is counted as it is, and nothing unfolds into more.
     request.setRawHeader("Accept-Encoding", "identity");
-    return request;
-}
-
-}
-
-Fetch::Fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target, FetchLimits limits,
-    QObject *parent)
-    : QObject(parent)
-    , m_reply(network.get(requestFor(url)))
-    , m_target(target)
-    , m_limit(limits.bytes)
-{
-    m_reply->setParent(this);
-    m_reply->setReadBufferSize(qint64{ 256 } * 1024);
-    QTimer::singleShot(limits.time, m_reply, &QNetworkReply::abort);
-    connect(m_reply, &QNetworkReply::readyRead, this, &Fetch::takeBytes);
-    connect(m_reply, &QNetworkReply::finished, this, &Fetch::end);
-    connect(m_reply, &QNetworkReply::downloadProgress, this, &Fetch::progressed);
-}
-
-Fetch::~Fetch()
-{
-    m_reply->disconnect(this);
-    m_reply->abort();
-}
-
-void Fetch::takeBytes()
-{
-    const QByteArray bytes = m_reply->readAll();
-    m_received += bytes.size();
-    m_fits = m_fits && m_received <= m_limit && m_target.write(bytes) == bytes.size();
-    if (!m_fits)
-        m_reply->abort();
-}
-
-void Fetch::end()
-{
-    if (m_reply->error() == QNetworkReply::NoError)
-        takeBytes();
-    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const bool complete = m_reply->error() == QNetworkReply::NoError && status == 200 && m_fits;
-    Q_EMIT finished(complete);
+    QNetworkReply *reply = network.get(request);
+    reply->setReadBufferSize(qint64{ 256 } * 1024);
+    QTimer::singleShot(limits.time, reply, &QNetworkReply::abort);
+    const auto takeBytes = [reply, &target, limit = limits.bytes] {
+        const QByteArray bytes = reply->readAll();
+        const bool fits
+            = target.pos() + bytes.size() <= limit && target.write(bytes) == bytes.size();
+        if (!fits)
+            reply->abort();
+        return fits;
+    };
+    QObject::connect(reply, &QNetworkReply::readyRead, reply, takeBytes);
+    QObject::connect(reply, &QNetworkReply::finished, reply, [reply, takeBytes, finished] {
+        reply->deleteLater();
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        finished(reply->error() == QNetworkReply::NoError && takeBytes() && status == 200);
+    });
+    return reply;
 }

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include <QtGlobal>
 
 #include <chrono>
+#include <functional>
 
 class QIODevice;
 class QNetworkAccessManager;
@@ -15,29 +16,9 @@ struct FetchLimits {
     std::chrono::milliseconds time;
 };
 
-/// Reads a web address into a device, within limits and five redirections, never to a less safe
-/// scheme. Errors: anything but a complete success ends with finished(false). Thread: its own.
-class Fetch : public QObject {
-    Q_OBJECT
-public:
-    /// The device is open and outlives this object.
-    Fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target, FetchLimits limits,
-        QObject *parent = nullptr);
-    ~Fetch() override;
-    Q_DISABLE_COPY_MOVE(Fetch)
-
-Q_SIGNALS:
-    void progressed(qint64 received, qint64 total);
-    /// Once, never from within the constructor.
-    void finished(bool complete);
-
-private:
-    void takeBytes();
-    void end();
-
-    QNetworkReply *m_reply;
-    QIODevice &m_target;
-    qint64 m_limit;
-    qint64 m_received = 0;
-    bool m_fits = true;
-};
+/// Reads a web address into an open, empty device, within limits and five redirections, never to a
+/// less safe scheme, and calls `finished` once, later. The device outlives the network object,
+/// which owns the reply and ends it without a call. Errors: anything but a complete success is
+/// incomplete. Thread: the network object's.
+QNetworkReply *fetch(QNetworkAccessManager &network, const QUrl &url, QIODevice &target,
+    const FetchLimits &limits, const std::function<void(bool complete)> &finished);

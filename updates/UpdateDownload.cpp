@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "updates/UpdateDownload.h"
 
-#include "updates/Signature.h"
-
 #include <QDir>
+#include <QNetworkReply>
 #include <QRegularExpression>
+
+#include <sodium.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +33,17 @@ bool openNew(QFile &file, const QString &folder, const QString &name, const QStr
 
 }
 
+bool isSignedBy(QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message)
+{
+    const auto bytes
+        = [](QByteArrayView view) { return reinterpret_cast<const unsigned char *>(view.data()); };
+    return publicKey.size() == crypto_sign_PUBLICKEYBYTES && signature.size() == crypto_sign_BYTES
+        && sodium_init() >= 0
+        && crypto_sign_verify_detached(bytes(signature), bytes(message),
+               static_cast<std::size_t>(message.size()), bytes(publicKey))
+        == 0;
+}
+
 UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)
     : QObject(parent)
     , m_item(std::move(item))
@@ -41,36 +53,25 @@ UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)
 
 void UpdateDownload::start()
 {
-    if (!m_file.open()) {
-        Q_EMIT failed(false);
-        return;
-    }
-    auto *fetch = new Fetch(m_network, m_item.url, m_file, m_target.limits, this);
-    connect(fetch, &Fetch::progressed, this, &UpdateDownload::progressed);
-    connect(fetch, &Fetch::finished, this, &UpdateDownload::finish);
+    if (!m_file.open())
+        return Q_EMIT failed(false);
+    const QNetworkReply *reply = fetch(m_network, m_item.url, m_file, m_target.limits,
+        [this](bool complete) { finish(complete); });
+    connect(reply, &QNetworkReply::downloadProgress, this, &UpdateDownload::progressed);
 }
 
 void UpdateDownload::finish(bool complete)
 {
     const qint64 size = m_file.size();
     const uchar *bytes = complete && m_file.flush() && size > 0 ? m_file.map(0, size) : nullptr;
-    if (!bytes) {
-        Q_EMIT failed(false);
-        return;
-    }
-    if (!isSignedBy(
-            m_target.publicKey, m_item.signature, { bytes, static_cast<std::size_t>(size) })) {
-        Q_EMIT failed(true);
-        return;
-    }
+    const QByteArrayView content(bytes, bytes ? size : 0);
+    const bool isSigned = bytes && isSignedBy(m_target.publicKey, m_item.signature, content);
     QFile file;
     const QString name = u"VideoConverter-"_s + m_item.versionText;
-    const bool isOpen = openNew(file, m_target.folder, name, fileKind(m_item.url));
-    if (isOpen && file.write(reinterpret_cast<const char *>(bytes), size) == size && file.flush()) {
-        Q_EMIT saved(file.fileName());
-        return;
-    }
+    const bool isOpen = isSigned && openNew(file, m_target.folder, name, fileKind(m_item.url));
+    if (isOpen && file.write(content.data(), size) == size && file.flush())
+        return Q_EMIT saved(file.fileName());
     if (isOpen)
         file.remove();
-    Q_EMIT failed(false);
+    Q_EMIT failed(bytes && !isSigned);
 }

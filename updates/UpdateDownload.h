@@ -8,6 +8,10 @@
 #include <QObject>
 #include <QTemporaryFile>
 
+/// An Ed25519 signature over exactly these bytes. Keys are 32 bytes, signatures 64. Thread: any.
+[[nodiscard]] bool isSignedBy(
+    QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message);
+
 /// Fetches the file of one item and, only when its signature verifies, puts it into a folder under
 /// a name that never replaces anything. Thread: main.
 class UpdateDownload : public QObject {
@@ -34,6 +38,6 @@ private:
 
     AppcastItem m_item;
     Target m_target;
-    QNetworkAccessManager m_network;
     QTemporaryFile m_file;
+    QNetworkAccessManager m_network;
 };

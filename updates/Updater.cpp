@@ -4,7 +4,6 @@
 #include "support/Configuration.h"
 #include "support/Defaults.h"
 #include "support/Preferences.h"
-#include "updates/Signature.h"
 #include "updates/UpdateDownload.h"
 #include "updates/UpdaterDelegate.h"
 
@@ -35,12 +34,6 @@ bool isCheckDue()
     return !last.isValid() || qAbs(last.secsTo(QDateTime::currentDateTimeUtc())) >= secondsPerDay;
 }
 
-std::span<const unsigned char> bytesOf(const QByteArray &data)
-{
-    return { reinterpret_cast<const unsigned char *>(data.constData()),
-        static_cast<std::size_t>(data.size()) };
-}
-
 }
 
 UpdaterSettings UpdaterSettings::configured()
@@ -58,27 +51,21 @@ Updater::Updater(UpdaterSettings settings, QObject *parent)
     connect(&m_hourly, &QTimer::timeout, this, &Updater::checkInBackground);
 }
 
-Updater::~Updater() = default;
-
 void Updater::checkForUpdates()
 {
     m_byUser = true;
-    const QString feed = feedUrl();
-    if (feed.isEmpty()) {
-        Q_EMIT checked({ .outcome = UpdateCheck::Outcome::NotConfigured, .byUser = true });
-        return;
-    }
-    start(feed);
+    if (feedUrl().isEmpty())
+        return Q_EMIT checked({ .outcome = UpdateCheck::Outcome::NotConfigured, .byUser = true });
+    start();
 }
 
 void Updater::checkInBackground()
 {
-    const QString feed = feedUrl();
-    if (feed.isEmpty())
+    if (feedUrl().isEmpty())
         return;
     m_hourly.start(1h);
     if (Preferences::checksForUpdates() && isCheckDue())
-        start(feed);
+        start();
 }
 
 QString Updater::feedUrl() const
@@ -86,20 +73,20 @@ QString Updater::feedUrl() const
     return m_delegate ? m_delegate->feedURLStringForUpdater(this) : QString();
 }
 
-void Updater::start(const QString &feedUrl)
+void Updater::start()
 {
-    if (m_fetch)
+    if (std::exchange(m_isChecking, true))
         return; // The check that runs answers.
     Defaults::setValue(lastCheckKey, QDateTime::currentDateTimeUtc());
     m_feed.setData(QByteArray());
     m_feed.open(QIODevice::WriteOnly);
-    m_fetch = std::make_unique<Fetch>(m_network, QUrl(feedUrl), m_feed, m_settings.feedLimits);
-    connect(m_fetch.get(), &Fetch::finished, this, &Updater::finish);
+    fetch(m_network, QUrl(feedUrl()), m_feed, m_settings.feedLimits,
+        [this](bool complete) { finish(complete); });
 }
 
 void Updater::finish(bool complete)
 {
-    m_fetch.release()->deleteLater();
+    m_isChecking = false;
     m_feed.close();
     UpdateCheck check = complete ? judged(m_feed.data()) : UpdateCheck{};
     check.byUser = std::exchange(m_byUser, false);
@@ -133,9 +120,9 @@ UpdateCheck Updater::judged(const QByteArray &feed) const
 
 bool Updater::isSignedItem(const AppcastItem &item) const
 {
-    const QByteArray statement = item.signature + item.versionText.toUtf8();
     return item.url.isValid() && item.signature.size() == 64
-        && isSignedBy(m_publicKey, item.versionSignature, bytesOf(statement));
+        && isSignedBy(
+            m_publicKey, item.versionSignature, item.signature + item.versionText.toUtf8());
 }
 
 std::unique_ptr<UpdateDownload> Updater::download(const AppcastItem &item) const

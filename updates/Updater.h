@@ -45,8 +45,6 @@ class Updater : public QObject {
     Q_OBJECT
 public:
     explicit Updater(UpdaterSettings settings, QObject *parent = nullptr);
-    ~Updater() override;
-    Q_DISABLE_COPY_MOVE(Updater)
 
     /// Asked before each check; outlives the updater.
     void setDelegate(const UpdaterDelegate *delegate) { m_delegate = delegate; }
@@ -67,7 +65,7 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QString feedUrl() const;
-    void start(const QString &feedUrl);
+    void start();
     void finish(bool complete);
     [[nodiscard]] UpdateCheck judged(const QByteArray &feed) const;
     [[nodiscard]] bool isSignedItem(const AppcastItem &item) const;
@@ -75,9 +73,9 @@ private:
     UpdaterSettings m_settings;
     QByteArray m_publicKey;
     const UpdaterDelegate *m_delegate = nullptr;
-    QNetworkAccessManager m_network;
     QTimer m_hourly;
     QBuffer m_feed;
-    std::unique_ptr<Fetch> m_fetch;
+    QNetworkAccessManager m_network;
+    bool m_isChecking = false;
     bool m_byUser = false;
 };

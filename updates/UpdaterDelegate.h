@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
-#include <QString>
+#include "support/Configuration.h"
 
 class Updater;
 
 /// The appcast's address, empty in development builds. Thread: main.
-class UpdaterDelegate : public QObject {
-    Q_OBJECT
+class UpdaterDelegate {
 public:
-    using QObject::QObject;
-
-    [[nodiscard]] QString feedURLStringForUpdater(const Updater *updater) const;
+    [[nodiscard]] QString feedURLStringForUpdater(const Updater * /*updater*/) const
+    {
+        return Configuration::feedUrl();
+    }
 };

@@ -9,8 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::strong_ordering ordering(int comparison) { return comparison <=> 0; }
-
 std::strong_ordering comparePart(const QString &left, const QString &right)
 {
     const bool leftIsNumber = left.front().isDigit();
@@ -18,8 +16,8 @@ std::strong_ordering comparePart(const QString &left, const QString &right)
     if (leftIsNumber && rightIsNumber)
         return left.toULongLong() <=> right.toULongLong();
     if (leftIsNumber != rightIsNumber)
-        return leftIsNumber ? std::strong_ordering::less : std::strong_ordering::greater;
-    return ordering(left.compare(right, Qt::CaseInsensitive));
+        return rightIsNumber <=> leftIsNumber;
+    return left.compare(right, Qt::CaseInsensitive) <=> 0;
 }
 
 }
@@ -44,10 +42,9 @@ std::optional<Version> Version::parse(const QString &text)
 std::strong_ordering operator<=>(const Version &left, const Version &right)
 {
     if (const int numbers = QVersionNumber::compare(left.m_numbers, right.m_numbers))
-        return ordering(numbers);
+        return numbers <=> 0;
     if (left.m_preRelease.isEmpty() != right.m_preRelease.isEmpty())
-        return left.m_preRelease.isEmpty() ? std::strong_ordering::greater
-                                           : std::strong_ordering::less;
+        return left.m_preRelease.isEmpty() <=> right.m_preRelease.isEmpty();
     return std::lexicographical_compare_three_way(left.m_preRelease.begin(),
         left.m_preRelease.end(), right.m_preRelease.begin(), right.m_preRelease.end(), comparePart);
 }

@@ -2,8 +2,6 @@
 #include "cli/arguments/CommandLine.h"
 
 #include "cli/arguments/EntryName.h"
-#include "cli/arguments/Generated.h"
-#include "cli/arguments/Help.h"
 #include "cli/report/ShownText.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Configuration.h"
@@ -28,25 +26,17 @@ std::optional<Verb> verbNamed(const QString &name)
                                     : std::optional(static_cast<Verb>(found - verbNames.begin()));
 }
 
-QString nameOf(Option option) { return optionRows.at(static_cast<std::size_t>(option)).name; }
-
-bool isSet(const QCommandLineParser &parser, Option option) { return parser.isSet(nameOf(option)); }
-
-void addOptions(QCommandLineParser &parser)
-{
-    for (const OptionRow &row : optionRows) {
-        QStringList spellings{ row.name };
-        if (!row.letter.isEmpty())
-            spellings << row.letter;
-        parser.addOption(QCommandLineOption(spellings, QString(), QString(row.value)));
-    }
-}
-
 UsageText usageError(const QString &message)
 {
     const QString hint = localized(QT_TRANSLATE_NOOP3("Localizable",
         "Try 'video-converter-cli --help'.", "Command line: follows a message about wrong usage"));
     return { .code = ExitCode::Usage, .text = u"video-converter-cli: "_s + message + u'\n' + hint };
+}
+
+UsageText usageError(
+    const LocalizedText &message, const std::vector<FormatArgument> &arguments = {})
+{
+    return usageError(formatted(message, arguments));
 }
 
 std::vector<VideoConstraints> entriesNamed(const QString &name, Verb verb)
@@ -61,91 +51,87 @@ UsageText unknownEntry(const QString &name)
 {
     const QStringList near = namesNear(name);
     if (!near.isEmpty())
-        return usageError(
-            formatted(QT_TRANSLATE_NOOP3("Localizable",
-                          "There is no output named \"%@\"; did you mean \"%@\"?",
-                          "Command line: wrong value of --to, and the nearest right ones"),
-                { printable(name), near.join(u"\", \""_s) }));
-    return usageError(
-        formatted(QT_TRANSLATE_NOOP3("Localizable",
-                      "There is no output named \"%@\"; the command 'formats' lists them.",
-                      "Command line: wrong value of --to"),
-            { printable(name) }));
+        return usageError(QT_TRANSLATE_NOOP3("Localizable",
+                              "There is no output named \"%@\"; did you mean \"%@\"?",
+                              "Command line: wrong value of --to, and the nearest right ones"),
+            { printable(name), near.join(u"\", \""_s) });
+    return usageError(QT_TRANSLATE_NOOP3("Localizable",
+                          "There is no output named \"%@\"; the command 'formats' lists them.",
+                          "Command line: wrong value of --to"),
+        { printable(name) });
 }
 
 std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb verb)
 {
-    const auto verbIndex = static_cast<std::size_t>(verb);
     for (const OptionRow &row : optionRows) {
-        if (!isSet(parser, row.option))
+        if (!parser.isSet(row.name))
             continue;
         if (!row.isTakenBy(verb))
             return usageError(
-                formatted(QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
-                              "Command line: a command and an option that does not belong to it"),
-                    { QString(verbNames.at(verbIndex)), QString(row.name) }));
+                QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
+                    "Command line: a command and an option that does not belong to it"),
+                { QString(verbNames.at(static_cast<std::size_t>(verb))), QString(row.name) });
         const QStringList values = parser.values(row.name);
         if (!row.value.isEmpty() && (values.size() > 1 || values.contains(QString())))
-            return usageError(
-                formatted(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
-                              "Command line: an option given twice or with an empty value"),
-                    { QString(row.name) }));
+            return usageError(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
+                                  "Command line: an option given twice or with an empty value"),
+                { QString(row.name) });
     }
     return std::nullopt;
 }
 
-QString wrongPlanInputs(const CommandLine &line)
+struct Check {
+    bool isWrong;
+    LocalizedText message;
+};
+
+std::optional<UsageText> wrongInputs(const CommandLine &line)
 {
+    const bool isConvert = line.verb == Verb::Convert;
     const auto count = line.inputs.size();
     const bool hasVideos = count > 0 || line.hasList();
-    const bool isRight = !line.info.isEmpty() ? !hasVideos && line.folder.isEmpty()
+    const bool canPlan = !line.info.isEmpty() ? !hasVideos && line.folder.isEmpty()
         : line.folder.isEmpty()               ? count == 2 && !line.hasList()
                                               : hasVideos;
-    if (isRight)
-        return {};
-    return localized(QT_TRANSLATE_NOOP3("Localizable",
-        "'plan' takes a video and an output file, videos and --folder, or --info alone.",
-        "Command line: wrong usage"));
-}
-
-QString wrongConvertInputs(const CommandLine &line)
-{
-    if (line.inputs.isEmpty() && !line.hasList())
-        return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "There is no video to convert.", "Command line: wrong usage"));
-    if (line.output.isEmpty() == line.folder.isEmpty())
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "'convert' needs either --output or --folder.", "Command line: wrong usage"));
-    if (line.output == u"-")
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "The result can't go to standard output; name a file.", "Command line: wrong usage"));
-    if ((line.inputs.size() > 1 || line.hasList()) && line.folder.isEmpty())
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Several videos can't go to one output file; use --folder.",
-            "Command line: wrong usage"));
-    if (line.overwrite && line.skipExisting)
-        return localized(QT_TRANSLATE_NOOP3("Localizable",
-            "--overwrite and --skip-existing exclude each other.", "Command line: wrong usage"));
-    if (promisesOtherFormat(line.output, line.entries.front()))
-        return formatted(QT_TRANSLATE_NOOP3("Localizable",
-                             "\"%@\" is no name for \"%@\", which makes .%@ files.",
-                             "Command line: name of a result, name of an output, its extension"),
+    const std::array checks{
+        Check{ line.verb == Verb::Formats && count > 0,
+            QT_TRANSLATE_NOOP3(
+                "Localizable", "'formats' takes no files.", "Command line: wrong usage") },
+        Check{ line.verb == Verb::Probe && count == 0,
+            QT_TRANSLATE_NOOP3(
+                "Localizable", "'probe' needs a file.", "Command line: wrong usage") },
+        Check{ line.verb == Verb::Plan && !canPlan,
+            QT_TRANSLATE_NOOP3("Localizable",
+                "'plan' takes a video and an output file, videos and --folder, or --info alone.",
+                "Command line: wrong usage") },
+        Check{ isConvert && !hasVideos,
+            QT_TRANSLATE_NOOP3(
+                "Localizable", "There is no video to convert.", "Command line: wrong usage") },
+        Check{ isConvert && line.output.isEmpty() == line.folder.isEmpty(),
+            QT_TRANSLATE_NOOP3("Localizable", "'convert' needs either --output or --folder.",
+                "Command line: wrong usage") },
+        Check{ line.output == u"-",
+            QT_TRANSLATE_NOOP3("Localizable",
+                "The result can't go to standard output; name a file.",
+                "Command line: wrong usage") },
+        Check{ isConvert && (count > 1 || line.hasList()) && line.folder.isEmpty(),
+            QT_TRANSLATE_NOOP3("Localizable",
+                "Several videos can't go to one output file; use --folder.",
+                "Command line: wrong usage") },
+        Check{ line.overwrite && line.skipExisting,
+            QT_TRANSLATE_NOOP3("Localizable", "--overwrite and --skip-existing exclude each other.",
+                "Command line: wrong usage") },
+    };
+    const auto *const found = std::ranges::find(checks, true, &Check::isWrong);
+    if (found != checks.end())
+        return usageError(found->message);
+    if (isConvert && promisesOtherFormat(line.output, line.entries.front()))
+        return usageError(QT_TRANSLATE_NOOP3("Localizable",
+                              "\"%@\" is no name for \"%@\", which makes .%@ files.",
+                              "Command line: name of a result, name of an output, its extension"),
             { printable(line.output), line.entries.front().destDevice,
                 conversionDescriptor(line.entries.front().format).ext });
-    return {};
-}
-
-QString wrongInputs(const CommandLine &line)
-{
-    if (line.verb == Verb::Formats && !line.inputs.isEmpty())
-        return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "'formats' takes no files.", "Command line: wrong usage"));
-    if (line.verb == Verb::Probe && line.inputs.isEmpty())
-        return localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "'probe' needs a file.", "Command line: wrong usage"));
-    if (line.verb == Verb::Plan)
-        return wrongPlanInputs(line);
-    return line.verb == Verb::Convert ? wrongConvertInputs(line) : QString();
+    return std::nullopt;
 }
 
 bool takesEntry(Verb verb) { return verb == Verb::Plan || verb == Verb::Convert; }
@@ -153,33 +139,33 @@ bool takesEntry(Verb verb) { return verb == Verb::Plan || verb == Verb::Convert;
 CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 {
     return { .verb = verb,
-        .json = isSet(parser, Option::Json),
-        .quiet = isSet(parser, Option::Quiet),
-        .verbose = isSet(parser, Option::Verbose),
-        .overwrite = isSet(parser, Option::Overwrite),
-        .skipExisting = isSet(parser, Option::SkipExisting),
-        .entries = entriesNamed(parser.value(nameOf(Option::To)), verb),
+        .json = parser.isSet(u"json"_s),
+        .quiet = parser.isSet(u"quiet"_s),
+        .verbose = parser.isSet(u"verbose"_s),
+        .overwrite = parser.isSet(u"overwrite"_s),
+        .skipExisting = parser.isSet(u"skip-existing"_s),
+        .entries = entriesNamed(parser.value(u"to"_s), verb),
         .inputs = parser.positionalArguments().mid(1),
-        .tree = parser.value(nameOf(Option::Recursive)),
-        .list = parser.value(nameOf(Option::FilesFrom)),
-        .listIsNullSeparated = isSet(parser, Option::Null),
-        .output = parser.value(nameOf(Option::Output)),
-        .folder = parser.value(nameOf(Option::Folder)),
-        .info = parser.value(nameOf(Option::Info)) };
+        .tree = parser.value(u"recursive"_s),
+        .list = parser.value(u"files-from"_s),
+        .listIsNullSeparated = parser.isSet(u"null"_s),
+        .output = parser.value(u"output"_s),
+        .folder = parser.value(u"folder"_s),
+        .info = parser.value(u"info"_s) };
 }
 
 /// Reads the numbers of --jobs and --shard; false when they are none.
 bool readNumbers(const QCommandLineParser &parser, CommandLine &line)
 {
     static const QRegularExpression shard(uR"(\A(\d{1,6})/(\d{1,6})\z)"_s);
-    if (isSet(parser, Option::Jobs)) {
+    if (parser.isSet(u"jobs"_s)) {
         bool isNumber = false;
-        line.jobs = parser.value(nameOf(Option::Jobs)).toInt(&isNumber);
+        line.jobs = parser.value(u"jobs"_s).toInt(&isNumber);
         if (!isNumber || line.jobs < 0 || line.jobs > 1000)
             return false;
     }
-    if (isSet(parser, Option::Shard)) {
-        const auto match = shard.match(parser.value(nameOf(Option::Shard)));
+    if (parser.isSet(u"shard"_s)) {
+        const auto match = shard.match(parser.value(u"shard"_s));
         line.shard = { match.captured(1).toInt(), match.captured(2).toInt() };
         return line.shard.part >= 1 && line.shard.part <= line.shard.parts;
     }
@@ -192,15 +178,15 @@ std::variant<CommandLine, UsageText> checkedLine(const QCommandLineParser &parse
         return *wrong;
     CommandLine line = readLine(parser, verb);
     if (!readNumbers(parser, line))
-        return usageError(localized(QT_TRANSLATE_NOOP3("Localizable",
-            "--jobs takes a number, --shard two such as 2/8.", "Command line: wrong usage")));
-    if (takesEntry(verb) && !isSet(parser, Option::To))
-        return usageError(localized(QT_TRANSLATE_NOOP3(
-            "Localizable", "--to NAME is missing.", "Command line: wrong usage")));
+        return usageError(QT_TRANSLATE_NOOP3("Localizable",
+            "--jobs takes a number, --shard two such as 2/8.", "Command line: wrong usage"));
+    if (takesEntry(verb) && !parser.isSet(u"to"_s))
+        return usageError(QT_TRANSLATE_NOOP3(
+            "Localizable", "--to NAME is missing.", "Command line: wrong usage"));
     if (takesEntry(verb) && line.entries.empty())
-        return unknownEntry(parser.value(nameOf(Option::To)));
-    if (const QString wrong = wrongInputs(line); !wrong.isEmpty())
-        return usageError(wrong);
+        return unknownEntry(parser.value(u"to"_s));
+    if (const auto wrong = wrongInputs(line))
+        return *wrong;
     return line;
 }
 
@@ -209,24 +195,27 @@ std::variant<CommandLine, UsageText> checkedLine(const QCommandLineParser &parse
 std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &arguments)
 {
     if (arguments.size() == 3 && arguments.at(1) == "--generate"_L1)
-        return UsageText{ .text = Generated::named(arguments.at(2)) };
+        return UsageText{ .text = generatedText(arguments.at(2)) };
     QCommandLineParser parser;
-    addOptions(parser);
+    for (const OptionRow &row : optionRows) {
+        QStringList spellings{ row.name, row.letter };
+        spellings.removeAll(QString());
+        parser.addOption(QCommandLineOption(spellings, QString(), row.value));
+    }
     const bool understood = parser.parse(arguments);
     const QString name = parser.positionalArguments().value(0);
     const std::optional<Verb> verb = verbNamed(name);
-    if (isSet(parser, Option::Help))
+    if (parser.isSet(u"help"_s))
         return UsageText{ .text = verb ? Help::of(*verb) : Help::general() };
-    if (isSet(parser, Option::Version))
+    if (parser.isSet(u"version"_s))
         return UsageText{ .text = u"video-converter-cli "_s + Configuration::version() };
     if (!understood)
         return usageError(printable(parser.errorText()));
     if (name.isEmpty())
         return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
     if (!verb)
-        return usageError(
-            formatted(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
-                          "Command line: wrong usage"),
-                { printable(name) }));
+        return usageError(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
+                              "Command line: wrong usage"),
+            { printable(name) });
     return checkedLine(parser, *verb);
 }

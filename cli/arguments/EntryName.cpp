@@ -28,7 +28,7 @@ std::vector<VideoConstraints> allEntries()
 
 std::optional<VideoConstraints> entryMeant(const QString &text)
 {
-    const std::vector<VideoConstraints> entries = allEntries();
+    const auto entries = allEntries();
     const QStringList plainFormats = entryNames(MenuGroup::Formats);
     const auto isNamed = [&](const VideoConstraints &entry) {
         return entry.destDevice.compare(text, Qt::CaseInsensitive) == 0;
@@ -37,20 +37,17 @@ std::optional<VideoConstraints> entryMeant(const QString &text)
         return plainFormats.contains(entry.destDevice)
             && extensionOf(entry).compare(text, Qt::CaseInsensitive) == 0;
     };
-    auto found = std::find_if(entries.begin(), entries.end(), isNamed);
+    auto found = std::ranges::find_if(entries, isNamed);
     if (found == entries.end())
-        found = std::find_if(entries.begin(), entries.end(), hasExtension);
+        found = std::ranges::find_if(entries, hasExtension);
     return found == entries.end() ? std::nullopt : std::optional(*found);
 }
 
 QStringList namesNear(const QString &text)
 {
     // The whole text, then any word of it, then how it begins.
-    QStringList sought{ text };
-    for (const QString &word : QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' '))
-        sought << word;
-    sought << text.first(std::min<qsizetype>(text.size(), 3));
-    for (const QString &part : sought) {
+    const QStringList words = QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' ');
+    for (const QString &part : QStringList{ text } + words + QStringList{ text.left(3) }) {
         QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
@@ -65,9 +62,7 @@ QStringList namesNear(const QString &text)
 bool promisesOtherFormat(const QString &path, const VideoConstraints &entry)
 {
     const QString extension = Path::pathExtension(path).toLower();
-    if (extension == extensionOf(entry))
-        return false;
-    const std::vector<VideoConstraints> entries = allEntries();
-    return std::any_of(entries.begin(), entries.end(),
-        [&](const VideoConstraints &other) { return extensionOf(other) == extension; });
+    const auto entries = allEntries();
+    return extension != extensionOf(entry)
+        && std::ranges::find(entries, extension, extensionOf) != entries.end();
 }

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "cli/arguments/Generated.h"
-
 #include "cli/arguments/EntryName.h"
 #include "cli/arguments/Options.h"
 
-#include <QRegularExpression>
+#include <QFile>
+
+#include <algorithm>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -62,74 +63,15 @@ QString manOptions()
     return text.trimmed();
 }
 
-QString bashCompletion()
-{
-    return uR"(# SPDX-License-Identifier: MIT
-# bash completion for video-converter-cli
-
-_video_converter_cli() {
-    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} name words
-    COMPREPLY=()
-    compopt -o nosort
-    case $previous in
-        %ENTRY%)
-            while IFS= read -r name; do
-                # What was typed is compared without its quoting; inside quotes the name needs no other.
-                local typed=${current//[\\\"\']/}
-                [[ ${name,,} == "${typed,,}"* ]] || continue
-                [[ $current == [\"\']* ]] || name=$(printf '%q' "$name")
-                COMPREPLY+=("$name")
-            done <<'NAMES'
-%NAMES%
-NAMES
-            return
-            ;;
-        %FOLDER%)
-            compopt -o filenames
-            mapfile -t COMPREPLY < <(compgen -d -- "$current")
-            return
-            ;;
-        %TEXT%)
-            return
-            ;;
-    esac
-    case ${COMP_WORDS[1]} in
-%CASES%    esac
-    ((COMP_CWORD > 1)) || words="%VERBS% --help --version"
-    if [[ $current == -* ]] || ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
-    elif [[ ${COMP_WORDS[1]} != formats ]]; then
-        compopt -o filenames
-        mapfile -t COMPREPLY < <(compgen -f -- "$current")
-    fi
-}
-complete -F _video_converter_cli video-converter-cli)"_s
-        .replace(u"%ENTRY%"_s, alternatives(ValueKind::Entry))
-        .replace(u"%FOLDER%"_s, alternatives(ValueKind::Folder))
-        .replace(u"%TEXT%"_s, alternatives(ValueKind::Text))
-        .replace(u"%CASES%"_s, cases(u"        %1) words=\"%2\" ;;"_s, u" "_s, spellings));
-}
-
-QString zshAction(const OptionRow &row)
-{
-    switch (row.kind) {
-    case ValueKind::None:
-        return {};
-    case ValueKind::Entry:
-        return u":%1:{compadd -M 'm:{a-zA-Z}={A-Za-z}' -a names}"_s.arg(row.value);
-    case ValueKind::File:
-        return u":%1:_files"_s.arg(row.value);
-    case ValueKind::Folder:
-        return u":%1:_files -/"_s.arg(row.value);
-    case ValueKind::Text:
-        return u":%1: "_s.arg(row.value);
-    }
-    return {};
-}
-
 /// "'(-o --output)'{-o,--output}'[the file to write]:OUT:_files'"
 QString zshOption(const OptionRow &row)
 {
+    // In the order of the kinds.
+    constexpr std::array actions{ ""_L1, ":{compadd -M 'm:{a-zA-Z}={A-Za-z}' -a names}"_L1,
+        ":_files"_L1, ":_files -/"_L1, ": "_L1 };
+    QString action = actions.at(static_cast<std::size_t>(row.kind));
+    if (row.kind != ValueKind::None)
+        action.prepend(u':' + row.value).replace(u"'"_s, uR"('\'')"_s);
     const QString text = english(row)
                              .replace(u"'"_s, uR"('\'')"_s)
                              .replace(u':', uR"(\:)"_s)
@@ -137,33 +79,14 @@ QString zshOption(const OptionRow &row)
     const QString words = row.letter.isEmpty()
         ? u"'--%1"_s.arg(row.name)
         : u"'(-%1 --%2)'{-%1,--%2}'"_s.arg(row.letter, row.name);
-    return words + u"[%1]%2'"_s.arg(text, zshAction(row).replace(u"'"_s, uR"('\'')"_s));
-}
-
-QString zshCompletion()
-{
-    return uR"zsh(#compdef video-converter-cli
-# SPDX-License-Identifier: MIT
-
-_video_converter_cli() {
-    local -a names=(${(f)"$(cat <<'NAMES'
-%NAMES%
-NAMES
-)"})
-    local -a line
-    local state
-    _arguments -C '1:command:(%VERBS%)' '*::argument:->rest' && return
-    case $line[1] in
-%CASES%    esac
-}
-_video_converter_cli "$@")zsh"_s.replace(u"%CASES%"_s,
-        cases(u"        %1)\n            _arguments \\\n                %2 \\\n                "
-              "'*:file:_files' ;;"_s,
-            u" \\\n                "_s, zshOption));
+    return words + u"[%1]%2'"_s.arg(text, action);
 }
 
 QString fishOption(const OptionRow &row)
 {
+    // In the order of the kinds.
+    constexpr std::array actions{ ""_L1, " -x -a '(__video_converter_names)'"_L1, " -r -F"_L1,
+        " -x -a '(__fish_complete_directories)'"_L1, " -x"_L1 };
     QString line = u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2"_s;
     QStringList verbs;
     for (std::size_t verb = 0; verb < verbNames.size(); ++verb) {
@@ -173,48 +96,39 @@ QString fishOption(const OptionRow &row)
     line = line.arg(verbs.join(u' '), row.name);
     if (!row.letter.isEmpty())
         line += u" -s "_s + row.letter;
-    if (row.kind == ValueKind::Entry)
-        line += u" -x -a '(__video_converter_names)'"_s;
-    else if (row.kind == ValueKind::Folder)
-        line += u" -x -a '(__fish_complete_directories)'"_s;
-    else if (row.kind != ValueKind::None)
-        line += row.kind == ValueKind::File ? u" -r -F"_s : u" -x"_s;
-    return line + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
+    return line + actions.at(static_cast<std::size_t>(row.kind))
+        + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
 }
 
-QString fishCompletion()
+QString casesOf(const QString &shell)
 {
+    if (shell == "bash"_L1)
+        return cases(u"        %1) words=\"%2\" ;;"_s, u" "_s, spellings);
+    if (shell == "zsh"_L1)
+        return cases(
+            u"        %1)\n            _arguments \\\n                %2 \\\n                "
+            "'*:file:_files' ;;"_s,
+            u" \\\n                "_s, zshOption);
     QStringList lines;
-    for (const OptionRow &row : optionRows)
-        lines << fishOption(row);
-    return uR"(# SPDX-License-Identifier: MIT
-# fish completion for video-converter-cli
-
-function __video_converter_names
-    string split \n '%NAMES%'
-end
-complete -c video-converter-cli -n __fish_use_subcommand -f -a '%VERBS%'
-complete -c video-converter-cli -n '__fish_seen_subcommand_from formats' -f
-)"_s + lines.join(u'\n');
-}
+    std::ranges::transform(optionRows, std::back_inserter(lines), fishOption);
+    return lines.join(u'\n');
 }
 
-namespace Generated {
+}
 
-QString named(const QString &name)
+QString generatedText(const QString &name)
 {
-    QString text;
     if (name == "man"_L1)
-        text = manOptions();
-    if (name == "bash"_L1)
-        text = bashCompletion();
-    if (name == "zsh"_L1)
-        text = zshCompletion();
-    if (name == "fish"_L1)
-        text = fishCompletion();
+        return manOptions();
+    QFile shell(u":/completion/"_s + name);
+    if (!shell.open(QIODevice::ReadOnly))
+        return {};
     const QStringList verbs(verbNames.begin(), verbNames.end());
-    return text.replace(u"%NAMES%"_s, entryNames().join(u'\n'))
+    return QString::fromUtf8(shell.readAll().trimmed())
+        .replace(u"%ENTRY%"_s, alternatives(ValueKind::Entry))
+        .replace(u"%FOLDER%"_s, alternatives(ValueKind::Folder))
+        .replace(u"%TEXT%"_s, alternatives(ValueKind::Text))
+        .replace(u"%CASES%"_s, casesOf(name))
+        .replace(u"%NAMES%"_s, entryNames().join(u'\n'))
         .replace(u"%VERBS%"_s, verbs.join(u' '));
-}
-
 }

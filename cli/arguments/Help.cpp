@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/arguments/Help.h"
-
+#include "cli/arguments/Options.h"
 #include "cli/report/ShownText.h"
 #include "support/Format.h"
 
@@ -37,12 +36,9 @@ constexpr std::array verbRows{
              "convert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"_L1,
         QT_TRANSLATE_NOOP3("Localizable",
             "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins "
-            "with "
-            "a dash goes after --.",
+            "with a dash goes after --.",
             "Help: command convert") },
 };
-
-const VerbRow &rowOf(Verb verb) { return verbRows.at(static_cast<std::size_t>(verb)); }
 
 /// Broken into lines between words; the first line begins in `column`, further ones too.
 QString wrapped(const QString &text, int column)
@@ -71,10 +67,21 @@ QString optionLine(const OptionRow &row)
         + wrapped(localized(row.text), textColumn) + u'\n';
 }
 
-QString usageOf(Verb verb)
+QString optionLines(Verb verb)
+{
+    QString lines;
+    for (const OptionRow &row : optionRows) {
+        if (row.isTakenBy(verb))
+            lines += optionLine(row);
+    }
+    return lines;
+}
+
+QString usage(const QString &words)
 {
     const QString program = u"video-converter-cli "_s;
-    return program + QString(rowOf(verb).usage).replace(u'\n', u"\n       "_s + program);
+    return formatted(QT_TRANSLATE_NOOP3("Localizable", "Usage: %@", "Help of the command"),
+        { program + QString(words).replace(u'\n', u"\n       "_s + program) });
 }
 
 }
@@ -83,18 +90,11 @@ namespace Help {
 
 QString general()
 {
-    QString text = formatted(QT_TRANSLATE_NOOP3("Localizable", "Usage: %@", "Help of the command"),
-                       { u"video-converter-cli COMMAND [OPTIONS]"_s })
-        + u"\n\n"_s;
+    QString text = usage(u"COMMAND [OPTIONS]"_s) + u"\n\n"_s;
     for (std::size_t verb = 0; verb < verbNames.size(); ++verb)
         text += u"  "_s + leftJustified(verbNames.at(verb), 10)
             + wrapped(localized(verbRows.at(verb).text), 12) + u'\n';
-    text += u'\n';
-    for (const OptionRow &row : optionRows) {
-        if (row.isTakenBy(Verb::Formats))
-            text += optionLine(row);
-    }
-    return text + u'\n'
+    return text + u'\n' + optionLines(Verb::Formats) + u'\n'
         + wrapped(
             localized(QT_TRANSLATE_NOOP3("Localizable",
                 "Exit status: 0 done, 1 a conversion failed or its result is not whole, 2 wrong "
@@ -107,14 +107,9 @@ QString general()
 
 QString of(Verb verb)
 {
-    QString text = formatted(QT_TRANSLATE_NOOP3("Localizable", "Usage: %@", "Help of the command"),
-                       { usageOf(verb) })
-        + u'\n' + wrapped(localized(rowOf(verb).text), 0) + u"\n\n"_s;
-    for (const OptionRow &row : optionRows) {
-        if (row.isTakenBy(verb))
-            text += optionLine(row);
-    }
-    return text.trimmed();
+    const VerbRow &row = verbRows.at(static_cast<std::size_t>(verb));
+    return usage(row.usage) + u'\n' + wrapped(localized(row.text), 0) + u"\n\n"_s
+        + optionLines(verb).chopped(1);
 }
 
 }

@@ -12,32 +12,12 @@ enum class Verb { Formats, Probe, Plan, Convert };
 inline constexpr std::array verbNames{ QLatin1StringView("formats"), QLatin1StringView("probe"),
     QLatin1StringView("plan"), QLatin1StringView("convert") };
 
-enum class Option {
-    To,
-    Output,
-    Folder,
-    Recursive,
-    FilesFrom,
-    Null,
-    Jobs,
-    Overwrite,
-    SkipExisting,
-    Shard,
-    Info,
-    Quiet,
-    Json,
-    Verbose,
-    Help,
-    Version,
-};
-
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
 
 /// One option of the command. The parser, the help, the manual page and the completion of every
 /// shell come from these rows.
 struct OptionRow {
-    Option option;
     QLatin1StringView name;
     QLatin1StringView letter;
     QLatin1StringView value;
@@ -54,22 +34,33 @@ struct OptionRow {
 
 // clang-format off
 inline constexpr std::array optionRows {
-    //                                                                                                                  formats probe plan   convert
-    OptionRow { Option::To,           QLatin1StringView("to"),            {},                     QLatin1StringView("NAME"),     ValueKind::Entry,  { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "the output: one of those that 'formats' lists, or an extension", "Help: option --to") },
-    OptionRow { Option::Output,       QLatin1StringView("output"),        QLatin1StringView("o"), QLatin1StringView("OUT"),      ValueKind::File,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "the file to write", "Help: option --output") },
-    OptionRow { Option::Folder,       QLatin1StringView("folder"),        QLatin1StringView("d"), QLatin1StringView("FOLDER"),   ValueKind::Folder, { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "the folder to write to; the files get the videos' names", "Help: option --folder") },
-    OptionRow { Option::Recursive,    QLatin1StringView("recursive"),     QLatin1StringView("r"), QLatin1StringView("FOLDER"),   ValueKind::Folder, { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes all videos and music in a folder and below, and keeps its tree", "Help: option --recursive") },
-    OptionRow { Option::FilesFrom,    QLatin1StringView("files-from"),    {},                     QLatin1StringView("FILE"),     ValueKind::File,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes the names in a file, one a line; - is standard input", "Help: option --files-from") },
-    OptionRow { Option::Null,         QLatin1StringView("null"),          QLatin1StringView("0"), {},                            ValueKind::None,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "names in that file end with a null character, as after find -print0", "Help: option --null") },
-    OptionRow { Option::Jobs,         QLatin1StringView("jobs"),          QLatin1StringView("j"), QLatin1StringView("N"),        ValueKind::Text,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "converts N videos side by side; 0 stands for as many as suit the cores", "Help: option --jobs") },
-    OptionRow { Option::Overwrite,    QLatin1StringView("overwrite"),     {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "replaces files that exist; a video itself is never replaced", "Help: option --overwrite") },
-    OptionRow { Option::SkipExisting, QLatin1StringView("skip-existing"), {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "leaves whole results that are newer than their videos alone, and makes cut ones again", "Help: option --skip-existing") },
-    OptionRow { Option::Shard,        QLatin1StringView("shard"),         {},                     QLatin1StringView("K/N"),      ValueKind::Text,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes the K-th of N parts of the videos; the parts depend on their names alone", "Help: option --shard") },
-    OptionRow { Option::Info,         QLatin1StringView("info"),          {},                     QLatin1StringView("JSONFILE"), ValueKind::File,   { false, false, true,  false }, QT_TRANSLATE_NOOP3("Localizable", "takes a description saved by 'probe --json' (- for standard input) and prints only the arguments that depend on it", "Help: option --info") },
-    OptionRow { Option::Quiet,        QLatin1StringView("quiet"),         {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "prints failures only", "Help: option --quiet") },
-    OptionRow { Option::Json,         QLatin1StringView("json"),          {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints JSON; 'convert' prints one object a line", "Help: option --json") },
-    OptionRow { Option::Verbose,      QLatin1StringView("verbose"),       {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints diagnostics and the tool's full output to standard error", "Help: option --verbose") },
-    OptionRow { Option::Help,         QLatin1StringView("help"),          QLatin1StringView("h"), {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints this help", "Help: option --help") },
-    OptionRow { Option::Version,      QLatin1StringView("version"),       {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints the version", "Help: option --version") },
+    //                                                                                            formats probe plan   convert
+    OptionRow { QLatin1StringView("to"),            {},                     QLatin1StringView("NAME"),     ValueKind::Entry,  { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "the output: one of those that 'formats' lists, or an extension", "Help: option --to") },
+    OptionRow { QLatin1StringView("output"),        QLatin1StringView("o"), QLatin1StringView("OUT"),      ValueKind::File,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "the file to write", "Help: option --output") },
+    OptionRow { QLatin1StringView("folder"),        QLatin1StringView("d"), QLatin1StringView("FOLDER"),   ValueKind::Folder, { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "the folder to write to; the files get the videos' names", "Help: option --folder") },
+    OptionRow { QLatin1StringView("recursive"),     QLatin1StringView("r"), QLatin1StringView("FOLDER"),   ValueKind::Folder, { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes all videos and music in a folder and below, and keeps its tree", "Help: option --recursive") },
+    OptionRow { QLatin1StringView("files-from"),    {},                     QLatin1StringView("FILE"),     ValueKind::File,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes the names in a file, one a line; - is standard input", "Help: option --files-from") },
+    OptionRow { QLatin1StringView("null"),          QLatin1StringView("0"), {},                            ValueKind::None,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "names in that file end with a null character, as after find -print0", "Help: option --null") },
+    OptionRow { QLatin1StringView("jobs"),          QLatin1StringView("j"), QLatin1StringView("N"),        ValueKind::Text,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "converts N videos side by side; 0 stands for as many as suit the cores", "Help: option --jobs") },
+    OptionRow { QLatin1StringView("overwrite"),     {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "replaces files that exist; a video itself is never replaced", "Help: option --overwrite") },
+    OptionRow { QLatin1StringView("skip-existing"), {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "leaves whole results that are newer than their videos alone, and makes cut ones again", "Help: option --skip-existing") },
+    OptionRow { QLatin1StringView("shard"),         {},                     QLatin1StringView("K/N"),      ValueKind::Text,   { false, false, true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "takes the K-th of N parts of the videos; the parts depend on their names alone", "Help: option --shard") },
+    OptionRow { QLatin1StringView("info"),          {},                     QLatin1StringView("JSONFILE"), ValueKind::File,   { false, false, true,  false }, QT_TRANSLATE_NOOP3("Localizable", "takes a description saved by 'probe --json' (- for standard input) and prints only the arguments that depend on it", "Help: option --info") },
+    OptionRow { QLatin1StringView("quiet"),         {},                     {},                            ValueKind::None,   { false, false, false, true  }, QT_TRANSLATE_NOOP3("Localizable", "prints failures only", "Help: option --quiet") },
+    OptionRow { QLatin1StringView("json"),          {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints JSON; 'convert' prints one object a line", "Help: option --json") },
+    OptionRow { QLatin1StringView("verbose"),       {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints diagnostics and the tool's full output to standard error", "Help: option --verbose") },
+    OptionRow { QLatin1StringView("help"),          QLatin1StringView("h"), {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints this help", "Help: option --help") },
+    OptionRow { QLatin1StringView("version"),       {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints the version", "Help: option --version") },
 };
 // clang-format on
+
+namespace Help {
+
+[[nodiscard]] QString general();
+[[nodiscard]] QString of(Verb verb);
+
+}
+
+/// What the package is made with: "man" gives the manual page's section on options, "bash", "zsh"
+/// and "fish" that shell's completion; empty for any other name.
+[[nodiscard]] QString generatedText(const QString &name);

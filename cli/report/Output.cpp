@@ -2,6 +2,7 @@
 #include "cli/report/Output.h"
 
 #include "cli/report/ShownText.h"
+#include "support/Console.h"
 #include "support/Format.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
@@ -19,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 std::atomic<bool> failed = false;
+std::atomic<bool> showsDiagnostics = false;
 
 // An interrupted program does not wait for a reader that does not read.
 bool isWritable(int descriptor)
@@ -63,17 +65,34 @@ void line(const QString &text) { write(STDOUT_FILENO, text.toUtf8() + '\n'); }
 
 void json(const QJsonDocument &document, QJsonDocument::JsonFormat format)
 {
-    QByteArray bytes = document.toJson(format);
-    if (!bytes.endsWith('\n'))
-        bytes += '\n';
-    write(STDOUT_FILENO, bytes);
+    write(STDOUT_FILENO, document.toJson(format).trimmed() + '\n');
 }
 
 void raw(const QString &text) { write(STDOUT_FILENO, text.toUtf8()); }
 
-void errorLine(const QString &text) { errorBytes(text.toUtf8() + '\n'); }
+void errorLine(const QString &text) { write(STDERR_FILENO, text.toUtf8() + '\n'); }
 
-void errorBytes(const QByteArray &bytes) { write(STDERR_FILENO, bytes); }
+void takeDiagnostics()
+{
+    Console::setSink([](const QString &line) {
+        if (showsDiagnostics)
+            errorLine(line);
+    });
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &message) {
+        if (type == QtFatalMsg)
+            errorLine(message);
+        else
+            Console::print(message);
+    });
+}
+
+void showDiagnostics() { showsDiagnostics = true; }
+
+void diagnostics(const QByteArray &bytes)
+{
+    if (showsDiagnostics)
+        write(STDERR_FILENO, bytes);
+}
 
 QString reportedSentence(const Outcome &outcome)
 {

@@ -13,10 +13,15 @@ void line(const QString &text);
 void json(const QJsonDocument &document, QJsonDocument::JsonFormat format);
 void raw(const QString &text);
 void errorLine(const QString &text);
-void errorBytes(const QByteArray &bytes);
 [[nodiscard]] QString reportedSentence(const Outcome &outcome);
 /// Says what went wrong with a file; returns what the program ends with.
 ExitCode failure(const QString &file, const Outcome &outcome);
+
+/// Takes what is printed for developers, and drops it until it is to be shown. Called first thing
+/// in main.
+void takeDiagnostics();
+void showDiagnostics();
+void diagnostics(const QByteArray &bytes);
 
 /// Standard output could not be written, other than because its reader has gone.
 [[nodiscard]] bool hasFailed();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ConversionItem.h"
+#include "cli/Inputs.h"
 #include "cli/report/ProgressLine.h"
 #include "planning/PlannedWork.h"
 
@@ -19,8 +19,10 @@ struct BatchSum {
 };
 
 struct RunningSample {
-    const ConversionItem *item;
+    const ConversionItem &item;
     ProgressSample sample;
+    /// The reporter's own: how far the video was when that was last told, -1 before.
+    qint64 &told;
 };
 
 struct ConvertedVideo {
@@ -31,17 +33,16 @@ struct ConvertedVideo {
     std::chrono::milliseconds elapsed{};
 };
 
-/// Shows the user how conversions go. Thread: main.
+/// Shows the user how conversions go; why one failed is said on standard error beside. Thread:
+/// main.
 class Reporter {
 public:
     Reporter() = default;
     virtual ~Reporter() = default;
     Q_DISABLE_COPY_MOVE(Reporter)
 
-    [[nodiscard]] static std::unique_ptr<Reporter> suitable(const CommandLine &line);
-
     [[nodiscard]] virtual std::chrono::milliseconds interval() const = 0;
-    virtual void started(const ConversionItem &item) = 0;
+    virtual void started(const ConversionItem & /*item*/) { }
     /// `whole` counts thousandths of videos.
     virtual void progressed(
         const std::vector<RunningSample> &running, const BatchSum &sum, const ProgressSample &whole)
@@ -50,12 +51,17 @@ public:
     /// A whole result was there.
     virtual void skipped(const ConversionItem &item) = 0;
     /// A file that was found beside the videos and is none.
-    virtual void leftOut(const ConversionItem &item, const Outcome &outcome) = 0;
+    virtual void leftOut(const ConversionItem & /*item*/, const Outcome & /*outcome*/) { }
     virtual void failed(const ConversionItem &item, const Outcome &outcome) = 0;
     virtual void summedUp(const BatchSum &sum) = 0;
-    /// Nothing can be converted at all; returns what the program ends with.
-    virtual ExitCode refused(const QString &name, const Outcome &outcome);
-
-protected:
-    static void printFailure(const ConversionItem &item, const Outcome &outcome);
+    /// Nothing can be converted at all.
+    virtual void refused(const QString & /*name*/, const Outcome & /*outcome*/) { }
 };
+
+/// One JSON object a line, as docs/json.md describes it.
+[[nodiscard]] std::unique_ptr<Reporter> jsonReporter();
+/// The same where the command line itself is wrong.
+void printMisuse(const QString &message);
+/// For people: a bar for each running conversion in a terminal's last lines, or lines for a log
+/// about every tenth of the way.
+[[nodiscard]] std::unique_ptr<Reporter> textReporter(bool isQuiet);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -17,6 +19,18 @@ struct Finished {
     [[nodiscard]] QString end() const
     {
         return QString::number(exitCode) + QStringLiteral(": ") + err;
+    }
+    /// The JSON object that was printed, and those in a line each.
+    [[nodiscard]] QJsonObject object() const
+    {
+        return QJsonDocument::fromJson(out.toUtf8()).object();
+    }
+    [[nodiscard]] QList<QJsonObject> objects() const
+    {
+        QList<QJsonObject> objects;
+        for (const QString &line : out.split(u'\n', Qt::SkipEmptyParts))
+            objects << QJsonDocument::fromJson(line.toUtf8()).object();
+        return objects;
     }
 };
 

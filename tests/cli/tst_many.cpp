@@ -6,8 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -33,9 +31,7 @@ class TestMany : public QObject {
 
     QList<QJsonObject> eventsOf(const QString &line)
     {
-        QList<QJsonObject> events;
-        for (const QString &text : m_command.run(line).out.split(u'\n', Qt::SkipEmptyParts))
-            events << QJsonDocument::fromJson(text.toUtf8()).object();
+        const QList<QJsonObject> events = m_command.run(line).objects();
         m_events += events;
         return events;
     }

@@ -5,8 +5,6 @@
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTcpServer>
 #include <QTest>
 
@@ -22,10 +20,6 @@ constexpr char slowTool[] = "print:  Duration: 00:01:40.00, start: 0\\n|copy|rep
 class TestOutput : public QObject {
     Q_OBJECT
 
-    static QJsonObject objectOf(const Finished &finished)
-    {
-        return QJsonDocument::fromJson(finished.out.toUtf8()).object();
-    }
     static QStringList wordsOf(const QJsonValue &list) { return list.toVariant().toStringList(); }
 
     const QString m_video = u"a'b\"c\n.mp4"_s;
@@ -52,7 +46,7 @@ private Q_SLOTS:
 
     void probe_describesAVideo()
     {
-        const QJsonObject object = objectOf(m_command.run(u"probe --json"_s, { m_video }));
+        const QJsonObject object = m_command.run(u"probe --json"_s, { m_video }).object();
         QCOMPARE(object.keys().join(u' '), u"cover duration info input seconds"_s);
         QCOMPARE(object[u"duration"_s].toString(), u"3s"_s);
         QCOMPARE(object[u"seconds"_s].toInt(), 3);
@@ -62,13 +56,13 @@ private Q_SLOTS:
         QVERIFY2(text.contains(u"0, video, h264, 320 x 240\n"_s), qPrintable(text));
 
         Media::ffmpeg({ u"-i"_s, m_command.path(m_video), u"-vn"_s, m_command.path(u"a.wav"_s) });
-        QVERIFY(objectOf(m_command.run(u"probe a.wav --json"_s))[u"cover"_s].isNull());
+        QVERIFY(m_command.run(u"probe a.wav --json"_s).object()[u"cover"_s].isNull());
     }
 
     void plan_isTheToolsCommandLine()
     {
         const QJsonObject object
-            = objectOf(m_command.run(u"plan --to WebM --json"_s, { m_video, u"o.webm"_s }));
+            = m_command.run(u"plan --to WebM --json"_s, { m_video, u"o.webm"_s }).object();
         QCOMPARE(object.keys(), QStringList{ u"WebM"_s });
         QStringList words = wordsOf(object[u"WebM"_s]);
         QCOMPARE(words.value(5), m_command.path(m_video));
@@ -88,7 +82,7 @@ private Q_SLOTS:
     {
         const QStringList files{ m_video, u"$HOME *.gif"_s };
         const QString line = m_command.run(u"plan --to GIF"_s, files).out.chopped(1);
-        const QJsonObject object = objectOf(m_command.run(u"plan --to GIF --json"_s, files));
+        const QJsonObject object = m_command.run(u"plan --to GIF --json"_s, files).object();
         QProcess shell;
         shell.start(u"sh"_s, { u"-c"_s, u"set -- "_s + line + uR"(; printf '%s|' "$@")"_s });
         QVERIFY(shell.waitForFinished());
@@ -112,7 +106,7 @@ private Q_SLOTS:
             const Finished fromFile = m_command.run(u"plan --to all --json --info info.json"_s);
             QCOMPARE(fromFile.end(), u"0: "_s);
             QCOMPARE(m_command.run(u"plan --to all --json --info -"_s, {}, info).out, fromFile.out);
-            const QJsonObject object = objectOf(fromFile);
+            const QJsonObject object = fromFile.object();
             QCOMPARE(object.size(), 25);
             QCOMPARE(wordsOf(object[u"MP4 HD 720"_s]).join(u' '),
                 hd720 + u"-strict experimental -f mp4"_s);
@@ -155,8 +149,7 @@ private Q_SLOTS:
         QCOMPARE(finished.end(), u"3: gone.mov: There is no such file.\n"_s);
         QStringList names;
         qint64 last = -1;
-        for (const QString &line : finished.out.split(u'\n', Qt::SkipEmptyParts)) {
-            const QJsonObject event = QJsonDocument::fromJson(line.toUtf8()).object();
+        for (const QJsonObject &event : finished.objects()) {
             const QString name = event[u"event"_s].toString();
             if (!names.endsWith(name))
                 names << name;

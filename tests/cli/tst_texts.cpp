@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "cli/arguments/CommandLine.h"
-#include "cli/arguments/Generated.h"
-#include "cli/arguments/Help.h"
 #include "cli/report/ProgressLine.h"
 #include "cli/report/ShownText.h"
 #include "engine/Outcome.h"
@@ -110,7 +108,7 @@ private Q_SLOTS:
         const QSet<QString> all = optionsIn(help);
         QCOMPARE(all.size(), qsizetype(optionRows.size()));
         for (const QString &document : { u"man"_s, u"bash"_s, u"zsh"_s, u"fish"_s }) {
-            const QString text = Generated::named(document).replace(u"\\-"_s, u"-"_s);
+            const QString text = generatedText(document).replace(u"\\-"_s, u"-"_s);
             QCOMPARE(optionsIn(text), all);
             QVERIFY(document == u"man" || text.contains(u"MP4 HD 720\n"_s));
         }

@@ -2,7 +2,6 @@
 #include "LoopbackServer.h"
 #include "crash/Crash.h"
 #include "crash/CrashReports.h"
-#include "crash/SessionEvents.h"
 #include "crash/dialog/CrashQuestion.h"
 #include "support/Defaults.h"
 #include "tests/fixtures/Rows.h"
@@ -125,14 +124,14 @@ private Q_SLOTS:
     {
         Defaults::setValue(u"CrashReportsAlwaysSend"_s, true);
         leaveReport(1);
-        SessionEvents session;
+        CrashReports session;
         qputenv("DO_NOT_TRACK", "1");
         QCOMPARE(ask(SendReport::Always), 0);
-        session.begin();
+        session.beginSession();
         qunsetenv("DO_NOT_TRACK");
         qunsetenv("VIDEO_CONVERTER_CRASH_URL");
         QCOMPARE(ask(SendReport::Always), 0);
-        session.begin();
+        session.beginSession();
         QTest::qWait(200); // Nothing comes; there is no event to wait for.
         QVERIFY(m_server->requests.isEmpty());
         QCOMPARE(files(), u"crash-1.txt"_s);
@@ -143,14 +142,14 @@ private Q_SLOTS:
         Defaults::setValue(u"CrashReportsAlwaysSend"_s, true);
         for (const QByteArray event : { "no clean end", "clean end" }) {
             m_server->requests.clear();
-            SessionEvents first;
-            first.begin();
+            CrashReports first;
+            first.beginSession();
             QTRY_VERIFY(!m_server->requests.isEmpty());
             if (event == "clean end")
                 Q_EMIT qApp->aboutToQuit({});
             const QByteArray start = m_server->requests.last().body;
-            SessionEvents second;
-            second.begin();
+            CrashReports second;
+            second.beginSession();
             const QByteArray end = QByteArray(start).replace("Event: start", "Event: " + event);
             QTRY_VERIFY2(m_server->wasSent(end), end.constData());
         }

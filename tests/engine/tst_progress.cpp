@@ -3,7 +3,7 @@
 #include "engine/Progress.h"
 #include "engine/ToolFailure.h"
 #include "engine/ToolOutput.h"
-#include "support/Pattern.h"
+#include "support/Text.h"
 #include "tests/fixtures/Rows.h"
 
 #include <QRandomGenerator>

@@ -3,7 +3,6 @@
 #include "support/Format.h"
 #include "support/JSON.h"
 #include "support/Path.h"
-#include "support/Pattern.h"
 #include "support/Text.h"
 
 #include <QTest>

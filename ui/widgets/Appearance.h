@@ -20,8 +20,10 @@ public:
 
     [[nodiscard]] static QPalette palette(Look look);
 
+#ifdef Q_OS_LINUX
 private Q_SLOTS:
     void settingChanged(const QString &space, const QString &key, const QDBusVariant &value);
+#endif
 
 private:
     void askDesktop();
