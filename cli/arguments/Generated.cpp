@@ -67,8 +67,8 @@ QString manOptions()
 QString zshOption(const OptionRow &row)
 {
     // In the order of the kinds.
-    constexpr std::array actions{ ""_L1, ":{compadd -M 'm:{a-zA-Z}={A-Za-z}' -a names}"_L1,
-        ":_files"_L1, ":_files -/"_L1, ": "_L1 };
+    constexpr std::array actions{ ""_L1, ":_video_converter_names"_L1, ":_files"_L1,
+        ":_files -/"_L1, ": "_L1 };
     QString action = actions.at(static_cast<std::size_t>(row.kind));
     if (row.kind != ValueKind::None)
         action.prepend(u':' + row.value).replace(u"'"_s, uR"('\'')"_s);

@@ -84,17 +84,6 @@ private Q_SLOTS:
         QCOMPARE(m_lines, QStringList());
     }
 
-    void commonParameters_win()
-    {
-        Analytics::send({ { u"v"_s, 9 }, { u"av"_s, u"9"_s }, { u"x"_s, 1.5 } }, u"UA-2"_s);
-        QTRY_COMPARE(m_collector->requests.size(), 1);
-        QCOMPARE(told(u"v"_s), 1);
-        QCOMPARE(told(u"av"_s), u"1.0"_s);
-        QCOMPARE(told(u"tid"_s), u"UA-2"_s);
-        QCOMPARE(told(u"x"_s), 1.5);
-        QCOMPARE(m_collector->requests[0].hit().size(), 7);
-    }
-
     void clientId_isKept()
     {
         const std::pair<QVariant, QString> ids[]{ { u"x"_s, u"^x$"_s }, { u""_s, u"^unknown$"_s },
@@ -113,14 +102,6 @@ private Q_SLOTS:
         }
         QCOMPARE(told(u"el"_s), true);
         QCOMPARE(told(u"ev"_s), u"0"_s);
-    }
-
-    void locale_isTheUsersLanguage()
-    {
-        QLocale::setDefault(QLocale::c());
-        QCOMPARE(Analytics::locale(), u"en"_s);
-        QLocale::setDefault(QLocale(u"fil_PH"_s));
-        QCOMPARE(Analytics::locale(), u"fil"_s);
     }
 
     void failure_printsOneLine()

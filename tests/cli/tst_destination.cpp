@@ -86,20 +86,6 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(u"/dev/null"_s));
     }
 
-    void removedCurrentFolder_isNotTheRoot()
-    {
-        m_command->prepare(u"mkdir gone"_s);
-        const QByteArray gone = QFile::encodeName(m_command->path(u"gone"_s));
-        const auto process = m_command->start(
-            u"convert --to MP4 -o result.mp4"_s, { m_command->path(u"video.mp4"_s) }, [&gone] {
-                if (::chdir(gone.constData()) != 0 || ::rmdir(gone.constData()) != 0)
-                    ::_exit(126);
-            });
-        const QString end = Command::wait(*process).end();
-        QVERIFY(!QFile::remove(u"/result.mp4"_s));
-        QVERIFY2(end.endsWith(u"The destination's folder does not exist.\n"_s), qPrintable(end));
-    }
-
     void laterVideo_isNotReplaced()
     {
         // The first result would get the name of the second source. The first failure counts.

@@ -7,9 +7,6 @@
 #include <QThread>
 
 #include <latch>
-#include <limits>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -48,23 +45,6 @@ private Q_SLOTS:
         SerialQueue::waitForAll();
         QCOMPARE(order.size(), 100U);
         QVERIFY(std::ranges::is_sorted(order));
-    }
-
-    void delay_refusesWhatDoesNotFit()
-    {
-        using Limits = std::numeric_limits<double>;
-        for (const double seconds : { Limits::quiet_NaN(), Limits::infinity(), 1e10, -1e10 }) {
-            const pid_t child = ::fork();
-            if (child == 0) {
-                ::close(STDERR_FILENO);
-                ::signal(SIGILL, SIG_DFL);
-                Async::delay(seconds, [] {});
-                ::_exit(0);
-            }
-            int status = 0;
-            ::waitpid(child, &status, 0);
-            QVERIFY2(status != 0, qPrintable(QString::number(seconds)));
-        }
     }
 };
 

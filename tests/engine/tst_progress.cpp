@@ -86,18 +86,6 @@ private Q_SLOTS:
         QVERIFY(found > 20);
     }
 
-    void fraction_isZeroWithoutATotal()
-    {
-        Progress progress(-1);
-        QVERIFY(progress.isIndeterminate());
-        progress.setCompletedUnitCount(5);
-        for (const auto &[total, fraction] :
-            { std::pair{ -1, 0.0 }, std::pair{ 20, 0.25 }, std::pair{ 0, 0.0 } }) {
-            progress.setTotalUnitCount(total);
-            QCOMPARE(progress.fractionCompleted(), fraction);
-        }
-    }
-
     void observers_hearTheirKeyUntilTheyAreRemoved()
     {
         Progress progress(100);
@@ -133,18 +121,6 @@ private Q_SLOTS:
             progress.cancel();
             QCOMPARE(runs, 1);
         }
-    }
-
-    void endHandler_runsAlsoWhenSetLate()
-    {
-        Progress progress(-1);
-        QByteArrayList outputs;
-        progress.setEndHandler([&] { outputs += progress.toolOutput(); });
-        QVERIFY(!progress.isEnded());
-        progress.setOutcome({ Reason::Cancelled }, "all of it");
-        progress.end();
-        progress.setEndHandler([&] { outputs += "late"; });
-        QCOMPARE(outputs, (QByteArrayList{ "all of it", "late" }));
     }
 
     void failure_getsASentence_data()

@@ -130,25 +130,6 @@ private Q_SLOTS:
                 qPrintable(u"%1 s of %2 s"_s.arg(length).arg(expected)));
         }
     }
-
-    void manyRuns_leaveNothingBehind()
-    {
-        for (int i = 0; i < 6; ++i)
-            runFour(i * 25);
-        SerialQueue::waitForAll();
-        const qsizetype descriptors = Processes::openDescriptors();
-        const qsizetype threads = Processes::threads();
-        const qint64 memory = Processes::residentMemory();
-        for (int i = 0; i < (sanitized ? 10 : 50); ++i)
-            runFour(i * 3);
-        SerialQueue::waitForAll();
-        QTRY_COMPARE(Processes::threads(), threads);
-        QCOMPARE(Processes::openDescriptors(), descriptors);
-        QCOMPARE(Processes::children(), QStringList());
-        QCOMPARE(m_errors, 0);
-        const qint64 growth = Processes::residentMemory() - memory;
-        QVERIFY2(sanitized || growth < 2048, qPrintable(QString::number(growth)));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestRealTool)

@@ -72,13 +72,6 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(LaunchException, task.tryLaunch(&error));
     }
 
-    void output_isReadInFull()
-    {
-        QCOMPARE(outputOf("print:first |out:second |sleep:50|print:third"), "first second third=0");
-        QCOMPARE(outputOf("print:end|exit:3"), "end=3");
-        QVERIFY(!outputOf("print:end|signal:9").endsWith("=0"));
-    }
-
     void output_isDrainedBeforeTheTaskCountsAsEnded()
     {
         // The tool ends at once after its last words, often before anybody has looked at the pipe.

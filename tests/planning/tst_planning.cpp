@@ -179,33 +179,6 @@ private Q_SLOTS:
         QTEST(planned(constraints, R"({"streams":[)" + elements + "]}"), "expected");
     }
 
-    void work_isThatOfTheArguments()
-    {
-        using enum StreamWork;
-        const auto work = [](const QString &name, const QByteArray &elements) {
-            return plannedWork(entry(name), JSON::parse(R"({"streams":[)" + elements + "]}"));
-        };
-        const QByteArray phone = video("h264", 1080, 1920) + ',' + audio("aac", "48000", 2);
-        QVERIFY((work(u"MP4"_s, phone) == PlannedWork{ Copied, Copied }));
-        QVERIFY((work(u"FLV"_s, phone) == PlannedWork{ Copied, Encoded }));
-        QVERIFY(
-            (work(u"iPhone 6, 6s"_s, phone) == PlannedWork{ Encoded, Copied, QSize(750, 1334) }));
-        QVERIFY((work(u"MP4 HD 720"_s, video("h264", 4096, 1716))
-            == PlannedWork{ Encoded, LeftOut, QSize(1280, 536) }));
-        QVERIFY((work(u"audio"_s, phone) == PlannedWork{ LeftOut, Encoded }));
-        QVERIFY((work(u"GIF"_s, phone) == PlannedWork{ Encoded, LeftOut }));
-        QVERIFY(work(u"GIF"_s, audio("aac", "48000", 2)).isEmpty());
-        QVERIFY(!work(u"GIF"_s, phone).isCopy());
-        QVERIFY(work(u"MKV"_s, audio("aac", "48000", 2)).isCopy());
-        QVERIFY(!work(u"MKV"_s, {}).isCopy());
-        // Sides that no picture has.
-        for (const char *size : { R"("width":9223372036854775807,"height":2})",
-                 R"("width":4000,"height":-9223372036854775807})" })
-            QCOMPARE(
-                work(u"MP4 Low Quality"_s, R"({"codec_type":"video",)" + QByteArray(size)).scaledTo,
-                QSize(480, 0));
-    }
-
     void work_agreesWithManyArguments()
     {
         QRandomGenerator random(25);
@@ -288,19 +261,6 @@ private Q_SLOTS:
         // The smaller numbers leave no trace in any argument.
         QCOMPARE(entry(u"MP4 Low Quality"_s).dimension,
             VideoDimensionsConstraints::maximum({ .width = 480, .height = 240 }));
-    }
-
-    void rawValue_leadsToItsFormat()
-    {
-        QStringList extensions;
-        for (int raw = 1; raw <= 9; ++raw) {
-            QCOMPARE(rawValue(conversionFormat(raw).value()), raw);
-            QCOMPARE(hashValue(conversionFormat(raw).value()), raw - 1);
-            extensions += conversionDescriptor(*conversionFormat(raw)).ext;
-        }
-        QCOMPARE(extensions.join(u' '), u"flv mp4 mkv mov avi mp3 mpg gif webm"_s);
-        for (const int raw : { -1, 0, 10, std::numeric_limits<int>::max() })
-            QCOMPARE(conversionFormat(raw), std::nullopt);
     }
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Answering.h"
 #include "support/Bundle.h"
-#include "support/Console.h"
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Static.h"
 #include "tests/fixtures/Rows.h"
@@ -86,21 +85,6 @@ private Q_SLOTS:
         else
             displayError(texts[0], texts.value(1));
         QVERIFY(answering.wasShown);
-    }
-
-    void site_followsTheLanguage()
-    {
-        const QString root = u"https://example.org/"_s;
-        const QStringList all{ u"de"_s, u"en"_s, u"ru"_s };
-        QStringList lines;
-        Console::setSink([&](const QString &line) { lines += line; });
-        QCOMPARE(Static::siteAddress(root, u"RU"_s, all), root + u"ru/"_s);
-        QCOMPARE(Static::siteAddress(root, u"ru"_s, { u"de"_s, u"ru_RU"_s, u"RU"_s }), root);
-        QCOMPARE(Static::siteAddress(root, u"de"_s, all), root);
-        QCOMPARE(Static::siteAddress(root, {}, all), root);
-        QCOMPARE(Static::siteAddress({}, u"ru"_s, all), QString());
-        Console::setSink([](const QString &) {});
-        QCOMPARE(lines, (QStringList{ u"RU 2"_s, u"de 0"_s, u"ru 2"_s }));
     }
 
     void aboutBox_showsThisProgram()

@@ -38,26 +38,6 @@ private Q_SLOTS:
         Defaults::remove(u"FirstLaunch"_s);
     }
 
-    void info_isReadFromThePropertyList()
-    {
-        QVERIFY(QDir(m_folder->path()).mkdir(u"Contents"_s));
-        QFile file(m_folder->filePath(u"Contents/Info.plist"_s));
-        const auto info = [&](const QByteArray &list) {
-            if (file.open(QIODevice::WriteOnly))
-                file.write(list);
-            file.close();
-            return Bundle(m_folder->path()).infoString(u"K"_s);
-        };
-        const QByteArray start = "<plist><dict><key>A</key><string>K</string><key>K</key>\n\t";
-        const QByteArray end = "<key>B</key><string>x</string></dict></plist>";
-        QCOMPARE(info(start + "<string>1 &lt; 2</string>" + end), u"1 < 2"_s);
-        QCOMPARE(info(start + "<string/>" + end), u""_s);
-        for (const QByteArray &other : { start + "<integer>1</integer>" + end, start + end,
-                 start + "<str", QByteArray("bplist00\x01\x02") })
-            QCOMPARE(info(other), std::nullopt);
-        QCOMPARE(Bundle(u"/nowhere"_s).infoString(u"K"_s), std::nullopt);
-    }
-
     void movedBundle_isFound()
     {
         const QDir folder(QFileInfo(m_folder->path()).canonicalFilePath());
@@ -95,16 +75,6 @@ private Q_SLOTS:
         }
     }
 
-    void doNotTrack_isObeyed()
-    {
-        for (const auto &[value, obeyed] : { std::pair{ "1", true }, std::pair{ "true", true },
-                 std::pair{ "0", false }, std::pair{ "", false } }) {
-            qputenv("DO_NOT_TRACK", value);
-            QCOMPARE(Configuration::doNotTrack(), obeyed);
-        }
-        qunsetenv("DO_NOT_TRACK");
-    }
-
     void registeredDefault_isNeverWritten()
     {
         QVERIFY(Preferences::isFirstRun());
@@ -114,21 +84,6 @@ private Q_SLOTS:
         QVERIFY2(settings().contains(u"IsFirstRun=false"_s), qPrintable(settings()));
         Defaults::remove(u"IsFirstRun"_s);
         QVERIFY(Preferences::isFirstRun());
-    }
-
-    void firstLaunch_isRecordedOnce()
-    {
-        for (const QVariant &notAMoment :
-            { QVariant(), QVariant(5), QVariant(u"2020-01-02T03:04:05"_s) }) {
-            Defaults::setValue(u"FirstLaunch"_s, notAMoment);
-            const QDateTime before = QDateTime::currentDateTime();
-            QVERIFY(Preferences::firstLaunchDate() >= before);
-            const QDateTime kept = Preferences::firstLaunchDate();
-            QVERIFY(kept >= before && kept <= QDateTime::currentDateTime());
-            QTest::qWait(2);
-            QCOMPARE(Preferences::firstLaunchDate(), kept);
-            QVERIFY2(settings().contains(u"@DateTime"_s), qPrintable(settings()));
-        }
     }
 };
 

@@ -256,18 +256,6 @@ private Q_SLOTS:
         QDesktopServices::unsetUrlHandler(u"file"_s);
     }
 
-    void keepAwake_releasesWhatComesTooLate()
-    {
-        const QVariant request = QVariant::fromValue(QDBusObjectPath(u"/request"_s));
-        const DesktopStandIn desktop({ portal }, { { u"Inhibit"_s, { request } } });
-        KeepAwake awake;
-        awake.start(u"Converting"_s);
-        // No answer arrives before the event loop runs.
-        awake.stop();
-        QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
-        QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), u"/request"_s);
-    }
-
     void colors_followTheDesktop()
     {
         const auto isDark

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
 #include "ui/widgets/Appearance.h"
-#include "ui/widgets/ConvertPopupButton.h"
 #include "ui/window/ProposedName.h"
 #include "ui/window/TimeLeft.h"
 
-#include <QFontMetricsF>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -18,20 +16,6 @@ class tst_widgets : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cell_placesItsOwnTitleAboveTheMiddle()
-    {
-        ConvertPopupButtonCell cell({}, true);
-        cell.setTitle(u"MP4"_s);
-        QCOMPARE(cell.title(), u"Convert"_s);
-        QFont font;
-        font.setPointSizeF(20);
-        cell.setFont(font);
-        const double height = QFontMetricsF(font).size(Qt::TextSingleLine, cell.title()).height();
-        const QRectF tight(3, 7, 100, height - 4);
-        QCOMPARE(cell.titleRectForBounds(tight), tight);
-        QCOMPARE(cell.titleRectForBounds(tight.adjusted(0, 0, 0, 14)), QRectF(3, 10, 100, height));
-    }
-
     void colours_standOut_data()
     {
         using enum QPalette::ColorRole;
