@@ -23,8 +23,7 @@ constexpr auto infoLimit = qint64{ 64 } * 1024 * 1024;
 /// Media information as the tool prints it, or as 'probe --json' wraps it.
 std::variant<JSON, Outcome> savedInfo(const QString &name)
 {
-    const bool isInput = name == "/dev/stdin"_L1;
-    const auto bytes = StandardInput::contentsOf(isInput ? u"-"_s : name, infoLimit);
+    const auto bytes = StandardInput::contentsOf(name, infoLimit);
     if (!bytes)
         return Outcome{ Reason::InfoNotReadable };
     const JSON json = JSON::parse(*bytes);

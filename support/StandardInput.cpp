@@ -28,7 +28,7 @@ void setAside()
 std::optional<QByteArray> contentsOf(const QString &name, qint64 limit)
 {
     QFile file(name);
-    if (name == u"-")
+    if (name == u"-" || name == u"/dev/stdin")
         return file.open(original, QIODevice::ReadOnly) ? file.read(limit) : QByteArray();
     return file.open(QIODevice::ReadOnly) ? std::optional(file.read(limit)) : std::nullopt;
 }

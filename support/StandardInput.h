@@ -11,8 +11,8 @@ namespace StandardInput {
 /// Puts the input aside and /dev/null in its place, also where 1 or 2 are closed. Called first
 /// thing in main.
 void setAside();
-/// What a file holds, or for "-" all that comes from the input that was put aside; at most `limit`
-/// bytes. Absent when the file can't be read.
+/// What a file holds, or for "-" and "/dev/stdin" all that comes from the input that was put aside;
+/// at most `limit` bytes. Absent when the file can't be read.
 [[nodiscard]] std::optional<QByteArray> contentsOf(const QString &name, qint64 limit);
 
 }

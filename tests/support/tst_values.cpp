@@ -52,6 +52,14 @@ private Q_SLOTS:
         QCOMPARE(pieces(u"//a//🎬\n.c"_s), u"🎬\n.c | c | //a | //a//🎬\n"_s);
     }
 
+    void path_isJoined()
+    {
+        const auto joined = Path::stringByAppendingPathComponent;
+        QCOMPARE(joined(u"/tmp//"_s, u"//a.b/"_s), u"/tmp/a.b"_s);
+        QCOMPARE(joined(u"/"_s, u"a"_s), u"/a"_s);
+        QCOMPARE(joined(u"/tmp"_s, u"//"_s), u"/tmp"_s);
+    }
+
     void json_readsLeniently()
     {
         QCOMPARE(readings(R"("h264")"), u"h264 | h264 | - | 0"_s);
@@ -83,6 +91,16 @@ private Q_SLOTS:
         const QString accents = u"e\u0301"_s.repeated(26);
         QCOMPARE(Text::max(accents.first(50), 25), accents.first(50));
         QCOMPARE(Text::max(accents, 25), accents.first(48) + u'…');
+    }
+
+    void number_isReadOrZero()
+    {
+        QCOMPARE(Text::asInt(u"+007"), 7);
+        QCOMPARE(Text::asInt64(u"9223372036854775807"), largest);
+        QCOMPARE(Text::asInt64(u"-9223372036854775808"), smallest);
+        for (const QString &text : { u""_s, u"+"_s, u"+-7"_s, u" 42"_s, u"42.0"_s, u"4k"_s,
+                 u"9223372036854775808"_s, u"٣"_s, u"1,000"_s })
+            QCOMPARE(Text::asInt64(text), 0);
     }
 
     void pattern_findsGroup()
