@@ -16,7 +16,6 @@
 #include "ui/widgets/Appearance.h"
 #include "ui/window/AppDelegate.h"
 #include "updates/Updater.h"
-#include "updates/UpdaterDelegate.h"
 #include "updates/dialog/UpdateDialogs.h"
 
 #include <QApplication>
@@ -64,7 +63,6 @@ public:
         : m_updater(UpdaterSettings::configured())
         , m_dialogs(m_updater, delegate.window(), QUrl(Configuration::siteUrl()))
     {
-        m_updater.setDelegate(&m_updaterDelegate);
         addHelpMenu(delegate, m_updater);
         m_crashReports.beginSession();
         m_crashReports.uploadPending([window = delegate.window()](const QString &report) {
@@ -74,7 +72,6 @@ public:
     }
 
 private:
-    UpdaterDelegate m_updaterDelegate;
     Updater m_updater;
     UpdateDialogs m_dialogs;
     CrashReports m_crashReports;

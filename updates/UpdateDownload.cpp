@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "updates/UpdateDownload.h"
 
+#include "support/Configuration.h"
+
 #include <QDir>
 #include <QNetworkReply>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 #include <sodium.h>
 
@@ -33,21 +36,28 @@ bool openNew(QFile &file, const QString &folder, const QString &name, const QStr
 
 }
 
-bool isSignedBy(QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message)
+UpdaterSettings UpdaterSettings::configured()
 {
+    return { .version = Configuration::version(),
+        .publicKey = Configuration::updateKey(),
+        .downloadFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) };
+}
+
+bool isSignedBy(const QString &publicKey, QByteArrayView signature, QByteArrayView message)
+{
+    const QByteArray key = QByteArray::fromBase64(publicKey.toLatin1());
     const auto bytes
         = [](QByteArrayView view) { return reinterpret_cast<const unsigned char *>(view.data()); };
-    return publicKey.size() == crypto_sign_PUBLICKEYBYTES && signature.size() == crypto_sign_BYTES
+    return key.size() == crypto_sign_PUBLICKEYBYTES && signature.size() == crypto_sign_BYTES
         && sodium_init() >= 0
         && crypto_sign_verify_detached(bytes(signature), bytes(message),
-               static_cast<std::size_t>(message.size()), bytes(publicKey))
+               static_cast<std::size_t>(message.size()), bytes(key))
         == 0;
 }
 
-UpdateDownload::UpdateDownload(AppcastItem item, Target target, QObject *parent)
-    : QObject(parent)
-    , m_item(std::move(item))
-    , m_target(std::move(target))
+UpdateDownload::UpdateDownload(AppcastItem item, UpdaterSettings settings)
+    : m_item(std::move(item))
+    , m_settings(std::move(settings))
 {
 }
 
@@ -55,7 +65,7 @@ void UpdateDownload::start()
 {
     if (!m_file.open())
         return Q_EMIT failed(false);
-    const QNetworkReply *reply = fetch(m_network, m_item.url, m_file, m_target.limits,
+    const QNetworkReply *reply = fetch(m_network, m_item.url, m_file, m_settings.fileLimits,
         [this](bool complete) { finish(complete); });
     connect(reply, &QNetworkReply::downloadProgress, this, &UpdateDownload::progressed);
 }
@@ -65,10 +75,11 @@ void UpdateDownload::finish(bool complete)
     const qint64 size = m_file.size();
     const uchar *bytes = complete && m_file.flush() && size > 0 ? m_file.map(0, size) : nullptr;
     const QByteArrayView content(bytes, bytes ? size : 0);
-    const bool isSigned = bytes && isSignedBy(m_target.publicKey, m_item.signature, content);
+    const bool isSigned = bytes && isSignedBy(m_settings.publicKey, m_item.signature, content);
     QFile file;
     const QString name = u"VideoConverter-"_s + m_item.versionText;
-    const bool isOpen = isSigned && openNew(file, m_target.folder, name, fileKind(m_item.url));
+    const bool isOpen
+        = isSigned && openNew(file, m_settings.downloadFolder, name, fileKind(m_item.url));
     if (isOpen && file.write(content.data(), size) == size && file.flush())
         return Q_EMIT saved(file.fileName());
     if (isOpen)

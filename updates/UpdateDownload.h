@@ -8,22 +8,27 @@
 #include <QObject>
 #include <QTemporaryFile>
 
-/// An Ed25519 signature over exactly these bytes. Keys are 32 bytes, signatures 64. Thread: any.
+struct UpdaterSettings {
+    QString version;
+    /// Base64 of the Ed25519 public key; without one nothing is ever downloaded.
+    QString publicKey{};
+    QString downloadFolder{};
+    FetchLimits feedLimits{ qint64{ 1024 } * 1024, std::chrono::seconds(30) };
+    FetchLimits fileLimits{ qint64{ 512 } * 1024 * 1024, std::chrono::minutes(60) };
+
+    [[nodiscard]] static UpdaterSettings configured();
+};
+
+/// An Ed25519 signature of 64 bytes over exactly these bytes. The key is in Base64. Thread: any.
 [[nodiscard]] bool isSignedBy(
-    QByteArrayView publicKey, QByteArrayView signature, QByteArrayView message);
+    const QString &publicKey, QByteArrayView signature, QByteArrayView message);
 
 /// Fetches the file of one item and, only when its signature verifies, puts it into a folder under
 /// a name that never replaces anything. Thread: main.
 class UpdateDownload : public QObject {
     Q_OBJECT
 public:
-    struct Target {
-        QByteArray publicKey;
-        QString folder;
-        FetchLimits limits;
-    };
-
-    UpdateDownload(AppcastItem item, Target target, QObject *parent = nullptr);
+    UpdateDownload(AppcastItem item, UpdaterSettings settings);
 
     void start();
 
@@ -37,7 +42,7 @@ private:
     void finish(bool complete);
 
     AppcastItem m_item;
-    Target m_target;
+    UpdaterSettings m_settings;
     QTemporaryFile m_file;
     QNetworkAccessManager m_network;
 };

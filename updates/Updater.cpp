@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "updates/Updater.h"
 
-#include "support/Configuration.h"
 #include "support/Defaults.h"
 #include "support/Preferences.h"
-#include "updates/UpdateDownload.h"
-#include "updates/UpdaterDelegate.h"
 
 #include <QDateTime>
-#include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -36,41 +33,26 @@ bool isCheckDue()
 
 }
 
-UpdaterSettings UpdaterSettings::configured()
+Updater::Updater(UpdaterSettings settings)
+    : m_settings(std::move(settings))
 {
-    return { .version = Configuration::version(),
-        .publicKey = Configuration::updateKey(),
-        .downloadFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) };
-}
-
-Updater::Updater(UpdaterSettings settings, QObject *parent)
-    : QObject(parent)
-    , m_settings(std::move(settings))
-    , m_publicKey(QByteArray::fromBase64(m_settings.publicKey.toLatin1()))
-{
-    connect(&m_hourly, &QTimer::timeout, this, &Updater::checkInBackground);
 }
 
 void Updater::checkForUpdates()
 {
     m_byUser = true;
-    if (feedUrl().isEmpty())
+    if (m_delegate.feedURLStringForUpdater(this).isEmpty())
         return Q_EMIT checked({ .outcome = UpdateCheck::Outcome::NotConfigured, .byUser = true });
     start();
 }
 
 void Updater::checkInBackground()
 {
-    if (feedUrl().isEmpty())
+    if (m_delegate.feedURLStringForUpdater(this).isEmpty())
         return;
-    m_hourly.start(1h);
+    QTimer::singleShot(1h, this, &Updater::checkInBackground);
     if (Preferences::checksForUpdates() && isCheckDue())
         start();
-}
-
-QString Updater::feedUrl() const
-{
-    return m_delegate ? m_delegate->feedURLStringForUpdater(this) : QString();
 }
 
 void Updater::start()
@@ -80,7 +62,7 @@ void Updater::start()
     Defaults::setValue(lastCheckKey, QDateTime::currentDateTimeUtc());
     m_feed.setData(QByteArray());
     m_feed.open(QIODevice::WriteOnly);
-    fetch(m_network, QUrl(feedUrl()), m_feed, m_settings.feedLimits,
+    fetch(m_network, QUrl(m_delegate.feedURLStringForUpdater(this)), m_feed, m_settings.feedLimits,
         [this](bool complete) { finish(complete); });
 }
 
@@ -100,6 +82,10 @@ void Updater::skip(const AppcastItem &item) { Defaults::setValue(skippedKey, ite
 
 UpdateCheck Updater::judged(const QByteArray &feed) const
 {
+    const auto isForged = [&key = m_settings.publicKey](const AppcastItem &item) {
+        return !item.url.isValid() || item.signature.size() != 64
+            || !isSignedBy(key, item.versionSignature, item.signature + item.versionText.toUtf8());
+    };
     auto items = parseAppcast(feed, systemName);
     const auto current = Version::parse(m_settings.version);
     if (!items || !current)
@@ -107,26 +93,10 @@ UpdateCheck Updater::judged(const QByteArray &feed) const
     std::erase_if(*items, [&](const AppcastItem &item) { return item.version <= *current; });
     if (items->empty())
         return { .outcome = UpdateCheck::Outcome::UpToDate };
-    const bool hasKey = !m_settings.publicKey.isEmpty();
-    if (hasKey)
-        std::erase_if(*items, [this](const AppcastItem &item) { return !isSignedItem(item); });
+    if (!m_settings.publicKey.isEmpty())
+        std::erase_if(*items, isForged);
     if (items->empty())
         return { .outcome = UpdateCheck::Outcome::Untrusted };
     const auto newest = std::ranges::max_element(*items, {}, &AppcastItem::version);
-    return {
-        .outcome = UpdateCheck::Outcome::Available, .item = *newest, .isDownloadable = hasKey
-    };
-}
-
-bool Updater::isSignedItem(const AppcastItem &item) const
-{
-    return item.url.isValid() && item.signature.size() == 64
-        && isSignedBy(
-            m_publicKey, item.versionSignature, item.signature + item.versionText.toUtf8());
-}
-
-std::unique_ptr<UpdateDownload> Updater::download(const AppcastItem &item) const
-{
-    return std::make_unique<UpdateDownload>(item,
-        UpdateDownload::Target{ m_publicKey, m_settings.downloadFolder, m_settings.fileLimits });
+    return { .outcome = UpdateCheck::Outcome::Available, .item = *newest };
 }

@@ -118,7 +118,7 @@ void UpdateDialogs::showAvailable(const UpdateCheck &check)
         Updater::skip(item);
         dialog->reject();
     });
-    if (check.isDownloadable) {
+    if (!m_updater.settings().publicKey.isEmpty()) {
         buttons->addButton(
             localized(QT_TRANSLATE_NOOP3("Localizable", "Download", "update dialog, button")),
             QDialogButtonBox::AcceptRole);
@@ -153,21 +153,19 @@ void UpdateDialogs::startDownload(const AppcastItem &item)
     m_progress->setLabelText(
         formatted(QT_TRANSLATE_NOOP3("Localizable", "Downloading version %@", "update download"),
             { item.displayVersion }));
-    m_download = m_updater.download(item);
-    connect(m_download.get(), &UpdateDownload::progressed, this, &UpdateDialogs::showProgress);
+    m_download = std::make_unique<UpdateDownload>(item, m_updater.settings());
+    connect(m_download.get(), &UpdateDownload::progressed, m_progress,
+        [progress = m_progress.get()](qint64 received, qint64 total) {
+            if (total <= 0)
+                return;
+            progress->setMaximum(1000);
+            progress->setValue(static_cast<int>(received * 1000 / total));
+        });
     connect(m_download.get(), &UpdateDownload::saved, this, &UpdateDialogs::showSaved);
     connect(m_download.get(), &UpdateDownload::failed, this, &UpdateDialogs::showFailed);
     connect(m_progress, &QProgressDialog::canceled, this, [this] { m_download.reset(); });
     m_progress->show();
     m_download->start();
-}
-
-void UpdateDialogs::showProgress(qint64 received, qint64 total)
-{
-    if (!m_progress || total <= 0)
-        return;
-    m_progress->setMaximum(1000);
-    m_progress->setValue(static_cast<int>(received * 1000 / total));
 }
 
 void UpdateDialogs::showSaved(const QString &path)

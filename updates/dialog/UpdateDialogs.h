@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "updates/UpdateDownload.h"
 #include "updates/Updater.h"
 
 #include <QObject>
@@ -25,7 +24,6 @@ private:
     void showCheck(const UpdateCheck &check);
     void showAvailable(const UpdateCheck &check);
     void startDownload(const AppcastItem &item);
-    void showProgress(qint64 received, qint64 total);
     void showSaved(const QString &path);
     void showFailed(bool forged);
     QMessageBox *showMessage(const QString &text);
