@@ -46,10 +46,8 @@ alignas(16) char alternateStack[std::size_t{ 64 } * 1024];
 pid_t owner = 0;
 std::terminate_handler previousTerminate = nullptr;
 
-pthread_t crashedThread;
+std::atomic<pthread_t> crashedThread{};
 siginfo_t crashInfo;
-std::atomic_flag crashing;
-std::atomic_bool crashKnown;
 
 const Fatal &fatalOf(int signal)
 {
@@ -80,9 +78,7 @@ void giveUp(int)
 // Another thread may hold what the unwinder waits for.
 void setWatchdog()
 {
-    struct sigaction action = {};
-    action.sa_handler = giveUp;
-    ::sigaction(SIGALRM, &action, nullptr);
+    ::signal(SIGALRM, giveUp);
     sigset_t alarm;
     ::sigemptyset(&alarm);
     ::sigaddset(&alarm, SIGALRM);
@@ -97,9 +93,8 @@ void writeReport(const siginfo_t &info, void *context)
     if (descriptor < 0)
         return;
     ReportWriter report(descriptor);
-    report.text(preamble).text("Reason: ").text(fatalOf(info.si_signo).name).text("\n");
-    report.text("Time: ").decimal(static_cast<std::uintmax_t>(std::time(nullptr)));
-    report.text(" seconds since 1970\n");
+    report.text(preamble).text("Reason: ").text(fatalOf(info.si_signo).name).text("\nTime: ");
+    report.number(static_cast<std::uintmax_t>(std::time(nullptr))).text(" seconds since 1970\n");
     if (exceptionName[0] != '\0')
         report.text("Uncaught exception: ").text(exceptionName).text("\n");
     report.text("Stack:\n");
@@ -111,19 +106,15 @@ void writeReport(const siginfo_t &info, void *context)
 extern "C" void onFatalSignal(int signal, siginfo_t *info, void *context)
 {
     // A child between fork and exec is not the program, and its crash is no report's business.
-    if (::getpid() != owner) {
-        passOn(signal, info);
-        return;
-    }
-    if (crashing.test_and_set()) {
-        while (!crashKnown || !::pthread_equal(crashedThread, ::pthread_self()))
+    if (::getpid() != owner)
+        return passOn(signal, info);
+    pthread_t first{};
+    if (!crashedThread.compare_exchange_strong(first, ::pthread_self())) {
+        while (!::pthread_equal(first, ::pthread_self()))
             ::pause(); // Another thread is writing; it ends the process.
-        giveUp(signal);
-        return;
+        return giveUp(signal);
     }
     crashInfo = *info;
-    crashedThread = ::pthread_self();
-    crashKnown = true;
     setWatchdog();
     writeReport(*info, context);
     passOn(signal, info);

@@ -28,16 +28,14 @@ bool isConfigured() { return !Configuration::crashUrl().isEmpty() && !Configurat
 
 bool mayAlwaysSend() { return Defaults::value(alwaysSendKey).toBool(); }
 
-QStringList reports(const QString &suffix)
+/// Paths, newest first.
+QStringList reports(const QString &pattern)
 {
+    const QDir folder(
+        CrashReporter::folder(), pattern, QDir::Time | QDir::Name, QDir::Files | QDir::NoSymLinks);
     QStringList paths;
-    const QDir folder(CrashReporter::folder());
-    const auto entries
-        = folder.entryInfoList(QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
-    for (const QFileInfo &entry : entries) {
-        if (entry.fileName().startsWith("crash-"_L1) && entry.fileName().endsWith(suffix))
-            paths.append(entry.filePath());
-    }
+    for (const QString &name : folder.entryList())
+        paths.append(folder.filePath(name));
     return paths;
 }
 
@@ -65,26 +63,18 @@ void note(const QString &session, const QString &state)
 
 }
 
-CrashReports::CrashReports()
-{
-    for (const QString &path : reports(u".txt"_s).mid(keptReports))
-        QFile::remove(path);
-}
-
-QStringList CrashReports::pending()
-{
-    QStringList paths = reports(u".txt"_s);
-    paths.removeIf([](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
-    return paths;
-}
-
 void CrashReports::uploadPending(const Question &ask)
 {
+    QStringList pending = reports(u"crash-*.txt"_s);
+    while (pending.size() > keptReports)
+        QFile::remove(pending.takeLast());
+    pending.removeIf(
+        [](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
     if (!isConfigured())
         return;
     const QPointer<QObject> alive(&m_network);
-    const QStringList agreed = reports(u".agreed.txt"_s);
-    for (const QString &path : pending()) {
+    const QStringList agreed = reports(u"crash-*.agreed.txt"_s);
+    for (const QString &path : pending) {
         const SendReport answer
             = mayAlwaysSend() ? SendReport::Always : ask(QString::fromUtf8(contents(path)));
         if (!alive)

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QNetworkAccessManager>
-#include <QStringList>
 
 #include <functional>
 
@@ -16,12 +15,8 @@ class CrashReports {
 public:
     using Question = std::function<SendReport(const QString &report)>;
 
-    CrashReports();
-
-    /// Paths of the reports that the user has not been asked about, newest first.
-    [[nodiscard]] static QStringList pending();
-    /// Asks about each pending report and sends those that may be, with those that did not arrive
-    /// the last time.
+    /// Asks about each new report, newest first, and sends those that may be, with those that did
+    /// not arrive the last time.
     void uploadPending(const Question &ask);
     /// Tells that a session starts and how the one before ended, if the user has agreed to
     /// everything being sent. The clean end is noted when the application is about to quit.

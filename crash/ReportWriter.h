@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <charconv>
 #include <cstdint>
-#include <cstring>
+#include <iterator>
+#include <string_view>
 #include <unistd.h>
 
 /// Writes with write(2) alone, as a signal handler must. Errors: what can't be written is left out.
@@ -13,36 +15,32 @@ public:
     {
     }
 
-    ReportWriter &text(const char *text)
+    ReportWriter &text(std::string_view text)
     {
-        for (std::size_t left = std::strlen(text); left > 0;) {
-            const ssize_t written = ::write(m_descriptor, text, left);
+        while (!text.empty()) {
+            const ssize_t written = ::write(m_descriptor, text.data(), text.size());
             if (written <= 0)
                 break;
-            text += written;
-            left -= static_cast<std::size_t>(written);
+            text.remove_prefix(static_cast<std::size_t>(written));
         }
         return *this;
     }
-    ReportWriter &decimal(std::uintmax_t number) { return this->number(number, 10); }
-    ReportWriter &hex(std::uintmax_t number) { return text("0x").number(number, 16); }
-
-private:
-    ReportWriter &number(std::uintmax_t number, unsigned base)
+    ReportWriter &number(std::uintmax_t number, int base = 10)
     {
         char digits[24];
-        char *start = digits + sizeof digits - 1;
-        *start = '\0';
-        do {
-            *--start = "0123456789abcdef"[number % base];
-            number /= base;
-        } while (number > 0);
-        return text(start);
+        return text({ digits, std::to_chars(digits, std::end(digits), number, base).ptr });
+    }
+    /// `path` is the program's or library's; its folders may tell who the user is and are left out.
+    void frame(unsigned index, std::string_view path, std::uintmax_t offset)
+    {
+        text("  ").number(index).text(" ").text(path.substr(path.rfind('/') + 1));
+        text("+0x").number(offset, 16).text("\n");
     }
 
+private:
     int m_descriptor;
 };
 
-/// Writes the stack of a crash, innermost frame first: the program's or library's name and the
-/// offset that addr2line takes. `context` is the signal handler's third argument. Takes no memory.
+/// Writes the stack of a crash, innermost frame first, with the offsets that addr2line takes.
+/// `context` is the signal handler's third argument. Takes no memory.
 void writeStack(ReportWriter &report, void *context);

@@ -2,7 +2,6 @@
 // Untested: nobody has run this on macOS yet.
 #include "crash/ReportWriter.h"
 
-#include <cstring>
 #include <dlfcn.h>
 #include <execinfo.h>
 
@@ -14,11 +13,9 @@ void writeStack(ReportWriter &report, void *)
         Dl_info info{};
         if (::dladdr(frames[index], &info) == 0)
             continue;
-        const char *slash = std::strrchr(info.dli_fname, '/');
-        report.text("  ").decimal(static_cast<unsigned>(index)).text(" ");
-        report.text(slash ? slash + 1 : info.dli_fname).text("+");
-        report.hex(static_cast<std::uintmax_t>(
-            static_cast<char *>(frames[index]) - static_cast<char *>(info.dli_fbase)));
-        report.text("\n");
+        const auto offset
+            = static_cast<char *>(frames[index]) - static_cast<char *>(info.dli_fbase);
+        report.frame(
+            static_cast<unsigned>(index), info.dli_fname, static_cast<std::uintmax_t>(offset));
     }
 }
