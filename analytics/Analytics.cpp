@@ -9,7 +9,6 @@
 #include "support/Localized.h"
 #include "support/MainQueue.h"
 #include "support/Preferences.h"
-#include "support/Text.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -41,11 +40,9 @@ QNetworkAccessManager &manager()
 
 QString responseDescription(const QNetworkReply &reply)
 {
-    const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    if (!status.isValid())
-        return u"nil"_s;
-    const QVariant reason = reply.attribute(QNetworkRequest::HttpReasonPhraseAttribute);
-    return QString(status.toString() + u' ' + reason.toString()).trimmed();
+    const QString status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toString();
+    const QString reason = reply.attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
+    return status.isEmpty() ? u"nil"_s : QString(status + u' ' + reason).trimmed();
 }
 
 void post(const QByteArray &body)
@@ -58,7 +55,6 @@ void post(const QByteArray &body)
     request.setAttribute(
         QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::SameOriginRedirectPolicy);
     // A cookie would tell the collector more than the hit does.
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     QNetworkReply *reply = manager().post(request, body);
     QObject::connect(reply, &QNetworkReply::finished, reply, [reply] {
@@ -93,7 +89,8 @@ QString Analytics::userId()
         Defaults::setValue(u"GA"_s, created);
         return created;
     }
-    return Text::length(stored.toString()) >= 1 ? stored.toString() : u"unknown"_s;
+    const QString id = stored.toString();
+    return id.isEmpty() ? u"unknown"_s : id;
 }
 
 QString Analytics::locale() { return languageCode().value_or(u"en"_s).toLower(); }

@@ -49,13 +49,12 @@ PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInf
     const ConversionDescriptor descriptor = conversionDescriptor(entry.format);
     // Without named encoders the tool takes its own choice of streams and encodes them.
     if (descriptor.vCodec.isEmpty()) {
-        const auto encoded = [&](ConversionFormat format, QLatin1StringView kind) {
-            return entry.format == format && firstStream(conversionInfo, kind)
-                ? StreamWork::Encoded
-                : StreamWork::LeftOut;
+        const auto encoded = [&](const QString &codec, QLatin1StringView kind) {
+            return !codec.isEmpty() && firstStream(conversionInfo, kind) ? StreamWork::Encoded
+                                                                         : StreamWork::LeftOut;
         };
-        return { .picture = encoded(ConversionFormat::gif, "video"_L1),
-            .sound = encoded(ConversionFormat::mp3, "audio"_L1) };
+        return { .picture = encoded(descriptor.vName, "video"_L1),
+            .sound = encoded(descriptor.aName, "audio"_L1) };
     }
     const QStringList arguments
         = descriptor.ffmpegArguments({}, {}, conversionInfo, entry.dimension);

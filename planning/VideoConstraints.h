@@ -3,7 +3,6 @@
 
 #include "planning/ConversionFormat.h"
 
-#include <QSize>
 #include <QString>
 #include <QStringList>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "updates/Appcast.h"
 
+#include <QHash>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -40,52 +41,38 @@ QUrl webAddress(const QString &text)
     return isWeb && !url.host().isEmpty() ? url : QUrl();
 }
 
-void readEnclosure(const QXmlStreamAttributes &attributes, AppcastItem &item)
-{
-    item.url = webAddress(attributes.value("url"_L1).toString());
-    item.signature = signatureOf(attributes, "edSignature"_L1);
-    item.versionSignature = signatureOf(attributes, "versionSignature"_L1);
-    if (attributes.hasAttribute(sparkle, "version"_L1))
-        item.versionText = attributes.value(sparkle, "version"_L1).toString();
-    if (attributes.hasAttribute(sparkle, "shortVersionString"_L1))
-        item.displayVersion = attributes.value(sparkle, "shortVersionString"_L1).toString();
-}
-
 std::optional<AppcastItem> readItem(QXmlStreamReader &xml, const QString &system)
 {
-    AppcastItem item;
-    bool suits = false;
-    bool isRelease = true;
+    std::optional<QXmlStreamAttributes> enclosure;
+    QHash<QString, QString> texts;
     while (xml.readNextStartElement()) {
-        const QStringView name = xml.name();
         const bool isSparkle = xml.namespaceUri() == sparkle;
-        if (name == u"enclosure") {
-            const QXmlStreamAttributes attributes = xml.attributes();
-            const QStringView itsSystem = attributes.value(sparkle, "os"_L1);
-            if (!suits && (itsSystem.isEmpty() || itsSystem == system)) {
-                readEnclosure(attributes, item);
-                suits = true;
-            }
-            xml.skipCurrentElement();
-        } else if (isSparkle && name == u"version") {
-            item.versionText = readText(xml).trimmed();
-        } else if (isSparkle && name == u"shortVersionString") {
-            item.displayVersion = readText(xml).trimmed();
-        } else if (isSparkle && name == u"channel") {
-            isRelease = readText(xml).trimmed().isEmpty();
-        } else if (!isSparkle && name == u"description") {
-            item.notes = readText(xml);
-        } else {
-            xml.skipCurrentElement();
-        }
+        const QString name = (isSparkle ? "sparkle:"_L1 : ""_L1) + xml.name().toString();
+        const QXmlStreamAttributes attributes = xml.attributes();
+        const QStringView itsSystem = attributes.value(sparkle, "os"_L1);
+        const bool suits = itsSystem.isEmpty() || itsSystem == system;
+        if (name == u"enclosure" && suits && !enclosure)
+            enclosure = attributes;
+        texts[name] = readText(xml);
     }
-    const auto version = Version::parse(item.versionText);
-    if (!version || !suits || !isRelease)
+    if (!enclosure || !texts[u"sparkle:channel"_s].trimmed().isEmpty())
         return std::nullopt;
-    item.version = *version;
-    item.displayVersion
-        = Version::parse(item.displayVersion) ? item.displayVersion : item.versionText;
-    return item;
+    const auto textOf = [&](QLatin1StringView name) {
+        return enclosure->hasAttribute(sparkle, name) ? enclosure->value(sparkle, name).toString()
+                                                      : texts.value("sparkle:"_L1 + name).trimmed();
+    };
+    const QString versionText = textOf("version"_L1);
+    const QString displayVersion = textOf("shortVersionString"_L1);
+    const auto version = Version::parse(versionText);
+    if (!version)
+        return std::nullopt;
+    return AppcastItem{ .version = *version,
+        .versionText = versionText,
+        .displayVersion = Version::parse(displayVersion) ? displayVersion : versionText,
+        .notes = texts[u"description"_s],
+        .url = webAddress(enclosure->value("url"_L1).toString()),
+        .signature = signatureOf(*enclosure, "edSignature"_L1),
+        .versionSignature = signatureOf(*enclosure, "versionSignature"_L1) };
 }
 
 }
