@@ -64,12 +64,6 @@ void post(const QByteArray &body)
     });
 }
 
-bool maySend()
-{
-    return started && Preferences::sendsUsage() && !Configuration::doNotTrack()
-        && !Configuration::collectorUrl().isEmpty();
-}
-
 }
 
 void Analytics::start() { started = true; }
@@ -112,7 +106,8 @@ void Analytics::send(const QString &screen, const QString &category, const QStri
 
 void Analytics::send(const QVariantMap &parameters, const QString &analyticsId)
 {
-    if (!maySend())
+    if (!started || !Preferences::sendsUsage() || Configuration::doNotTrack()
+        || Configuration::collectorUrl().isEmpty())
         return;
     MainQueue::post([parameters, analyticsId] {
         const QVariantMap common{

@@ -129,8 +129,7 @@ extern "C" void onFatalSignal(int signal, siginfo_t *info, void *context)
         qstrncpy(exceptionName, readable ? readable : type->name(), sizeof exceptionName);
         std::free(readable);
     }
-    if (previousTerminate)
-        previousTerminate();
+    previousTerminate();
     std::abort();
 }
 

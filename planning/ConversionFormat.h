@@ -9,8 +9,7 @@ enum class ConversionFormat : int { flv = 1, mp4, mkv, mov, avi, mp3, mpg, gif, 
 
 [[nodiscard]] constexpr std::optional<ConversionFormat> conversionFormat(int rawValue)
 {
-    if (rawValue < static_cast<int>(ConversionFormat::flv)
-        || rawValue > static_cast<int>(ConversionFormat::webm))
+    if (rawValue < 1 || rawValue > 9)
         return std::nullopt;
     return static_cast<ConversionFormat>(rawValue);
 }

@@ -86,14 +86,12 @@ std::optional<std::vector<AppcastItem>> parseAppcast(const QByteArray &xml, cons
         reader.readNext();
         if (reader.isDTD())
             return std::nullopt;
-        if (!reader.isStartElement())
-            continue;
-        if (reader.name() == u"rss") {
+        if (reader.isStartElement() && reader.name() == u"rss")
             isRss = true;
-        } else if (isRss && reader.name() == u"item") {
-            if (auto item = readItem(reader, system))
-                items.push_back(std::move(*item));
-        }
+        if (!isRss || !reader.isStartElement() || reader.name() != u"item")
+            continue;
+        if (auto item = readItem(reader, system))
+            items.push_back(std::move(*item));
     }
     if (reader.hasError() || !isRss)
         return std::nullopt;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Configuration.h"
 #include "updates/UpdateDownload.h"
-#include "updates/UpdaterDelegate.h"
 
 #include <QBuffer>
 #include <QNetworkAccessManager>
@@ -20,6 +20,15 @@ struct UpdateCheck {
     Outcome outcome = Outcome::Failed;
     bool byUser = false;
     AppcastItem item{};
+};
+
+/// The appcast's address, empty in development builds. Thread: main.
+class UpdaterDelegate {
+public:
+    [[nodiscard]] QString feedURLStringForUpdater(const class Updater * /*updater*/) const
+    {
+        return Configuration::feedUrl();
+    }
 };
 
 /// Looks for newer versions, on the user's command and once a day. Thread: main.
