@@ -39,17 +39,6 @@ QString planned(const VideoConstraints &constraints, const QByteArray &info)
     return words.join(u' ');
 }
 
-const QString audioTitle = u"Ton"_s;
-const QString low = u"MP4 niedrige Qualität"_s;
-const QString medium = u"MP4 mittlere Qualität"_s;
-
-/// English name of the entry with this title in a German menu.
-QString nameOf(const QString &title)
-{
-    const auto found = videoConstraints(title, audioTitle, low, medium);
-    return found ? found->destDevice : QString();
-}
-
 }
 
 /// Entries of the menu, and arguments made from media informations.
@@ -74,7 +63,6 @@ private Q_SLOTS:
         const QString mp4 = u"-map 0:0 -vcodec libx264 -map 0:1 -acodec copy"_s + tail;
         const QString mp3 = u" -acodec libmp3lame -ar 44100 -ac 2 -f "_s;
         const QString avi = u"-map 0:0 -vcodec libxvid -q:v 6 -map 0:1"_s + mp3 + u"avi"_s;
-        const QString gif = u"-vf scale=min(iw\\,600):-1 -pix_fmt rgb24 -r 10 -f gif"_s;
 
         // A source larger than every bound, and nothing in it to copy but the sound.
         const QByteArray aac = ',' + audio("aac", "48000", 2);
@@ -92,7 +80,7 @@ private Q_SLOTS:
             row(unbound, huge, mp4);
         row("Windows", huge, avi);
         row("audio", huge, u"-f mp3"_s);
-        row("GIF", huge, gif);
+        row("GIF", huge, u"-vf scale=min(iw\\,600):-1 -pix_fmt rgb24 -r 10 -f gif"_s);
         row("AVI", huge, avi);
         row("FLV", huge, u"-map 0:0 -vcodec libx264 -map 0:1"_s + mp3 + u"flv"_s);
         row("MKV", huge, QString(mp4).replace(u"-f mp4"_s, u"-f matroska"_s));
@@ -106,8 +94,6 @@ private Q_SLOTS:
         row("iPhone 4, 4s", video("h264", 2, 961) + aac, bound(u"-2:960"_s));
         row("iPhone 4, 4s", video("h264", 960, 960) + aac, copied);
         row("iPad, iPad mini", video("h264", 2000, 2000) + aac, bound(u"1024:-2"_s));
-        row("MP4 HD 720", video("h264", 720, 1280) + aac, copied);
-        row("Linux", video("h264", 16384, 16384) + aac, copied);
 
         // What is copied, and what becomes of the rest.
         row("mov", video("mpeg4", 640, 360) + aac, QString(copied).replace(u"mp4"_s, u"mov"_s));
@@ -135,8 +121,6 @@ private Q_SLOTS:
         for (const char *rate : { "8000", "32000", "022050", "" })
             row("AVI", audio("aac", rate, 6), u"-map 0:0"_s + mp3 + u"avi"_s);
 
-        row("audio", "", u"-f mp3"_s);
-        row("GIF", "", gif);
         for (const char *none : { "", R"({"codec_type":"data"},{"codec_type":"subtitle"})",
                  R"({"codec_type":"Video"})", R"({"codec_type":["video"]})" })
             row("MP4", none, tail.sliced(1));
@@ -235,13 +219,16 @@ private Q_SLOTS:
 
     void title_leadsToItsEntry()
     {
-        QCOMPARE(nameOf(u"iPhone 6s plus"_s), u"iPhone 6s plus"_s);
-        QCOMPARE(nameOf(audioTitle), u"audio"_s);
-        QCOMPARE(nameOf(low), u"MP4 Low Quality"_s);
-        QCOMPARE(nameOf(medium), u"MP4 Medium Quality"_s);
-        for (const QString &other : { u"iPhone 6S Plus"_s, u"iPhone 6s plus "_s, u"audio"_s,
-                 u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s, u"MOV"_s, u""_s })
-            QCOMPARE(nameOf(other), QString());
+        // In a menu with other titles, the entries that they translate have no English one.
+        QStringList names;
+        for (const QString &title : { u"iPhone 6s plus"_s, u"Ton"_s, u"niedrig"_s, u"mittel"_s,
+                 u"iPhone 6S Plus"_s, u"iPhone 6s plus "_s, u"audio"_s, u"MP4 Low Quality"_s,
+                 u"MP4 Medium Quality"_s, u"MOV"_s, u""_s }) {
+            const auto found = videoConstraints(title, u"Ton"_s, u"niedrig"_s, u"mittel"_s);
+            names << (found ? found->destDevice : u"-"_s);
+        }
+        QCOMPARE(names.join(u'|'),
+            u"iPhone 6s plus|audio|MP4 Low Quality|MP4 Medium Quality|-|-|-|-|-|-|-"_s);
     }
 
     void entries_followTheMenu()
