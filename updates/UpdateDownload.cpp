@@ -64,7 +64,7 @@ UpdateDownload::UpdateDownload(AppcastItem item, UpdaterSettings settings)
 void UpdateDownload::start()
 {
     if (!m_file.open())
-        return Q_EMIT failed(false);
+        return Q_EMIT ended(End::Failed, {});
     const QNetworkReply *reply = fetch(m_network, m_item.url, m_file, m_settings.fileLimits,
         [this](bool complete) { finish(complete); });
     connect(reply, &QNetworkReply::downloadProgress, this, &UpdateDownload::progressed);
@@ -81,8 +81,8 @@ void UpdateDownload::finish(bool complete)
     const bool isOpen
         = isSigned && openNew(file, m_settings.downloadFolder, name, fileKind(m_item.url));
     if (isOpen && file.write(content.data(), size) == size && file.flush())
-        return Q_EMIT saved(file.fileName());
+        return Q_EMIT ended(End::Saved, file.fileName());
     if (isOpen)
         file.remove();
-    Q_EMIT failed(bytes && !isSigned);
+    Q_EMIT ended(bytes && !isSigned ? End::Forged : End::Failed, {});
 }

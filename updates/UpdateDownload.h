@@ -28,15 +28,17 @@ struct UpdaterSettings {
 class UpdateDownload : public QObject {
     Q_OBJECT
 public:
+    /// Forged: the file arrived, but is not what the vendor signed.
+    enum class End { Saved, Forged, Failed };
+
     UpdateDownload(AppcastItem item, UpdaterSettings settings);
 
     void start();
 
 Q_SIGNALS:
     void progressed(qint64 received, qint64 total);
-    void saved(const QString &path);
-    /// Nothing was kept. `forged`: the file arrived, but is not what the vendor signed.
-    void failed(bool forged);
+    /// The path is empty when nothing was kept.
+    void ended(UpdateDownload::End end, const QString &path);
 
 private:
     void finish(bool complete);

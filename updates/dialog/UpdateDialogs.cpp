@@ -39,6 +39,18 @@ constexpr std::array outcomeTexts{
         "update check: wrong signature"),
 };
 
+// In the order of the ends; %@ stands for the file's name.
+constexpr std::array endTexts{
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The update is in your downloads folder as “%@”. Open it to install it.",
+        "update download"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The download was not signed by the makers of Video Converter and has been thrown away.",
+        "update download: wrong signature"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
+        "The update could not be downloaded. Please try again later.", "update download"),
+};
+
 QLabel *plainLabel(const QString &text)
 {
     auto *label = new QLabel(text);
@@ -161,41 +173,26 @@ void UpdateDialogs::startDownload(const AppcastItem &item)
             progress->setMaximum(1000);
             progress->setValue(static_cast<int>(received * 1000 / total));
         });
-    connect(m_download.get(), &UpdateDownload::saved, this, &UpdateDialogs::showSaved);
-    connect(m_download.get(), &UpdateDownload::failed, this, &UpdateDialogs::showFailed);
+    connect(m_download.get(), &UpdateDownload::ended, this, &UpdateDialogs::showEnd);
     connect(m_progress, &QProgressDialog::canceled, this, [this] { m_download.reset(); });
     m_progress->show();
     m_download->start();
 }
 
-void UpdateDialogs::showSaved(const QString &path)
+void UpdateDialogs::showEnd(UpdateDownload::End end, const QString &path)
 {
     delete m_progress;
     m_download.release()->deleteLater();
     const QFileInfo file(path);
-    QMessageBox *box = showMessage(
-        formatted(QT_TRANSLATE_NOOP3("Localizable",
-                      "The update is in your downloads folder as “%@”. Open it to install it.",
-                      "update download"),
-            { file.fileName() }));
+    QMessageBox *box
+        = showMessage(formatted(endTexts.at(static_cast<std::size_t>(end)), { file.fileName() }));
+    if (end != UpdateDownload::End::Saved)
+        return;
     const auto *open = box->addButton(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Open Folder", "update download, button")),
         QMessageBox::ActionRole);
     connect(open, &QPushButton::clicked, this,
         [folder = file.path()] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
-}
-
-void UpdateDialogs::showFailed(bool forged)
-{
-    delete m_progress;
-    m_download.release()->deleteLater();
-    showMessage(forged
-            ? localized(QT_TRANSLATE_NOOP3("Localizable",
-                "The download was not signed by the makers of Video Converter and has been thrown "
-                "away.",
-                "update download: wrong signature"))
-            : localized(QT_TRANSLATE_NOOP3("Localizable",
-                "The update could not be downloaded. Please try again later.", "update download")));
 }
 
 QMessageBox *UpdateDialogs::showMessage(const QString &text)

@@ -24,8 +24,7 @@ private:
     void showCheck(const UpdateCheck &check);
     void showAvailable(const UpdateCheck &check);
     void startDownload(const AppcastItem &item);
-    void showSaved(const QString &path);
-    void showFailed(bool forged);
+    void showEnd(UpdateDownload::End end, const QString &path);
     QMessageBox *showMessage(const QString &text);
 
     Updater &m_updater;
