@@ -73,7 +73,7 @@ void CrashReports::uploadPending(const Question &ask)
     if (!isConfigured())
         return;
     const QPointer<QObject> alive(&m_network);
-    const QStringList agreed = reports(u"crash-*.agreed.txt"_s);
+    QStringList agreed = reports(u"crash-*.agreed.txt"_s);
     for (const QString &path : pending) {
         const SendReport answer
             = mayAlwaysSend() ? SendReport::Always : ask(QString::fromUtf8(contents(path)));
@@ -84,15 +84,10 @@ void CrashReports::uploadPending(const Question &ask)
         if (answer == SendReport::No)
             marked(path, u"refused"_s);
         else
-            upload(marked(path, u"agreed"_s));
+            agreed.append(marked(path, u"agreed"_s));
     }
     for (const QString &path : agreed)
-        upload(path);
-}
-
-void CrashReports::upload(const QString &path)
-{
-    post(contents(path), [path] { marked(path, u"sent"_s); });
+        post(contents(path), [path] { marked(path, u"sent"_s); });
 }
 
 void CrashReports::beginSession()
@@ -105,7 +100,6 @@ void CrashReports::beginSession()
         sendEvent(ended[1] == u"ended" ? u"clean end"_s : u"no clean end"_s, ended[0]);
 
     const QString session = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    QDir().mkpath(CrashReporter::folder());
     note(session, u"running"_s);
     sendEvent(u"start"_s, session);
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, &m_network,

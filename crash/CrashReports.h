@@ -23,7 +23,6 @@ public:
     void beginSession();
 
 private:
-    void upload(const QString &path);
     void sendEvent(const QString &event, const QString &session);
     void post(const QByteArray &text, const std::function<void()> &taken);
 
