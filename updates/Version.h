@@ -14,6 +14,7 @@ public:
     /// Absent when the text is no version; a leading "v" and build details are overlooked.
     [[nodiscard]] static std::optional<Version> parse(const QString &text);
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): a hidden comparison with 0.
     std::weak_ordering operator<=>(const Version &other) const = default;
 
 private:
