@@ -27,7 +27,6 @@ struct PlannedWork {
     {
         return !isEmpty() && picture != StreamWork::Encoded && sound != StreamWork::Encoded;
     }
-    bool operator==(const PlannedWork &) const = default;
 };
 
 [[nodiscard]] PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInfo);

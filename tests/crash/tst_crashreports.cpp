@@ -11,7 +11,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QMessageBox>
-#include <QNetworkProxyFactory>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -57,7 +56,6 @@ private:
 private Q_SLOTS:
     void init()
     {
-        QNetworkProxyFactory::setUseSystemConfiguration(false);
         m_data = std::make_unique<QTemporaryDir>();
         qputenv("XDG_DATA_HOME", m_data->path().toLocal8Bit());
         QDir().mkpath(CrashReporter::folder());

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QNetworkProxyFactory>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -31,6 +32,7 @@ public:
 
     LoopbackServer()
     {
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
         listen(QHostAddress::LocalHost);
         connect(this, &QTcpServer::newConnection, this, [this] {
             QTcpSocket *socket = nextPendingConnection();

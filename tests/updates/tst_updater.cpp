@@ -9,7 +9,6 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
-#include <QNetworkProxyFactory>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -103,7 +102,6 @@ private:
 private Q_SLOTS:
     void init()
     {
-        QNetworkProxyFactory::setUseSystemConfiguration(false);
         m_server.answers = { { "/update.xml", feed(good("1.6")) } };
         m_server.requests.clear();
         m_settings = { .version = u"1.5"_s,
