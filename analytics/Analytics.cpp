@@ -77,11 +77,10 @@ QString Analytics::appVersion()
 
 QString Analytics::userId()
 {
-    const QVariant stored = Defaults::value(u"GA"_s);
+    QVariant stored = Defaults::value(u"GA"_s);
     if (stored.typeId() != QMetaType::QString) {
-        QString created = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-        Defaults::setValue(u"GA"_s, created);
-        return created;
+        stored = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+        Defaults::setValue(u"GA"_s, stored);
     }
     const QString id = stored.toString();
     return id.isEmpty() ? u"unknown"_s : id;

@@ -92,7 +92,7 @@ void writeReport(const siginfo_t &info, void *context)
         = ::open(reportPath, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (descriptor < 0)
         return;
-    ReportWriter report(descriptor);
+    ReportWriter report{ descriptor };
     report.text(preamble).text("Reason: ").text(fatalOf(info.si_signo).name).text("\nTime: ");
     report.number(static_cast<std::uintmax_t>(std::time(nullptr))).text(" seconds since 1970\n");
     if (exceptionName[0] != '\0')

@@ -8,17 +8,13 @@
 #include <unistd.h>
 
 /// Writes with write(2) alone, as a signal handler must. Errors: what can't be written is left out.
-class ReportWriter {
-public:
-    explicit ReportWriter(int descriptor)
-        : m_descriptor(descriptor)
-    {
-    }
+struct ReportWriter {
+    int descriptor;
 
     ReportWriter &text(std::string_view text)
     {
         while (!text.empty()) {
-            const ssize_t written = ::write(m_descriptor, text.data(), text.size());
+            const ssize_t written = ::write(descriptor, text.data(), text.size());
             if (written <= 0)
                 break;
             text.remove_prefix(static_cast<std::size_t>(written));
@@ -36,9 +32,6 @@ public:
         text("  ").number(index).text(" ").text(path.substr(path.rfind('/') + 1));
         text("+0x").number(offset, 16).text("\n");
     }
-
-private:
-    int m_descriptor;
 };
 
 /// Writes the stack of a crash, innermost frame first, with the offsets that addr2line takes.
