@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "engine/RunReport.h"
 
-#include <QFile>
+#include "engine/ToolOutput.h"
+
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -66,12 +67,8 @@ RunReport reportOf(const QByteArray &output, const QStringList &paths)
 QStringList ownLines(const QByteArray &output, const QStringList &paths)
 {
     static const QRegularExpression lineEnd(u"[\r\n]"_s);
-    QByteArray text = output;
-    for (const QString &path : paths)
-        text.replace(QFile::encodeName(path), QByteArray());
-    QStringList lines = QString::fromUtf8(text).split(lineEnd, Qt::SkipEmptyParts);
-    lines.removeIf([](const QString &line) { return line.startsWith(u"    "); });
-    return lines;
+    return QString::fromUtf8(ToolOutput::OwnLines(paths).in(output))
+        .split(lineEnd, Qt::SkipEmptyParts);
 }
 
 bool reportsLostOutput(const QByteArray &output, const QStringList &paths)
