@@ -6,7 +6,6 @@
 #include "engine/ConversionRun.h"
 #include "engine/MovieProbe.h"
 #include "engine/Progress.h"
-#include "engine/SerialQueue.h"
 #include "engine/StagedFile.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"

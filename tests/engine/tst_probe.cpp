@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/MovieProbe.h"
-#include "engine/SerialQueue.h"
 #include "engine/Tool.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"

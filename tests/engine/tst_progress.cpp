@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/DurationScanner.h"
 #include "engine/Progress.h"
-#include "engine/ToolFailure.h"
+#include "engine/RunReport.h"
 #include "engine/ToolOutput.h"
 #include "support/Text.h"
 #include "tests/fixtures/Rows.h"
