@@ -69,15 +69,6 @@ constexpr std::array failureRows {
 
 constexpr qsizetype lastLines = 200;
 
-QStringList linesOf(const QByteArray &output)
-{
-    static const QRegularExpression lineEnd(u"[\\r\\n]+"_s);
-    // Invalid UTF-8 becomes replacement characters; the rest of the line stays.
-    QStringList lines = QString::fromUtf8(output.right(qsizetype{ 256 } * 1024))
-                            .split(lineEnd, Qt::SkipEmptyParts);
-    return lines.mid(std::max<qsizetype>(0, lines.size() - lastLines));
-}
-
 /// Closing lines that say nothing about the reason.
 bool isChatter(const QString &line)
 {
@@ -140,7 +131,8 @@ bool reportsLostOutput(const QByteArray &output, const QStringList &paths)
 
 Outcome toolFailure(const QByteArray &output)
 {
-    const QStringList lines = linesOf(output);
+    const QStringList all = ownLines(output.right(qsizetype{ 256 } * 1024), {});
+    const QStringList lines = all.mid(std::max<qsizetype>(0, all.size() - lastLines));
     for (const FailureRow &row : failureRows) {
         const QRegularExpression expression(QString::fromUtf16(row.pattern));
         for (const QString &line : lines) {
