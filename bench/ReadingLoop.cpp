@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Processor time that the driving process spends on the reports of a tool, without what the run
 // costs anyway. The tool beside it in the bundle is the fake one.
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
-#include "engine/SerialQueue.h"
 #include "support/Console.h"
 
 #include <QCoreApplication>

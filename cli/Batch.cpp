@@ -5,7 +5,7 @@
 #include "cli/report/ShownText.h"
 #include "engine/Async.h"
 #include "engine/Conversion.h"
-#include "engine/ExistingResult.h"
+#include "engine/Verdict.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Path.h"

@@ -7,8 +7,7 @@
 #include "engine/Verdict.h"
 #include "support/FileSystem.h"
 
-#include <condition_variable>
-#include <mutex>
+#include <semaphore>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -98,21 +97,14 @@ Outcome Conversion::tried(const ConversionJob &job, StagedFile &staged)
 
 Outcome Conversion::ran(const ConversionJob &job)
 {
-    std::mutex mutex;
-    std::condition_variable changed;
-    bool ended = false;
+    const auto ended = std::make_shared<std::binary_semaphore>(0);
     const std::shared_ptr<Progress> run = FFMPEG::convertFile(
         job.path, job.destPath, job.constraints, job.conversionInfo, [](const auto &) {});
     for (const Progress::Key key :
         { Progress::Key::FractionCompleted, Progress::Key::CompletedUnitCount })
         run->addObserver(key, this, [this, raw = run.get()](Progress::Key) { follow(*raw); });
-    run->setEndHandler([&] {
-        const std::lock_guard lock(mutex);
-        ended = true;
-        changed.notify_one();
-    });
-    std::unique_lock lock(mutex);
-    while (!changed.wait_for(lock, 50ms, [&] { return ended; })) {
+    run->setEndHandler([ended] { ended->release(); });
+    while (!ended->try_acquire_for(50ms)) {
         if (m_progress->isCancelled())
             run->cancel();
         if (run->isIndeterminate() && run->position() > 0)

@@ -7,8 +7,6 @@
 #include "engine/RunReport.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
-#include "engine/ToolFailure.h"
-#include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Console.h"
 #include "support/Text.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/DurationScanner.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
 #include "engine/ToolOutput.h"

@@ -4,16 +4,16 @@
 #include "analytics/Analytics.h"
 #include "engine/Async.h"
 #include "engine/ConversionRun.h"
-#include "engine/CoverFolder.h"
 #include "engine/MovieProbe.h"
 #include "engine/Progress.h"
-#include "engine/SerialQueue.h"
+#include "engine/StagedFile.h"
 #include "engine/Task.h"
 #include "engine/Tool.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QImageReader>
 
@@ -25,6 +25,8 @@ namespace {
 void allowLargeCovers() { QImageReader::setAllocationLimit(512); }
 
 Q_COREAPP_STARTUP_FUNCTION(allowLargeCovers)
+
+constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 // Runs a tool to its end and gives its whole output; absent when it can't be launched.
 std::optional<QByteArray> toolOutput(
@@ -103,7 +105,6 @@ void FFMPEG::shutDown()
 {
     Task::stopReading();
     SerialQueue::waitForAll();
-    CoverFolder::remove();
 }
 
 void FFMPEG::getFFProbeOutput(
@@ -124,19 +125,17 @@ void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
     std::function<void(const QImage &cover)> completionHandler)
 {
     Async::background([path, offset, completionHandler = std::move(completionHandler)] {
-        const QString imagePath = CoverFolder::uniqueImagePath();
-        if (imagePath.isEmpty() || !QFile(imagePath).open(QIODevice::WriteOnly)) {
-            Async::async([completionHandler] { completionHandler({}); });
-            return;
-        }
-        const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, imagePath,
-            u"-y"_s };
-        const ToolAccess access{ MovieProbe::readPaths(path), { imagePath } };
-        const std::optional<QByteArray> output = toolOutput(Tool::Ffmpeg, arguments, access);
         QImage cover;
-        if (output) {
-            Console::print(QString::fromUtf8(*output));
-            cover.load(imagePath);
+        StagedFile image(QDir::tempPath() + u"/cover.jpg"_s);
+        // A picture of someone's video is nobody else's business.
+        if (!image.create() && QFile::setPermissions(image.path(), ownerOnly)) {
+            const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, image.path(),
+                u"-y"_s };
+            const ToolAccess access{ MovieProbe::readPaths(path), { image.path() } };
+            if (const auto output = toolOutput(Tool::Ffmpeg, arguments, access)) {
+                Console::print(QString::fromUtf8(*output));
+                cover.load(image.path());
+            }
         }
         Async::async([cover, completionHandler] { completionHandler(cover); });
     });

@@ -41,12 +41,6 @@ void Progress::removeObserver(Key key, Context context)
         [&](const Registration &each) { return each.key == key && each.context == context; });
 }
 
-std::size_t Progress::observerCount() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_observers.size();
-}
-
 void Progress::setOutcome(Outcome outcome, QByteArray toolOutput)
 {
     const std::lock_guard lock(m_mutex);

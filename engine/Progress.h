@@ -48,7 +48,6 @@ public:
 
     void addObserver(Key key, Context context, Observer observer);
     void removeObserver(Key key, Context context);
-    [[nodiscard]] std::size_t observerCount() const;
 
     /// The run is over for good: its tool is gone and its destination kept or removed.
     [[nodiscard]] bool isEnded() const { return read(m_end.happened); }

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "engine/RunReport.h"
 
-#include <QFile>
+#include "engine/ToolOutput.h"
+
 #include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +36,52 @@ std::optional<double> positionIn(const QString &line)
         return std::nullopt;
     return match.captured(1).toInt() * 3600 + match.captured(2).toInt() * 60
         + match.captured(3).toDouble();
+}
+
+struct FailureRow {
+    /// Found in a line; group 1 is the detail. The system's own words stand at a line's end, so
+    /// names of files that read like them mislead nobody.
+    const char16_t *pattern;
+    Reason reason;
+};
+
+// The first row that matches any of the last lines wins: later rows are often its consequences.
+// clang-format off
+constexpr std::array failureRows {
+    FailureRow { u": No space left on device$", Reason::NoSpace },
+    FailureRow { u": Disk quota exceeded$", Reason::QuotaExceeded },
+    FailureRow { u": File too large$", Reason::FileTooLarge },
+    FailureRow { u": Read-only file system$", Reason::ReadOnlyDisk },
+    FailureRow { u": (?:Permission denied|Operation not permitted)$", Reason::AccessDenied },
+    FailureRow { u"^Unknown encoder '(.*)'$", Reason::NoEncoder },
+    FailureRow { u"^Requested output format '(.*)' is not a suitable output format$", Reason::NoMuxer },
+    FailureRow { u": No such file or directory$", Reason::FileGone },
+    FailureRow { u": File name too long$", Reason::NameTooLong },
+    FailureRow { u": Input/output error$", Reason::DiskError },
+    FailureRow { u": Cannot allocate memory$", Reason::NoMemory },
+    FailureRow { u": (?:Resource temporarily unavailable|Too many open files)$", Reason::LimitMet },
+    FailureRow { u"^Output file #\\d+ does not contain any stream$", Reason::NothingToConvert },
+    FailureRow { u"^Error initializing output stream|^Could not write header for output file", Reason::StreamNotTaken },
+    FailureRow { u"^Exiting normally, received signal", Reason::ToolStopped },
+    FailureRow { u"Invalid data found when processing input$", Reason::DamagedData },
+};
+// clang-format on
+
+constexpr qsizetype lastLines = 200;
+
+/// Closing lines that say nothing about the reason.
+bool isChatter(const QString &line)
+{
+    static const QRegularExpression chatter(
+        u"^\\s|^\\[.*\\]|^Conversion failed!|^(Input|Output|Total|Stream)\\b|^video:\\d"_s);
+    return chatter.match(line).hasMatch();
+}
+
+/// A tool that fails prints something after its last report; a killed one does not.
+bool endsInTheMiddle(const QString &lastLine)
+{
+    static const QRegularExpression report(u"^(frame|size)=.* time=|^Press \\[q\\]"_s);
+    return report.match(lastLine.trimmed()).hasMatch();
 }
 
 }
@@ -66,12 +116,8 @@ RunReport reportOf(const QByteArray &output, const QStringList &paths)
 QStringList ownLines(const QByteArray &output, const QStringList &paths)
 {
     static const QRegularExpression lineEnd(u"[\r\n]"_s);
-    QByteArray text = output;
-    for (const QString &path : paths)
-        text.replace(QFile::encodeName(path), QByteArray());
-    QStringList lines = QString::fromUtf8(text).split(lineEnd, Qt::SkipEmptyParts);
-    lines.removeIf([](const QString &line) { return line.startsWith(u"    "); });
-    return lines;
+    return QString::fromUtf8(ToolOutput::OwnLines(paths).in(output))
+        .split(lineEnd, Qt::SkipEmptyParts);
 }
 
 bool reportsLostOutput(const QByteArray &output, const QStringList &paths)
@@ -81,4 +127,23 @@ bool reportsLostOutput(const QByteArray &output, const QStringList &paths)
     static const QRegularExpression lost(
         uR"(^(?:\[[^\]]*\] )?Error (?:writing trailer|closing file)\b)"_s);
     return !ownLines(output.right(16384), paths).filter(lost).isEmpty();
+}
+
+Outcome toolFailure(const QByteArray &output)
+{
+    const QStringList all = ownLines(output.right(qsizetype{ 256 } * 1024), {});
+    const QStringList lines = all.mid(std::max<qsizetype>(0, all.size() - lastLines));
+    for (const FailureRow &row : failureRows) {
+        const QRegularExpression expression(QString::fromUtf16(row.pattern));
+        for (const QString &line : lines) {
+            const QRegularExpressionMatch match = expression.match(line);
+            if (match.hasMatch())
+                return { .reason = row.reason, .detail = match.captured(1) };
+        }
+    }
+    if (lines.isEmpty() || endsInTheMiddle(lines.last()))
+        return { .reason = Reason::ToolKilled };
+    const auto last = std::find_if_not(lines.rbegin(), lines.rend(), isChatter);
+    return { .reason = Reason::ToolFailed,
+        .detail = (last == lines.rend() ? lines.last() : *last).trimmed() };
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/Outcome.h"
+
 #include <QByteArray>
 #include <QStringList>
 
@@ -30,3 +32,5 @@ struct RunReport {
 [[nodiscard]] QStringList ownLines(const QByteArray &output, const QStringList &paths);
 /// The tool could not write the end of its result; some versions still end with status 0.
 [[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);
+/// Why a run of the tool failed, read from its last lines. Thread: any.
+[[nodiscard]] Outcome toolFailure(const QByteArray &output);

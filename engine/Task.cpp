@@ -8,7 +8,6 @@
 
 #include <atomic>
 #include <csignal>
-#include <thread>
 #include <unistd.h>
 #ifdef Q_OS_LINUX
 #include <sys/prctl.h>
@@ -20,7 +19,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int waitMilliseconds = 100;
-constexpr qsizetype smallPiece = 4096;
 constexpr auto floodLimit = qsizetype{ 64 } * 1024 * 1024;
 
 std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
@@ -65,7 +63,6 @@ void Task::launch()
     m_process.start(m_launchPath, m_arguments, QIODevice::ReadOnly);
     if (!m_process.waitForStarted(-1))
         throw LaunchException{ invalidArgument, m_launchPath + u": "_s + m_process.errorString() };
-    m_lastOutput = std::chrono::steady_clock::now();
 }
 
 bool Task::tryLaunch(LaunchError *error)
@@ -96,14 +93,6 @@ QByteArray Task::availableData()
     const auto start = std::chrono::steady_clock::now();
     if (m_process.bytesAvailable() == 0)
         m_process.waitForReadyRead(waitMilliseconds);
-    // Each read costs several system calls: many small pieces in quick succession are read
-    // together.
-    const auto now = std::chrono::steady_clock::now();
-    m_quickPieces = now - m_lastOutput < 20ms ? m_quickPieces + 1 : 0;
-    if (isRunning() && m_process.bytesAvailable() < smallPiece && m_quickPieces > 20) {
-        std::this_thread::sleep_for(5ms);
-        m_process.waitForReadyRead(0);
-    }
     QByteArray data = m_process.readAllStandardOutput();
     if (data.isEmpty()) {
         // A longer wait means that Ctrl-Z stopped this program and the tool.
@@ -111,7 +100,6 @@ QByteArray Task::availableData()
             std::min<std::chrono::steady_clock::duration>(std::chrono::steady_clock::now() - start,
                 std::chrono::milliseconds(2 * waitMilliseconds)));
     } else {
-        m_lastOutput = std::chrono::steady_clock::now();
         m_silence = m_lookedAt = {};
     }
     return data;

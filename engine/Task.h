@@ -69,10 +69,8 @@ private:
     QString m_launchPath;
     QStringList m_arguments;
     ToolAccess m_access;
-    std::chrono::steady_clock::time_point m_lastOutput;
     std::chrono::steady_clock::duration m_silence{};
     // What the tool had done when it was looked at last, after so much silence.
     QByteArray m_work;
     std::chrono::steady_clock::duration m_lookedAt{};
-    int m_quickPieces = 0;
 };

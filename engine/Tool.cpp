@@ -2,9 +2,6 @@
 #include "engine/Tool.h"
 
 #include "support/Bundle.h"
-#include "support/FileSystem.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -17,11 +14,4 @@ QString toolPath(Tool tool)
 Outcome missingTool(Tool tool)
 {
     return { .reason = Reason::ToolMissing, .detail = toolPath(tool) };
-}
-
-std::optional<Outcome> toolRefusal(Tool tool)
-{
-    const QString path = toolPath(tool);
-    return isRegularFile(path) && QFileInfo(path).isExecutable() ? std::nullopt
-                                                                 : std::optional(missingTool(tool));
 }

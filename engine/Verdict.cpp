@@ -7,7 +7,9 @@
 #include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -72,6 +74,13 @@ bool isCover(const JSON &stream, const JSON &info)
     return isImageFormat(stream) && std::any_of(all.begin(), all.end(), [](const JSON &each) {
         return isPicture(each) && !isImageFormat(each);
     });
+}
+
+// Raw streams have no header that says how long they play: the tool's guess says nothing.
+bool lengthIsGuessed(const JSON &info)
+{
+    static const QStringList rawFormats{ u"aac"_s, u"mp3"_s, u"ac3"_s, u"h264"_s, u"hevc"_s };
+    return rawFormats.contains(info[u"format"_s][u"format_name"_s].stringValue());
 }
 
 double tolerance(double expected) { return std::max(1.0, expected / 100); }
@@ -278,4 +287,15 @@ std::optional<Outcome> inspected(
         return outcome;
     const auto source = measured(job.path, progress);
     return source ? judged(*result, corrected(expected, *source)) : outcome;
+}
+
+bool holdsWholeResult(const ConversionJob &job, const Progress &progress)
+{
+    const QFileInfo result(job.destPath);
+    if (!result.isFile() || result.lastModified() < QFileInfo(job.path).lastModified())
+        return false;
+    Lengths expected = expectedOf(job);
+    expected.isGuessed = lengthIsGuessed(job.conversionInfo);
+    const auto outcome = inspected(job, expected, Reading::Packets, progress);
+    return outcome && outcome->isDone();
 }

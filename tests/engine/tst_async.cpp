@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Async.h"
-#include "engine/SerialQueue.h"
 #include "support/MainQueue.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
-#include "engine/SerialQueue.h"
 #include "support/Bundle.h"
 #include "support/Console.h"
 #include "support/MainQueue.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "engine/Async.h"
 #include "engine/Conversion.h"
 #include "engine/Progress.h"
 #include "engine/RunReport.h"
-#include "engine/SerialQueue.h"
 #include "engine/StagedList.h"
 #include "engine/Verdict.h"
 #include "support/Console.h"

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "engine/CoverFolder.h"
+#include "engine/Async.h"
 #include "engine/FFMPEG.h"
 #include "engine/MovieProbe.h"
-#include "engine/SerialQueue.h"
 #include "engine/Tool.h"
 #include "support/Console.h"
 #include "support/FileSystem.h"
@@ -45,9 +44,6 @@ class TestProbe : public QObject {
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
     QTemporaryDir m_folder;
-    // No process has so high a number.
-    QTemporaryDir m_ofKilled{ QDir::tempPath() + u"/video-converter-99999999-XXXXXX"_s };
-    QTemporaryDir m_ofLiving{ QDir::tempPath() + u"/video-converter-%1-XXXXXX"_s.arg(::getppid()) };
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -155,7 +151,6 @@ private Q_SLOTS:
 
     void cover_needsATemporaryFolder()
     {
-        CoverFolder::remove();
         const QByteArray temporary = qgetenv("TMPDIR");
         qputenv("TMPDIR", "/proc");
         QStringList answers;
@@ -166,30 +161,33 @@ private Q_SLOTS:
         QTRY_COMPARE(answers.value(1), u"5s, 320 x 180"_s);
     }
 
-    void cover_isPrivateAndGoesAtTheEnd()
+    void cover_isPrivateAndRemoved()
     {
         // The last test: what shutDown() ends does not begin again.
+        const QTemporaryDir temporary;
+        qputenv("TMPDIR", QFile::encodeName(temporary.path()));
+        const auto covers
+            = [&] { return QDir(temporary.path()).entryInfoList(QDir::Files | QDir::Hidden); };
         QStringList answers;
         {
-            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments");
+            const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments|sleep:500");
             probe(path(u"five.mp4"_s), answers);
+            QTRY_COMPARE(covers().size(), 1);
+            QTRY_COMPARE(covers().constFirst().permissions() & QFile::Permissions(0x0077),
+                QFile::Permissions());
             QTRY_COMPARE(answers.size(), 1);
         }
+        QTRY_VERIFY(covers().isEmpty());
         QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
         const QString image = std::exchange(arguments[5], u"IMAGE.jpg"_s);
         QCOMPARE(arguments.join(u' '),
             u"-an -ss 00:00:02 -i "_s + path(u"five.mp4"_s) + u" IMAGE.jpg -y"_s);
-        QVERIFY2(image.endsWith(u".jpg"_s), qPrintable(image));
-        const QFileInfo folder(QFileInfo(image).path());
-        QVERIFY(folder.isDir());
-        QVERIFY2(!QFileInfo::exists(m_ofKilled.path()), "what a killed process left is swept");
-        QVERIFY2(QFileInfo::exists(m_ofLiving.path()), "another process's covers are kept");
-        QCOMPARE(folder.permissions() & QFile::Permissions(0x0077), QFile::Permissions());
+        QVERIFY2(
+            image.startsWith(temporary.path()) && image.endsWith(u".jpg"_s), qPrintable(image));
         // A probe whose tool is silent for ever does not hold up the program's end.
         const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
         probe(path(u"five.mp4"_s), answers);
         FFMPEG::shutDown();
-        QVERIFY(!QFileInfo::exists(folder.filePath()));
     }
 };
 

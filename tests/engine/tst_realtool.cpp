@@ -1,26 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "engine/FFMPEG.h"
 #include "engine/Progress.h"
-#include "engine/SerialQueue.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Console.h"
 #include "tests/fixtures/Media.h"
-#include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// The sanitizers are slow, and keep freed memory back.
-constexpr bool sanitized = true;
-#else
-constexpr bool sanitized = false;
-#endif
-
-/// Videos that the real tool makes, examined by the real one; and what many runs leave behind.
+/// Videos that the real tool makes, examined by the real one.
 class TestRealTool : public QObject {
     Q_OBJECT
 
@@ -56,45 +46,13 @@ class TestRealTool : public QObject {
         return failure.isEmpty() ? failure : failure + QString::fromUtf8(progress->toolOutput());
     }
 
-    std::shared_ptr<Progress> start(
-        const QString &source, const QString &dest, ConversionFormat format)
-    {
-        const JSON info = JSON::parse(R"({"streams":[{"codec_type":"video","codec_name":"h264"},)"
-                                      R"({"codec_type":"audio","codec_name":"aac"}]})");
-        return FFMPEG::convertFile(path(source), path(dest), constraints(format), info,
-            [this](const std::optional<QString> &) { ++m_errors; });
-    }
-
-    // Three short ones and a long one at the same time, which is cancelled. A tool that is told to
-    // stop while it starts still creates its output.
-    void runFour(int millisecondsToCancel)
-    {
-        const auto cancelled = start(u"long.mp4"_s, u"long.webm"_s, ConversionFormat::webm);
-        std::map<QString, std::shared_ptr<Progress>> runs;
-        for (const QString &name : { u"a.mkv"_s, u"b.mkv"_s, u"c.mkv"_s })
-            runs[name] = start(u"tiny.mp4"_s, name, ConversionFormat::mkv);
-        QThread::msleep(static_cast<unsigned long>(millisecondsToCancel));
-        cancelled->cancel();
-        for (const auto &[name, progress] : runs) {
-            QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 20'000);
-            QCOMPARE(progress->completedUnitCount(), progress->totalUnitCount());
-            QVERIFY(QFile::exists(path(name)));
-        }
-        QTRY_VERIFY_WITH_TIMEOUT(cancelled->isEnded(), 20'000);
-        QVERIFY(!QFile::exists(path(u"long.webm"_s)));
-    }
-
     QTemporaryDir m_folder;
-    int m_errors = 0;
 
 private Q_SLOTS:
     void initTestCase()
     {
         Console::setSink([](const QString &) {});
-        Media::video(path(u"tiny.mp4"_s), 2, u"64x64"_s);
         Media::video(path(u"small.mp4"_s), 4, u"320x180"_s);
-        Media::video(path(u"long.mp4"_s), 30, u"640x360"_s);
-        Media::video(path(u"portrait.mov"_s), 2, u"360x640"_s);
         Media::video(path(u"mono.mkv"_s), 3, u"320x240"_s,
             u"-c:v mpeg4 -c:a libmp3lame -ar 44100 -ac 1"_s.split(u' '));
     }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "engine/DurationScanner.h"
 #include "engine/Remedy.h"
 #include "engine/RunReport.h"
-#include "engine/ToolFailure.h"
 #include "engine/ToolOutput.h"
 #include "engine/Verdict.h"
 
