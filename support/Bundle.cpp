@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto localizationSuffix = ".lproj"_L1;
-
 QString mainBundlePath()
 {
     const QFileInfo executable(
@@ -53,16 +51,12 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 
 QStringList Bundle::localizations() const
 {
-    const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList languages;
-    for (const QString &folder : resources.entryList(QDir::Dirs, QDir::Name)) {
-        if (folder.endsWith(localizationSuffix))
-            languages << folder.chopped(localizationSuffix.size());
-    }
-    return languages;
+    return QDir(m_bundlePath + "/Contents/Resources"_L1)
+        .entryList({ u"*.lproj"_s }, QDir::Dirs, QDir::Name)
+        .replaceInStrings(u".lproj"_s, QString());
 }
 
 QString Bundle::localizationPath(const QString &language) const
 {
-    return m_bundlePath + "/Contents/Resources/"_L1 + language + localizationSuffix;
+    return m_bundlePath + "/Contents/Resources/"_L1 + language + ".lproj"_L1;
 }

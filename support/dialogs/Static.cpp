@@ -46,6 +46,19 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
     return label;
 }
 
+/// Only Russian has a site of its own. Prints a line for a language that the bundle has.
+QString siteAddress()
+{
+    const QString root = Configuration::siteUrl();
+    const QString code = languageCode().value_or(QString());
+    const QString language = code.toLower();
+    const qsizetype position = Bundle::main().localizations().indexOf(language);
+    if (position < 0)
+        return root;
+    Console::print(code + u' ' + QString::number(position));
+    return language == u"ru" && !root.isEmpty() ? root + "ru/"_L1 : root;
+}
+
 /// Open, it does not keep the program from ending with its main window.
 QDialog *makeAboutBox()
 {
@@ -99,20 +112,6 @@ QDialog &Static::aboutWindow()
 
 const QString &Static::applicationURL()
 {
-    static const QString url
-        = siteAddress(Configuration::siteUrl(), languageCode(), Bundle::main().localizations());
+    static const QString url = siteAddress();
     return url;
-}
-
-QString Static::siteAddress(const QString &root, const std::optional<QString> &languageCode,
-    const QStringList &localizations)
-{
-    if (!languageCode)
-        return root;
-    const QString language = languageCode->toLower();
-    const qsizetype position = localizations.indexOf(language);
-    if (position < 0)
-        return root;
-    Console::print(*languageCode + u' ' + QString::number(position));
-    return language == u"ru" && !root.isEmpty() ? root + "ru/"_L1 : root;
 }
