@@ -10,6 +10,7 @@
 #include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/StandardInput.h"
+#include "support/Text.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -57,7 +58,7 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             continue;
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(shellQuoted(tool + arguments));
+        Output::line(Text::shellQuoted(tool + arguments));
     }
     if (line.json)
         Output::json(QJsonDocument(object), QJsonDocument::Indented);

@@ -4,7 +4,6 @@
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
-#include "support/Format.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
 

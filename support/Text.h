@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QRegularExpression>
-#include <QString>
+#include <QStringList>
 
 /// Conversions that never report an error: each failure gives empty text or 0. Units: "length"
 /// counts UTF-16 units, "characters" are grapheme clusters. Thread: any.
@@ -17,6 +17,8 @@ namespace Text {
 [[nodiscard]] qint64 asInt64(QStringView text);
 /// The bytes as UTF-8, else as ASCII, else empty text.
 [[nodiscard]] QString stringValue(const QByteArray &bytes);
+/// Words as a shell's user would have to type them.
+[[nodiscard]] QString shellQuoted(QStringList words);
 
 }
 

@@ -5,7 +5,6 @@
 #include "cli/report/ShownText.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Configuration.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QCommandLineParser>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/arguments/Options.h"
 #include "cli/report/ShownText.h"
-#include "support/Format.h"
+#include "support/Localized.h"
 
 using namespace Qt::StringLiterals;
 

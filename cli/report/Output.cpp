@@ -3,7 +3,6 @@
 
 #include "cli/report/ShownText.h"
 #include "support/Console.h"
-#include "support/Format.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
 

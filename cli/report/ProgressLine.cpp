@@ -3,7 +3,6 @@
 
 #include "cli/report/ShownText.h"
 #include "support/DurationInfo.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QLocale>

@@ -2,7 +2,6 @@
 #include "support/dialogs/Sheets.h"
 
 #include "support/Defaults.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/dialogs/Alerts.h"

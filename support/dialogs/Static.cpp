@@ -4,7 +4,6 @@
 #include "support/Bundle.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/DurationInfo.h"
-#include "support/Format.h"
 #include "support/JSON.h"
+#include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Text.h"
 
