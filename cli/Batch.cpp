@@ -72,7 +72,6 @@ Batch::Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporte
     , m_reporter(reporter)
     // Encoders use several threads themselves: more jobs than cores only cost memory.
     , m_jobs(static_cast<std::size_t>(line.jobs > 0 ? line.jobs : QThread::idealThreadCount()))
-    , m_firstFailed(m_items.size())
 {
     m_sum.all = m_items.size();
     for (const ConversionItem &item : m_items) {
@@ -105,74 +104,69 @@ void Batch::goOn()
     if (Interruption::signal() != 0)
         stop();
     while (!m_isStopped && m_running.size() < m_jobs && !m_ready.empty()) {
-        const Examined video = std::move(m_ready.front());
+        start(std::move(m_ready.front()));
         m_ready.pop_front();
-        start(video);
     }
     while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
-        examine(m_next++);
+        examine(m_items[m_next++]);
     // Who was interrupted does not wait for examinations.
     const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
     if (m_running.empty() && (m_isStopped || !isWaiting))
         m_loop.quit();
 }
 
-ConversionJob Batch::jobOf(std::size_t index, const JSON &info) const
+ConversionJob Batch::jobOf(const Video &video) const
 {
-    const ConversionItem &item = m_items[index];
-    return { item.input.path, item.destPath, m_line.entries.front(), info };
+    return { video.item->input.path, video.item->destPath, m_line.entries.front(), video.info };
 }
 
-std::optional<Outcome> Batch::refusalOfDestination(std::size_t index) const
+std::optional<Outcome> Batch::refusalOfDestination(const ConversionItem &item) const
 {
     Destination destination = m_others;
-    destination.path = m_items[index].destPath;
+    destination.path = item.destPath;
     destination.overwrite = m_line.overwrite || m_line.skipExisting;
     return refusalOf(destination);
 }
 
-void Batch::examine(std::size_t index)
+void Batch::examine(const ConversionItem &item)
 {
-    const Input &input = m_items[index].input;
-    if (!input.isFound) {
-        if (const auto refusal = refusalOfDestination(index))
-            return settle(index, *refusal);
+    if (!item.input.isFound) {
+        if (const auto refusal = refusalOfDestination(item))
+            return settle(item, *refusal);
     }
     ++m_examining;
     FFMPEG::collectMovieInfo(
-        input.path,
-        [this, index](const Outcome &refusal) {
+        item.input.path,
+        [this, &item](const Outcome &refusal) {
             --m_examining;
             // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
             if (Interruption::signal() == 0)
-                settle(index, refusal);
+                settle(item, refusal);
             goOn();
         },
-        [this, index](const JSON &info, const QImage &, const QString &) {
+        [this, &item](const JSON &info, const QImage &, const QString &) {
             --m_examining;
-            wasExamined({ .index = index, .info = info });
+            if (!m_isStopped)
+                wasExamined(item, info);
             goOn();
         },
         Cover::LeftOut);
 }
 
-void Batch::wasExamined(Examined video)
+void Batch::wasExamined(const ConversionItem &item, const JSON &info)
 {
-    const Input &input = m_items[video.index].input;
-    if (m_isStopped)
-        return;
-    if (input.isFound) {
-        if (!isVideoOrMusic(video.info))
-            return settle(video.index, { Reason::NotMedia });
-        makeFolder(Path::stringByDeletingLastPathComponent(m_items[video.index].destPath));
-        if (const auto refusal = refusalOfDestination(video.index))
-            return settle(video.index, *refusal);
+    if (item.input.isFound) {
+        if (!isVideoOrMusic(info))
+            return settle(item, { Reason::NotMedia });
+        makeFolder(Path::stringByDeletingLastPathComponent(item.destPath));
+        if (const auto refusal = refusalOfDestination(item))
+            return settle(item, *refusal);
     }
-    video.replaces = m_line.overwrite;
-    if (m_line.skipExisting && QFileInfo::exists(m_items[video.index].destPath))
+    Video video{ &item, info, m_line.overwrite };
+    if (m_line.skipExisting && QFileInfo::exists(item.destPath))
         checkExisting(video);
     else
-        m_ready.push_back(std::move(video));
+        m_ready.push_back(video);
 }
 
 /// The results' tree is made as far as it is needed.
@@ -185,47 +179,46 @@ void Batch::makeFolder(const QString &path)
         m_madeFolders.prepend(path);
 }
 
-void Batch::checkExisting(const Examined &video)
+void Batch::checkExisting(const Video &video)
 {
     ++m_examining;
-    Async::background([this, video, looking = m_looking, job = jobOf(video.index, video.info)] {
+    Async::background([this, video, looking = m_looking, job = jobOf(video)] {
         const bool isWhole = holdsWholeResult(job, *looking);
         MainQueue::post([this, video, isWhole] {
             --m_examining;
             if (isWhole) {
                 ++m_sum.skipped;
-                m_reporter.skipped(m_items[video.index]);
+                m_reporter.skipped(*video.item);
             } else {
-                m_ready.push_back({ video.index, video.info, true });
+                m_ready.push_back({ video.item, video.info, true });
             }
             goOn();
         });
     });
 }
 
-void Batch::start(const Examined &video)
+void Batch::start(Video video)
 {
-    Running &running = m_running[video.index];
-    running.info = video.info;
-    running.clock.start();
-    m_reporter.started(m_items[video.index]);
-    running.progress = Conversion::start(jobOf(video.index, video.info),
-        video.replaces ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
-    running.progress->setEndHandler(
-        [this, index = video.index] { MainQueue::post([this, index] { hasEnded(index); }); });
+    m_reporter.started(*video.item);
+    video.clock.start();
+    video.progress = Conversion::start(
+        jobOf(video), video.replaces ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
+    video.progress->setEndHandler(
+        [this, item = video.item] { MainQueue::post([this, item] { hasEnded(*item); }); });
+    m_running.emplace(video.item, std::move(video));
 }
 
 void Batch::report()
 {
     std::vector<RunningSample> samples;
     double fraction = 0;
-    for (auto &[index, running] : m_running) {
-        ProgressSample sample{ .completed = running.progress->completedUnitCount(),
-            .total = running.progress->totalUnitCount(),
-            .elapsed = std::chrono::milliseconds(running.clock.elapsed()) };
-        sample.left = running.steadyTime.shown(sample.secondsLeft());
-        fraction += running.progress->fractionCompleted();
-        samples.push_back({ m_items[index], sample, running.told });
+    for (auto &[item, video] : m_running) {
+        ProgressSample sample{ .completed = video.progress->completedUnitCount(),
+            .total = video.progress->totalUnitCount(),
+            .elapsed = std::chrono::milliseconds(video.clock.elapsed()) };
+        sample.left = video.steadyTime.shown(sample.secondsLeft());
+        fraction += video.progress->fractionCompleted();
+        samples.push_back({ *item, sample, video.told });
     }
     // What was skipped took no time and says nothing about the rest.
     constexpr qint64 parts = 1000;
@@ -237,39 +230,39 @@ void Batch::report()
     m_reporter.progressed(samples, m_sum, whole);
 }
 
-void Batch::hasEnded(std::size_t index)
+void Batch::hasEnded(const ConversionItem &item)
 {
-    const auto node = m_running.extract(index);
-    const Running &running = node.mapped();
-    const Outcome outcome = outcomeOf(*running.progress);
+    const auto node = m_running.extract(&item);
+    const Video &video = node.mapped();
+    const Outcome outcome = outcomeOf(*video.progress);
     if (outcome.isDone()) {
         ++m_sum.converted;
-        ConversionJob job = jobOf(index, running.info);
+        ConversionJob job = jobOf(video);
         for (const Remedy remedy : outcome.remedies)
             job = remedied(job, remedy);
-        m_reporter.converted(m_items[index],
+        m_reporter.converted(item,
             { .outcome = outcome,
                 .work = plannedWork(job.constraints, job.conversionInfo),
-                .seconds = running.progress->totalUnitCount(),
-                .elapsed = std::chrono::milliseconds(running.clock.elapsed()) });
+                .seconds = video.progress->totalUnitCount(),
+                .elapsed = std::chrono::milliseconds(video.clock.elapsed()) });
     } else {
-        settle(index, outcome);
+        settle(item, outcome);
     }
     goOn();
 }
 
-void Batch::settle(std::size_t index, const Outcome &outcome)
+void Batch::settle(const ConversionItem &item, const Outcome &outcome)
 {
-    if (isLeftOut(m_items[index].input, outcome)) {
+    if (isLeftOut(item.input, outcome)) {
         --m_sum.all;
-        return m_reporter.leftOut(m_items[index], outcome);
+        return m_reporter.leftOut(item, outcome);
     }
     ++m_sum.failed;
     m_isCancelled |= kindOf(outcome) == OutcomeKind::Cancelled;
-    m_reporter.failed(m_items[index], outcome);
-    printFailure(m_items[index], outcome);
-    if (index < m_firstFailed) {
-        m_firstFailed = index;
+    m_reporter.failed(item, outcome);
+    printFailure(item, outcome);
+    if (!m_firstFailed || &item < m_firstFailed) {
+        m_firstFailed = &item;
         m_code = exitCodeOf(kindOf(outcome));
     }
     // The other videos have no better chance.
@@ -282,6 +275,6 @@ void Batch::stop()
     m_isStopped = true;
     m_ready.clear();
     m_looking->cancel();
-    for (const auto &[index, running] : m_running)
-        running.progress->cancel();
+    for (const auto &[item, video] : m_running)
+        video.progress->cancel();
 }

@@ -29,35 +29,32 @@ public:
     [[nodiscard]] ExitCode run(const Interruption &interruption);
 
 private:
-    struct Examined {
-        std::size_t index;
+    struct Video {
+        const ConversionItem *item;
         JSON info;
-        bool replaces = false;
-    };
-    struct Running {
-        std::shared_ptr<Progress> progress;
-        JSON info;
-        QElapsedTimer clock;
-        SteadyTime steadyTime;
+        bool replaces;
+        std::shared_ptr<Progress> progress = {};
+        QElapsedTimer clock = {};
+        SteadyTime steadyTime = {};
         qint64 told = -1;
     };
 
     void goOn();
-    void examine(std::size_t index);
-    void wasExamined(Examined video);
+    void examine(const ConversionItem &item);
+    void wasExamined(const ConversionItem &item, const JSON &info);
     void makeFolder(const QString &path);
-    void checkExisting(const Examined &video);
-    void start(const Examined &video);
+    void checkExisting(const Video &video);
+    void start(Video video);
     void report();
-    void hasEnded(std::size_t index);
-    void settle(std::size_t index, const Outcome &outcome);
+    void hasEnded(const ConversionItem &item);
+    void settle(const ConversionItem &item, const Outcome &outcome);
     void stop();
 
-    [[nodiscard]] ConversionJob jobOf(std::size_t index, const JSON &info) const;
-    [[nodiscard]] std::optional<Outcome> refusalOfDestination(std::size_t index) const;
+    [[nodiscard]] ConversionJob jobOf(const Video &video) const;
+    [[nodiscard]] std::optional<Outcome> refusalOfDestination(const ConversionItem &item) const;
 
     const CommandLine &m_line;
-    std::vector<ConversionItem> m_items;
+    const std::vector<ConversionItem> m_items;
     Reporter &m_reporter;
     Destination m_others;
     std::size_t m_jobs;
@@ -67,8 +64,8 @@ private:
 
     std::size_t m_next = 0;
     std::size_t m_examining = 0;
-    std::deque<Examined> m_ready;
-    std::map<std::size_t, Running> m_running;
+    std::deque<Video> m_ready;
+    std::map<const ConversionItem *, Video> m_running;
     bool m_isStopped = false;
     bool m_isCancelled = false;
     /// Inner ones first.
@@ -77,6 +74,6 @@ private:
     std::shared_ptr<Progress> m_looking = std::make_shared<Progress>(-1);
     BatchSum m_sum;
     /// The first video, in their order, that was not converted decides the exit status.
-    std::size_t m_firstFailed;
+    const ConversionItem *m_firstFailed = nullptr;
     ExitCode m_code = ExitCode::Done;
 };
