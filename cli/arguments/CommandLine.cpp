@@ -18,13 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::optional<Verb> verbNamed(const QString &name)
-{
-    const auto *const found = std::find(verbNames.begin(), verbNames.end(), name);
-    return found == verbNames.end() ? std::nullopt
-                                    : std::optional(static_cast<Verb>(found - verbNames.begin()));
-}
-
 UsageText usageError(const QString &message)
 {
     const QString hint = localized(QT_TRANSLATE_NOOP3("Localizable",
@@ -69,7 +62,7 @@ std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb ver
             return usageError(
                 QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
                     "Command line: a command and an option that does not belong to it"),
-                { QString(verbNames.at(static_cast<std::size_t>(verb))), QString(row.name) });
+                { QString(rowOf(verb).name), QString(row.name) });
         const QStringList values = parser.values(row.name);
         if (!row.value.isEmpty() && (values.size() > 1 || values.contains(QString())))
             return usageError(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
@@ -203,18 +196,19 @@ std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &argume
     }
     const bool understood = parser.parse(arguments);
     const QString name = parser.positionalArguments().value(0);
-    const std::optional<Verb> verb = verbNamed(name);
+    const auto *const verb = std::ranges::find(verbRows, name, &VerbRow::name);
+    const bool isKnown = verb != verbRows.end();
     if (parser.isSet(u"help"_s))
-        return UsageText{ .text = verb ? Help::of(*verb) : Help::general() };
+        return UsageText{ .text = isKnown ? Help::of(verb->verb) : Help::general() };
     if (parser.isSet(u"version"_s))
         return UsageText{ .text = u"video-converter-cli "_s + Configuration::version() };
     if (!understood)
         return usageError(printable(parser.errorText()));
     if (name.isEmpty())
         return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
-    if (!verb)
+    if (!isKnown)
         return usageError(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
                               "Command line: wrong usage"),
             { printable(name) });
-    return checkedLine(parser, *verb);
+    return checkedLine(parser, verb->verb);
 }

@@ -6,11 +6,49 @@
 #include <QLatin1StringView>
 
 #include <array>
+#include <optional>
 
 enum class Verb { Formats, Probe, Plan, Convert };
 
-inline constexpr std::array verbNames{ QLatin1StringView("formats"), QLatin1StringView("probe"),
-    QLatin1StringView("plan"), QLatin1StringView("convert") };
+struct VerbRow {
+    Verb verb;
+    QLatin1StringView name;
+    /// What stands after the program's name; lines of one usage each.
+    QLatin1StringView usage;
+    LocalizedText text;
+};
+
+// In the order of the verbs.
+inline constexpr std::array verbRows{
+    VerbRow{ Verb::Formats, QLatin1StringView("formats"), QLatin1StringView("formats [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Lists the outputs that --to takes: devices, formats and MP4 qualities.",
+            "Help: command formats") },
+    VerbRow{ Verb::Probe, QLatin1StringView("probe"), QLatin1StringView("probe FILE... [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Describes videos. With --json: everything that the tool reports (info), the length "
+            "(duration, seconds) and the size of the cover picture or null (cover).",
+            "Help: command probe") },
+    VerbRow{ Verb::Plan, QLatin1StringView("plan"),
+        QLatin1StringView(
+            "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Prints the tool's command line, quoted for a shell, without running it. --to all "
+            "prints one for each output.",
+            "Help: command plan") },
+    VerbRow{ Verb::Convert, QLatin1StringView("convert"),
+        QLatin1StringView("convert --to NAME (FILE -o OUT | FILE... -d FOLDER) [OPTIONS]\n"
+                          "convert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins "
+            "with a dash goes after --.",
+            "Help: command convert") },
+};
+
+[[nodiscard]] constexpr const VerbRow &rowOf(Verb verb)
+{
+    return verbRows.at(static_cast<std::size_t>(verb));
+}
 
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
@@ -53,6 +91,17 @@ inline constexpr std::array optionRows {
     OptionRow { QLatin1StringView("version"),       {},                     {},                            ValueKind::None,   { true,  true,  true,  true  }, QT_TRANSLATE_NOOP3("Localizable", "prints the version", "Help: option --version") },
 };
 // clang-format on
+
+/// What a function makes of the options that a command takes, or of all.
+[[nodiscard]] QStringList optionTexts(const auto &textOf, std::optional<Verb> verb = {})
+{
+    QStringList texts;
+    for (const OptionRow &row : optionRows) {
+        if (!verb || row.isTakenBy(*verb))
+            texts << textOf(row);
+    }
+    return texts;
+}
 
 namespace Help {
 
