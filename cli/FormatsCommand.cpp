@@ -61,8 +61,7 @@ ExitCode listFormats(const CommandLine &line, Interruption & /*interruption*/)
     for (const Group &group : groups) {
         if (!line.json)
             Output::line(localized(group.heading));
-        for (const QString &name : entryNames(group.group)) {
-            const VideoConstraints entry = entryMeant(name).value();
+        for (const VideoConstraints &entry : allEntries(group.group)) {
             if (line.json)
                 list << jsonEntry(entry, group.id);
             else

@@ -31,14 +31,6 @@ UsageText usageError(
     return usageError(formatted(message, arguments));
 }
 
-std::vector<VideoConstraints> entriesNamed(const QString &name, Verb verb)
-{
-    if (verb == Verb::Plan && name == "all"_L1)
-        return allEntries();
-    const auto entry = entryMeant(name);
-    return entry ? std::vector{ *entry } : std::vector<VideoConstraints>();
-}
-
 UsageText unknownEntry(const QString &name)
 {
     const QStringList near = namesNear(name);
@@ -130,13 +122,14 @@ bool takesEntry(Verb verb) { return verb == Verb::Plan || verb == Verb::Convert;
 
 CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 {
+    const QString entry = parser.value(u"to"_s);
     return { .verb = verb,
         .json = parser.isSet(u"json"_s),
         .quiet = parser.isSet(u"quiet"_s),
         .verbose = parser.isSet(u"verbose"_s),
         .overwrite = parser.isSet(u"overwrite"_s),
         .skipExisting = parser.isSet(u"skip-existing"_s),
-        .entries = entriesNamed(parser.value(u"to"_s), verb),
+        .entries = verb == Verb::Plan && entry == "all"_L1 ? allEntries() : entryMeant(entry),
         .inputs = parser.positionalArguments().mid(1),
         .tree = parser.value(u"recursive"_s),
         .list = parser.value(u"files-from"_s),
