@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -68,11 +69,9 @@ std::vector<Input> inputsIn(const CommandLine &line)
          files.hasNext();) {
         const QString name = files.next();
         const QString path = absolutePath(name);
-        const bool isBelow = results.size() > root.size() && path.startsWith(results);
-        const QString subfolder = Path::stringByDeletingLastPathComponent(path.sliced(root.size()));
-        if (!isBelow)
-            inputs.push_back(
-                { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
+        const bool isResult = results.size() > root.size() && path.startsWith(results);
+        if (!isResult)
+            inputs.push_back({ .name = name, .path = path, .isFound = true });
     }
     dropEarlierResults(inputs, line);
     std::ranges::sort(inputs, {}, &Input::path);
@@ -112,11 +111,8 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
         const std::vector<Input> found = inputsIn(line);
         inputs.insert(inputs.end(), found.begin(), found.end());
     }
-    QSet<QString> known;
-    std::erase_if(inputs, [&](const Input &input) {
-        const qsizetype before = known.size();
-        return known.insert(input.path), known.size() == before;
-    });
+    std::set<QString> known;
+    std::erase_if(inputs, [&](const Input &input) { return !known.insert(input.path).second; });
     return inputs;
 }
 
@@ -134,14 +130,16 @@ std::vector<ConversionItem> conversionItems(
     });
     const QString ext = conversionDescriptor(line.entries.front().format).ext;
     const QString folder = absolutePath(line.folder + u'/');
+    const QString root = absolutePath(line.tree + u'/');
     QSet<QString> taken;
     std::vector<ConversionItem> items(inputs.size());
     for (const std::size_t index : order) {
         const Input &input = inputs[index];
+        // What was found keeps its place in the tree.
         const QString name
-            = Path::stringByDeletingPathExtension(Path::lastPathComponent(input.path));
-        const QString subfolder = input.subfolder.isEmpty() ? QString() : input.subfolder + u'/';
-        items[index] = { input, uniquePath(folder + subfolder + name, ext, taken) };
+            = input.isFound ? input.path.sliced(root.size()) : Path::lastPathComponent(input.path);
+        items[index]
+            = { input, uniquePath(folder + Path::stringByDeletingPathExtension(name), ext, taken) };
     }
     std::erase_if(
         items, [&](const ConversionItem &item) { return !isInShard(item.input.name, line.shard); });

@@ -51,8 +51,7 @@ JSON JSON::operator[](const QString &key) const
 std::vector<JSON> JSON::array() const
 {
     const QJsonArray values = m_value.toArray();
-    std::vector<JSON> elements(values.begin(), values.end());
-    return elements;
+    return { values.begin(), values.end() };
 }
 
 std::optional<QString> JSON::string() const
