@@ -17,9 +17,9 @@ QJsonObject jsonOf(const VideoDescription &video)
 {
     const double seconds = video.info[u"format"_s][u"duration"_s].stringValue().toDouble();
     QJsonValue cover;
-    if (video.cover)
-        cover = QJsonObject{ { u"width"_s, video.cover->width() },
-            { u"height"_s, video.cover->height() } };
+    if (!video.cover.isEmpty())
+        cover = QJsonObject{ { u"width"_s, video.cover.width() },
+            { u"height"_s, video.cover.height() } };
     return { { u"info"_s, video.info.value() }, { u"duration"_s, video.duration },
         { u"seconds"_s, static_cast<qint64>(seconds) }, { u"cover"_s, cover } };
 }
@@ -59,7 +59,8 @@ void printText(const VideoDescription &video)
     const QString none
         = localized(QT_TRANSLATE_NOOP3("Localizable", "none", "A video has no cover picture"));
     printField(QT_TRANSLATE_NOOP3("Localizable", "Cover", "Property of a video"),
-        video.cover ? u"%1 x %2"_s.arg(video.cover->width()).arg(video.cover->height()) : none);
+        video.cover.isEmpty() ? none
+                              : u"%1 x %2"_s.arg(video.cover.width()).arg(video.cover.height()));
 }
 
 }
