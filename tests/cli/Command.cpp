@@ -2,8 +2,9 @@
 #include "tests/cli/Command.h"
 
 #include "support/Bundle.h"
+#include "tests/fixtures/Media.h"
 
-#include <QDirIterator>
+#include <QDir>
 
 #include <csignal>
 #include <unistd.h>
@@ -39,15 +40,12 @@ QString Command::program()
 
 QStringList Command::listing() const
 {
-    QStringList entries;
-    QDirIterator all(path(), QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
-        QDirIterator::Subdirectories);
-    while (all.hasNext()) {
-        const QFileInfo info(all.next());
-        entries << info.filePath() + u' ' + QString::number(info.isFile() ? info.size() : -1);
-    }
-    entries.sort();
-    return entries;
+    return shell(u"find . -type f -printf '%p %s\\n' -o -printf '%p\\n' | sort"_s).split(u'\n');
+}
+
+QString Command::files(const QString &folder) const
+{
+    return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u'|');
 }
 
 QByteArray Command::contents(const QString &name) const
@@ -63,13 +61,9 @@ void Command::write(const QString &name, const QByteArray &bytes) const
         qFatal("%s can't be written", qPrintable(file.fileName()));
 }
 
-void Command::prepare(const QString &script) const
+QString Command::shell(const QString &script) const
 {
-    QProcess shell;
-    shell.setWorkingDirectory(path());
-    shell.start(u"sh"_s, { u"-ec"_s, script });
-    if (!shell.waitForFinished() || shell.exitCode() != 0)
-        qFatal("%s", shell.readAllStandardError().constData());
+    return QString::fromUtf8(Media::run(u"sh"_s, { u"-ec"_s, u"cd \"$0\"\n"_s + script, path() }));
 }
 
 bool Command::dropPrivileges()

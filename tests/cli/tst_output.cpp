@@ -83,10 +83,8 @@ private Q_SLOTS:
         const QStringList files{ m_video, u"$HOME *.gif"_s };
         const QString line = m_command.run(u"plan --to GIF"_s, files).out.chopped(1);
         const QJsonObject object = m_command.run(u"plan --to GIF --json"_s, files).object();
-        QProcess shell;
-        shell.start(u"sh"_s, { u"-c"_s, u"set -- "_s + line + uR"(; printf '%s|' "$@")"_s });
-        QVERIFY(shell.waitForFinished());
-        QStringList seen = QString::fromUtf8(shell.readAllStandardOutput()).split(u'|');
+        QStringList seen
+            = m_command.shell(u"set -- "_s + line + uR"(; printf '%s|' "$@")"_s).split(u'|');
         QVERIFY(seen.takeFirst().endsWith(u"/Contents/ffmpeg/ffmpeg"_s));
         QCOMPARE(seen.takeLast(), QString());
         QCOMPARE(seen, wordsOf(object[u"GIF"_s]));
@@ -202,16 +200,10 @@ private Q_SLOTS:
     void standardInput_isLeftAlone()
     {
         // A waiting 'q' would end the tool early, and a loop's list of videos would be eaten.
-        QProcess shell;
-        shell.setWorkingDirectory(m_command.path());
-        shell.start(u"sh"_s,
-            { u"-c"_s, u"\"$0\" convert --to MKV video.mov -o q.mkv && cat"_s,
-                Command::program() });
-        shell.write("q\nq\n");
-        shell.closeWriteChannel();
-        const Finished finished = Command::wait(shell);
-        QCOMPARE(finished.err, QString());
-        QVERIFY2(finished.out.endsWith(u"\nq\nq\n"_s), qPrintable(finished.out));
+        const QString printed = m_command.shell(
+            u"printf 'q\\nq\\n' | { '%1' convert --to MKV video.mov -o q.mkv && cat; }"_s.arg(
+                Command::program()));
+        QVERIFY2(printed.endsWith(u"\nq\nq\n"_s), qPrintable(printed));
     }
 
     void noUsageEvent_isSent()

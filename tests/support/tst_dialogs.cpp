@@ -16,14 +16,6 @@ class TestDialogs : public QObject {
     Q_OBJECT
 
 private:
-    static void clickYes(const QMessageBox &box)
-    {
-        for (QAbstractButton *button : box.buttons()) {
-            if (button->text() == u"Yes")
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-    }
-
     /// The texts on the screen, each plain and within its place.
     static QStringList plainTexts(const QMessageBox &box)
     {
@@ -48,7 +40,6 @@ private Q_SLOTS:
                 { "Return", Answering::keys({ Qt::Key_Return }), false },
                 { "Escape", Answering::keys({ Qt::Key_Escape }), false },
                 { "closed", &QMessageBox::close, false },
-                { "Yes clicked", clickYes, true },
                 { "Yes by keyboard", Answering::yes(), true },
             });
     }

@@ -20,8 +20,6 @@ using namespace Qt::StringLiterals;
 class TestEnvironment : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-
     /// What another run of the program would read.
     static QString settings()
     {
@@ -30,17 +28,10 @@ class TestEnvironment : public QObject {
     }
 
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        Preferences::registerDefaults();
-        Defaults::remove(u"IsFirstRun"_s);
-        Defaults::remove(u"FirstLaunch"_s);
-    }
-
     void movedBundle_isFound()
     {
-        const QDir folder(QFileInfo(m_folder->path()).canonicalFilePath());
+        const QTemporaryDir temporary;
+        const QDir folder(QFileInfo(temporary.path()).canonicalFilePath());
         const QString bundle = folder.filePath(u"Contents/MacOS/Ä b%d.app"_s);
         QVERIFY(folder.mkpath(bundle + "/Contents/MacOS"_L1));
         const QString program = bundle + "/Contents/MacOS/program"_L1;
@@ -77,6 +68,8 @@ private Q_SLOTS:
 
     void registeredDefault_isNeverWritten()
     {
+        Preferences::registerDefaults();
+        Defaults::remove(u"IsFirstRun"_s);
         QVERIFY(Preferences::isFirstRun());
         QVERIFY2(!settings().contains(u"IsFirstRun"_s), qPrintable(settings()));
         Preferences::setFirstRun(false);
