@@ -18,7 +18,6 @@ struct VideoDescription {
     QSize cover;
 };
 
-/// Examines a video and waits for the result or an interruption. Thread: main; an event loop runs
-/// inside.
+/// Waits for the result or an interruption. Thread: main; an event loop runs inside.
 [[nodiscard]] std::variant<VideoDescription, Outcome> examined(
     const QString &path, Cover cover, Interruption &interruption);

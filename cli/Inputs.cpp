@@ -78,28 +78,19 @@ std::vector<Input> inputsIn(const CommandLine &line)
     return inputs;
 }
 
-std::optional<QStringList> namesIn(const CommandLine &line)
-{
-    const auto bytes = StandardInput::contentsOf(line.list, listLimit);
-    if (!bytes)
-        return std::nullopt;
-    QStringList names;
-    for (const QByteArray &name : bytes->split(line.listIsNullSeparated ? '\0' : '\n'))
-        names << QFile::decodeName(name);
-    names.removeAll(QString());
-    return names;
-}
-
 }
 
 std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
 {
     QStringList names = line.inputs;
     if (!line.list.isEmpty()) {
-        const auto listed = namesIn(line);
-        if (!listed)
+        const auto list = StandardInput::contentsOf(line.list, listLimit);
+        if (!list)
             return InputRefusal{ line.list, { Reason::ListNotReadable } };
-        names += *listed;
+        for (const QByteArray &name : list->split(line.listIsNullSeparated ? '\0' : '\n')) {
+            if (!name.isEmpty())
+                names << QFile::decodeName(name);
+        }
     }
     std::vector<Input> inputs;
     for (const QString &name : names)
