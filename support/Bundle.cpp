@@ -9,18 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QString mainBundlePath()
-{
-    const QFileInfo executable(
-        QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
-    const QString folder = executable.path();
-    return folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder;
-}
-
-}
-
 Bundle::Bundle(QString bundlePath)
     : m_bundlePath(std::move(bundlePath))
 {
@@ -28,7 +16,10 @@ Bundle::Bundle(QString bundlePath)
 
 const Bundle &Bundle::main()
 {
-    static const Bundle bundle(mainBundlePath());
+    static const Bundle bundle = [] {
+        const QString folder = QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath();
+        return Bundle(folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder);
+    }();
     return bundle;
 }
 

@@ -8,8 +8,7 @@
 #include <variant>
 #include <vector>
 
-/// A text of the string table, written with QT_TRANSLATE_NOOP3("Localizable", key, comment) for the
-/// translators' tools.
+/// A text of the string table, written with QT_TRANSLATE_NOOP3("Localizable", key, comment).
 struct LocalizedText {
     const char *key;
     const char *comment;

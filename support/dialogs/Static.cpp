@@ -25,16 +25,6 @@ QString programName()
         .value_or(QGuiApplication::applicationDisplayName());
 }
 
-QString versionText()
-{
-    const QString version = Bundle::main()
-                                .infoString(u"CFBundleShortVersionString"_s)
-                                .value_or(Configuration::version());
-    return formatted(
-        QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
-        { version });
-}
-
 QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
 {
     auto *label = new QLabel(text);
@@ -81,7 +71,11 @@ QDialog *makeAboutBox()
     font.setBold(true);
     name->setFont(font);
 
-    QLabel *version = addLabel(layout, versionText());
+    const auto bundled = Bundle::main().infoString(u"CFBundleShortVersionString"_s);
+    QLabel *version = addLabel(layout,
+        formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
+            { bundled.value_or(Configuration::version()) }));
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     layout->addSpacing(8);
