@@ -13,15 +13,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonObject jsonOf(const VideoDescription &video)
+QJsonObject jsonOf(const QString &path, const VideoDescription &video)
 {
     const double seconds = video.info[u"format"_s][u"duration"_s].stringValue().toDouble();
     QJsonValue cover;
     if (!video.cover.isEmpty())
         cover = QJsonObject{ { u"width"_s, video.cover.width() },
             { u"height"_s, video.cover.height() } };
-    return { { u"info"_s, video.info.value() }, { u"duration"_s, video.duration },
-        { u"seconds"_s, static_cast<qint64>(seconds) }, { u"cover"_s, cover } };
+    return { { u"input"_s, path }, { u"info"_s, video.info.value() },
+        { u"duration"_s, video.duration }, { u"seconds"_s, static_cast<qint64>(seconds) },
+        { u"cover"_s, cover } };
 }
 
 /// Such as "video, h264, 1920 x 1080" or "audio, aac, 48000 Hz, 2 channels".
@@ -80,10 +81,8 @@ ExitCode probeVideos(const CommandLine &line, Interruption &interruption)
         }
         const auto &video = std::get<VideoDescription>(result);
         if (line.json) {
-            QJsonObject object = jsonOf(video);
-            object[u"input"_s] = absolutePath(name);
-            Output::json(
-                QJsonDocument(object), isOne ? QJsonDocument::Indented : QJsonDocument::Compact);
+            Output::json(QJsonDocument(jsonOf(absolutePath(name), video)),
+                isOne ? QJsonDocument::Indented : QJsonDocument::Compact);
             continue;
         }
         if (!isOne)
