@@ -45,16 +45,16 @@ UsageText unknownEntry(const QString &name)
         { printable(name) });
 }
 
-std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb verb)
+std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, const VerbRow &verb)
 {
     for (const OptionRow &row : optionRows) {
         if (!parser.isSet(row.name))
             continue;
-        if (!row.isTakenBy(verb))
+        if (!row.isTakenBy(verb.verb))
             return usageError(
                 QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
                     "Command line: a command and an option that does not belong to it"),
-                { QString(rowOf(verb).name), QString(row.name) });
+                { QString(verb.name), QString(row.name) });
         const QStringList values = parser.values(row.name);
         if (!row.value.isEmpty() && (values.size() > 1 || values.contains(QString())))
             return usageError(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
@@ -118,8 +118,6 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
     return std::nullopt;
 }
 
-bool takesEntry(Verb verb) { return verb == Verb::Plan || verb == Verb::Convert; }
-
 CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 {
     const QString entry = parser.value(u"to"_s);
@@ -157,18 +155,20 @@ bool readNumbers(const QCommandLineParser &parser, CommandLine &line)
     return true;
 }
 
-std::variant<CommandLine, UsageText> checkedLine(const QCommandLineParser &parser, Verb verb)
+std::variant<CommandLine, UsageText> checkedLine(
+    const QCommandLineParser &parser, const VerbRow &verb)
 {
     if (const auto wrong = wrongOptions(parser, verb))
         return *wrong;
-    CommandLine line = readLine(parser, verb);
+    CommandLine line = readLine(parser, verb.verb);
     if (!readNumbers(parser, line))
         return usageError(QT_TRANSLATE_NOOP3("Localizable",
             "--jobs takes a number, --shard two such as 2/8.", "Command line: wrong usage"));
-    if (takesEntry(verb) && !parser.isSet(u"to"_s))
+    const bool takesEntry = line.verb == Verb::Plan || line.verb == Verb::Convert;
+    if (takesEntry && !parser.isSet(u"to"_s))
         return usageError(QT_TRANSLATE_NOOP3(
             "Localizable", "--to NAME is missing.", "Command line: wrong usage"));
-    if (takesEntry(verb) && line.entries.empty())
+    if (takesEntry && line.entries.empty())
         return unknownEntry(parser.value(u"to"_s));
     if (const auto wrong = wrongInputs(line))
         return *wrong;
@@ -192,16 +192,16 @@ std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &argume
     const auto *const verb = std::ranges::find(verbRows, name, &VerbRow::name);
     const bool isKnown = verb != verbRows.end();
     if (parser.isSet(u"help"_s))
-        return UsageText{ .text = isKnown ? Help::of(verb->verb) : Help::general() };
+        return UsageText{ .text = isKnown ? helpOn(*verb) : generalHelp() };
     if (parser.isSet(u"version"_s))
         return UsageText{ .text = u"video-converter-cli "_s + Configuration::version() };
     if (!understood)
         return usageError(printable(parser.errorText()));
     if (name.isEmpty())
-        return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
+        return UsageText{ .code = ExitCode::Usage, .text = generalHelp() };
     if (!isKnown)
         return usageError(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
                               "Command line: wrong usage"),
             { printable(name) });
-    return checkedLine(parser, verb->verb);
+    return checkedLine(parser, *verb);
 }

@@ -54,7 +54,7 @@ QString zshOption(const OptionRow &row)
         ":_files -/"_L1, ": "_L1 };
     QString action = actions.at(static_cast<std::size_t>(row.kind));
     if (row.kind != ValueKind::None)
-        action.prepend(u':' + row.value).replace(u"'"_s, uR"('\'')"_s);
+        action.prepend(u':' + row.value);
     const QString text = english(row)
                              .replace(u"'"_s, uR"('\'')"_s)
                              .replace(u':', uR"(\:)"_s)
@@ -70,17 +70,15 @@ QString fishOption(const OptionRow &row)
     // In the order of the kinds.
     constexpr std::array actions{ ""_L1, " -x -a '(__video_converter_names)'"_L1, " -r -F"_L1,
         " -x -a '(__fish_complete_directories)'"_L1, " -x"_L1 };
-    QString line = u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2"_s;
     QStringList verbs;
     for (const VerbRow &each : verbRows) {
         if (row.isTakenBy(each.verb))
             verbs << each.name;
     }
-    line = line.arg(verbs.join(u' '), row.name);
-    if (!row.letter.isEmpty())
-        line += u" -s "_s + row.letter;
-    return line + actions.at(static_cast<std::size_t>(row.kind))
-        + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
+    const QString letter = row.letter.isEmpty() ? QString() : u" -s "_s + row.letter;
+    return u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2%3%4 -d '%5'"_s
+        .arg(verbs.join(u' '), row.name, letter, actions.at(static_cast<std::size_t>(row.kind)),
+            english(row).replace(u"'"_s, u"\\'"_s));
 }
 
 QString casesOf(const QString &shell)

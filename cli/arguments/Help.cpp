@@ -46,9 +46,7 @@ QString usage(const QString &words)
 
 }
 
-namespace Help {
-
-QString general()
+QString generalHelp()
 {
     QString text = usage(u"COMMAND [OPTIONS]"_s) + u"\n\n"_s;
     for (const VerbRow &row : verbRows)
@@ -64,11 +62,8 @@ QString general()
             0);
 }
 
-QString of(Verb verb)
+QString helpOn(const VerbRow &row)
 {
-    const VerbRow &row = rowOf(verb);
     return usage(row.usage) + u'\n' + wrapped(localized(row.text), 0) + u"\n\n"_s
-        + optionTexts(optionLine, verb).join(u'\n');
-}
-
+        + optionTexts(optionLine, row.verb).join(u'\n');
 }

@@ -18,7 +18,6 @@ struct VerbRow {
     LocalizedText text;
 };
 
-// In the order of the verbs.
 inline constexpr std::array verbRows{
     VerbRow{ Verb::Formats, QLatin1StringView("formats"), QLatin1StringView("formats [--json]"),
         QT_TRANSLATE_NOOP3("Localizable",
@@ -44,11 +43,6 @@ inline constexpr std::array verbRows{
             "with a dash goes after --.",
             "Help: command convert") },
 };
-
-[[nodiscard]] constexpr const VerbRow &rowOf(Verb verb)
-{
-    return verbRows.at(static_cast<std::size_t>(verb));
-}
 
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
@@ -103,12 +97,8 @@ inline constexpr std::array optionRows {
     return texts;
 }
 
-namespace Help {
-
-[[nodiscard]] QString general();
-[[nodiscard]] QString of(Verb verb);
-
-}
+[[nodiscard]] QString generalHelp();
+[[nodiscard]] QString helpOn(const VerbRow &row);
 
 /// What the package is made with: "man" gives the manual page's section on options, "bash", "zsh"
 /// and "fish" that shell's completion; empty for any other name.

@@ -102,9 +102,9 @@ private Q_SLOTS:
                 names << match.captured(1);
             return names;
         };
-        QString help = Help::general();
+        QString help = generalHelp();
         for (const VerbRow &row : verbRows)
-            help += Help::of(row.verb);
+            help += helpOn(row);
         const QSet<QString> all = optionsIn(help);
         QCOMPARE(all.size(), qsizetype(optionRows.size()));
         for (const QString &document : { u"man"_s, u"bash"_s, u"zsh"_s, u"fish"_s }) {
