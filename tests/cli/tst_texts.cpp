@@ -131,7 +131,7 @@ private Q_SLOTS:
             {
                 { "length unknown", 0, -1, 61'500, "1m 1s so far" },
                 { "length of nothing", 0, 0, 2000, "2s so far" },
-                { "too early for a forecast", 10, 100, 900, " 10%" },
+                { "too early for a forecast", 29, 100, 900, " 29%" },
                 { "half", 50, 100, 10'000, " 50%  5.0x  10s left" },
                 { "slow", 1, 7200, 60'000, "  0%  0.0x  4d 119h 59m 0s left" },
                 { "never rounded up", 9999, 10'000, 1'000'000, " 99%  10.0x  1s left" },
