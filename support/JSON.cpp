@@ -59,8 +59,6 @@ std::optional<QString> JSON::string() const
     return m_value.isString() ? std::optional(m_value.toString()) : std::nullopt;
 }
 
-QString JSON::stringValue() const { return m_value.toVariant().toString(); }
-
 std::optional<qint64> JSON::integer() const
 {
     if (!m_value.isDouble())

@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace Text {
 
-qint64 length(QStringView text) { return text.size(); }
-
 qsizetype characterCount(QStringView text)
 {
     // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII
@@ -43,8 +41,6 @@ qint64 asInt(QStringView text)
     const auto isPart = [](QChar c) { return c.isDigit() || c == u'+' || c == u'-'; };
     return std::ranges::all_of(text, isPart) ? text.toLongLong() : 0;
 }
-
-qint64 asInt64(QStringView text) { return asInt(text); }
 
 QString stringValue(const QByteArray &bytes)
 {

@@ -141,18 +141,15 @@ CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 bool readNumbers(const QCommandLineParser &parser, CommandLine &line)
 {
     static const QRegularExpression shard(uR"(\A(\d{1,6})/(\d{1,6})\z)"_s);
-    if (parser.isSet(u"jobs"_s)) {
-        bool isNumber = false;
+    bool isNumber = true;
+    if (parser.isSet(u"jobs"_s))
         line.jobs = parser.value(u"jobs"_s).toInt(&isNumber);
-        if (!isNumber || line.jobs < 0 || line.jobs > 1000)
-            return false;
-    }
     if (parser.isSet(u"shard"_s)) {
         const auto match = shard.match(parser.value(u"shard"_s));
         line.shard = { match.captured(1).toInt(), match.captured(2).toInt() };
-        return line.shard.part >= 1 && line.shard.part <= line.shard.parts;
     }
-    return true;
+    return isNumber && line.jobs >= 0 && line.jobs <= 1000 && line.shard.part >= 1
+        && line.shard.part <= line.shard.parts;
 }
 
 std::variant<CommandLine, UsageText> checkedLine(
