@@ -6,8 +6,6 @@
 #include "tests/fixtures/Rows.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QSet>
 
 #include <clocale>
 
@@ -93,23 +91,13 @@ private Q_SLOTS:
         }
     }
 
-    void documents_nameTheSameOptions()
+    void documents_nameAllOptions()
     {
-        static const QRegularExpression option(u"(?:--| -l )([a-z][a-z-]+)"_s);
-        const auto optionsIn = [](const QString &text) {
-            QSet<QString> names;
-            for (const QRegularExpressionMatch &match : option.globalMatch(text))
-                names << match.captured(1);
-            return names;
-        };
-        QString help = generalHelp();
-        for (const VerbRow &row : verbRows)
-            help += helpOn(row);
-        const QSet<QString> all = optionsIn(help);
-        QCOMPARE(all.size(), qsizetype(optionRows.size()));
         for (const QString &document : { u"man"_s, u"bash"_s, u"zsh"_s, u"fish"_s }) {
             const QString text = generatedText(document).replace(u"\\-"_s, u"-"_s);
-            QCOMPARE(optionsIn(text), all);
+            for (const OptionRow &row : optionRows)
+                QVERIFY2(text.contains((document == u"fish" ? u" -l "_s : u"--"_s) + row.name),
+                    row.name.data());
             QVERIFY(document == u"man" || text.contains(u"MP4 HD 720\n"_s));
         }
     }
