@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Inputs.h"
 
-#include "planning/ConversionDescriptor.h"
+#include "cli/arguments/EntryName.h"
 #include "support/Path.h"
 #include "support/StandardInput.h"
 
@@ -47,7 +47,7 @@ bool isInShard(const QString &name, const Shard &shard)
 /// Any other file of the output's format is a video like the rest.
 void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
-    const QString extension = conversionDescriptor(line.entries.front().format).ext;
+    const QString extension = extensionOf(line.entries.front());
     std::vector<Input> sources = inputs;
     std::erase_if(
         sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
@@ -119,7 +119,7 @@ std::vector<ConversionItem> conversionItems(
         const Input &input = inputs[index];
         return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
     });
-    const QString ext = conversionDescriptor(line.entries.front().format).ext;
+    const QString ext = extensionOf(line.entries.front());
     const QString folder = absolutePath(line.folder + u'/');
     const QString root = absolutePath(line.tree + u'/');
     QSet<QString> taken;

@@ -3,7 +3,6 @@
 
 #include "cli/arguments/EntryName.h"
 #include "cli/report/ShownText.h"
-#include "planning/ConversionDescriptor.h"
 #include "support/Configuration.h"
 #include "support/Localized.h"
 
@@ -114,7 +113,7 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
                               "\"%@\" is no name for \"%@\", which makes .%@ files.",
                               "Command line: name of a result, name of an output, its extension"),
             { printable(line.output), line.entries.front().destDevice,
-                conversionDescriptor(line.entries.front().format).ext });
+                extensionOf(line.entries.front()) });
     return std::nullopt;
 }
 

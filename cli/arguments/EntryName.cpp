@@ -10,13 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 QString extensionOf(const VideoConstraints &entry)
 {
     return conversionDescriptor(entry.format).ext;
-}
-
 }
 
 std::vector<VideoConstraints> allEntries(std::optional<MenuGroup> group)

@@ -3,6 +3,7 @@
 
 #include "planning/VideoConstraints.h"
 
+[[nodiscard]] QString extensionOf(const VideoConstraints &entry);
 /// In menu order; of all groups without one.
 [[nodiscard]] std::vector<VideoConstraints> allEntries(std::optional<MenuGroup> group = {});
 /// The one entry that a user means, by its name in any letter case or by an extension, or none.
