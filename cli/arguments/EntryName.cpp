@@ -45,7 +45,7 @@ QStringList namesNear(const QString &text)
     // The whole text, then any word of it, then how it begins.
     const QStringList words = QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' ');
     for (const QString &part : QStringList{ text } + words + QStringList{ text.left(3) }) {
-        const QStringList near = names.filter(part, Qt::CaseInsensitive);
+        QStringList near = names.filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
     }

@@ -106,6 +106,17 @@ private Q_SLOTS:
         }
     }
 
+    void movedBundle_isFound()
+    {
+        // Behind a link, inside another bundle, and without tools.
+        const QString bundle = m_command.path(u"Contents/MacOS/Ä b%d.app"_s);
+        const QString printed
+            = m_command.shell(uR"(mkdir -p "%1/Contents/MacOS"; cp '%2' "%1/Contents/MacOS/program"
+                ln -s "%1/Contents/MacOS/program" link; ./link probe video.mov 2>&1 || true)"_s.arg(
+                bundle, Command::program()));
+        QVERIFY2(printed.contains(bundle + u"/Contents/ffmpeg/ffprobe"_s), qPrintable(printed));
+    }
+
     // Else the next files that are opened would take their places, and get what is printed.
     void closedStreams_areReplaced()
     {
