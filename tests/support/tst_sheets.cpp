@@ -94,7 +94,7 @@ private Q_SLOTS:
 
         const Answering agreement(Answering::yes());
         type(typed);
-        QVERIFY(agreement.wasShown);
+        QVERIFY(!agreement.text.isEmpty());
         QTRY_VERIFY(!sheet());
         QCOMPARE(paths, QStringList{ path(existing) });
     }
