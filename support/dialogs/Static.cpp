@@ -38,7 +38,7 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
 /// Only Russian has a site of its own. Prints a line for a language that the bundle has.
 QString siteAddress()
 {
-    const QString root = Configuration::siteUrl();
+    QString root = Configuration::siteUrl();
     const QString code = languageCode().value_or(QString());
     const QString language = code.toLower();
     const qsizetype position = Bundle::main().localizations().indexOf(language);
