@@ -11,12 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr unsigned nobody = 65534;
-
-}
-
 Command::Command()
 {
     if (!m_folder.isValid())
@@ -71,9 +65,9 @@ bool Command::dropPrivileges()
     if (::geteuid() != 0)
         return true;
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
-    m_unprivileged = true;
-    m_unprivileged = run(u"--version"_s).exitCode == 0;
-    return m_unprivileged;
+    m_wrapper
+        = QStringList{ u"setpriv"_s, u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s };
+    return run(u"--version"_s).exitCode == 0;
 }
 
 std::unique_ptr<QProcess> Command::start(
@@ -81,15 +75,15 @@ std::unique_ptr<QProcess> Command::start(
 {
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_folder.path());
-    process->setChildProcessModifier([unprivileged = m_unprivileged, inChild] {
+    process->setChildProcessModifier([inChild] {
         // A test run in the background of a script has them ignored.
         ::signal(SIGINT, SIG_DFL);
         ::signal(SIGQUIT, SIG_DFL);
         inChild();
-        if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(126);
     });
-    process->start(program(), QProcess::splitCommand(line) + further);
+    const QStringList words
+        = m_wrapper + QStringList{ program() } + QProcess::splitCommand(line) + further;
+    process->start(words.first(), words.mid(1));
     return process;
 }
 

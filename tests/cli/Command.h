@@ -65,5 +65,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    bool m_unprivileged = false;
+    /// Program and options that run the words behind them.
+    QStringList m_wrapper;
 };
