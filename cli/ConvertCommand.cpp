@@ -1,7 +1,331 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Batch.h"
 #include "cli/Commands.h"
+#include "cli/Inputs.h"
 #include "cli/report/Output.h"
+#include "cli/report/Reporter.h"
+#include "cli/report/ShownText.h"
+#include "engine/Async.h"
+#include "engine/Conversion.h"
+#include "engine/Destination.h"
+#include "engine/SteadyTime.h"
+#include "engine/Verdict.h"
+#include "support/Interruption.h"
+#include "support/MainQueue.h"
+#include "support/Path.h"
+#include "support/Text.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <deque>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a folder holds beside videos is no failure; what is called a video there and can't be read
+/// is one.
+bool isLeftOut(const Input &input, const Outcome &outcome)
+{
+    static const QSet<Reason> reasons{ Reason::NotMedia, Reason::NoDuration, Reason::TooShort,
+        Reason::EmptyFile, Reason::NotRegularFile };
+    return input.isFound && reasons.contains(outcome.reason) && !isCalledMedia(input.name);
+}
+
+/// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
+bool isVideoOrMusic(const JSON &info)
+{
+    if (info[u"format"_s][u"format_name"_s].stringValue() == u"tty")
+        return false;
+    return std::ranges::any_of(info[u"streams"_s].array(), [](const JSON &stream) {
+        const QString kind = stream[u"codec_type"_s].stringValue();
+        return kind == u"video" || kind == u"audio";
+    });
+}
+
+Outcome outcomeOf(const Progress &progress)
+{
+    Outcome outcome = progress.outcome();
+    const bool hasFailed = kindOf(outcome) == OutcomeKind::Failed;
+    // The terminal's Ctrl-C reaches the tool as well, which may fail because of it.
+    if (hasFailed && Interruption::signal() != 0)
+        return { Reason::Cancelled };
+    // The engine prints the output of a failed tool itself, unless it can't be decoded.
+    const QByteArray output = progress.toolOutput();
+    if (!hasFailed || Text::stringValue(output).isEmpty())
+        Output::diagnostics(output);
+    return outcome;
+}
+
+/// Converts many videos, several side by side, and examines the next ones meanwhile. What one of
+/// them comes to touches no other, except that a missing tool or an interruption ends all. Each
+/// tool is a process of its own.
+class Batch {
+public:
+    Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter)
+        : m_line(line)
+        , m_items(std::move(items))
+        , m_reporter(reporter)
+        // Encoders use several threads themselves: more jobs than cores only cost memory.
+        , m_jobs(static_cast<std::size_t>(line.jobs > 0 ? line.jobs : QThread::idealThreadCount()))
+    {
+        m_sum.all = m_items.size();
+        for (const ConversionItem &item : m_items) {
+            m_others.sources.add(item.input.path);
+            m_others.otherResults << item.destPath;
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Batch)
+
+    /// An event loop runs inside.
+    [[nodiscard]] ExitCode run(const Interruption &interruption)
+    {
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &m_loop, [this] { report(); });
+        QObject::connect(&interruption, &Interruption::arrived, &m_loop, [this] { goOn(); });
+        timer.start(m_reporter.interval());
+        m_clock.start();
+        MainQueue::post([this] { goOn(); });
+        m_loop.exec();
+        if (Interruption::signal() != 0 && (m_isCancelled || m_sum.ended() < m_sum.all))
+            m_code = ExitCode::Cancelled;
+        // Those that stayed empty go; the others stay.
+        for (const QString &folder : std::as_const(m_madeFolders))
+            QDir().rmdir(folder);
+        if (m_sum.all > 1)
+            m_reporter.summedUp(m_sum);
+        return m_code;
+    }
+
+private:
+    struct Video {
+        const ConversionItem *item;
+        JSON info;
+        bool replaces;
+        std::shared_ptr<Progress> progress = {};
+        QElapsedTimer clock = {};
+        SteadyTime steadyTime = {};
+        qint64 told = -1;
+    };
+
+    void goOn()
+    {
+        if (Interruption::signal() != 0)
+            stop();
+        while (!m_isStopped && m_running.size() < m_jobs && !m_ready.empty()) {
+            start(std::move(m_ready.front()));
+            m_ready.pop_front();
+        }
+        while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
+            examine(m_items[m_next++]);
+        // Who was interrupted does not wait for examinations.
+        const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
+        if (m_running.empty() && (m_isStopped || !isWaiting))
+            m_loop.quit();
+    }
+
+    [[nodiscard]] ConversionJob jobOf(const Video &video) const
+    {
+        return { video.item->input.path, video.item->destPath, m_line.entries.front(), video.info };
+    }
+
+    [[nodiscard]] std::optional<Outcome> refusalOfDestination(const ConversionItem &item) const
+    {
+        Destination destination = m_others;
+        destination.path = item.destPath;
+        destination.overwrite = m_line.overwrite || m_line.skipExisting;
+        return refusalOf(destination);
+    }
+
+    void examine(const ConversionItem &item)
+    {
+        if (!item.input.isFound) {
+            if (const auto refusal = refusalOfDestination(item))
+                return settle(item, *refusal);
+        }
+        ++m_examining;
+        FFMPEG::collectMovieInfo(
+            item.input.path,
+            [this, &item](const Outcome &refusal) {
+                --m_examining;
+                // The same Ctrl-C may have stopped the tool: its refusal says nothing about the
+                // video.
+                if (Interruption::signal() == 0)
+                    settle(item, refusal);
+                goOn();
+            },
+            [this, &item](const JSON &info, const QImage &, const QString &) {
+                --m_examining;
+                if (!m_isStopped)
+                    wasExamined(item, info);
+                goOn();
+            },
+            Cover::LeftOut);
+    }
+
+    void wasExamined(const ConversionItem &item, const JSON &info)
+    {
+        if (item.input.isFound) {
+            if (!isVideoOrMusic(info))
+                return settle(item, { Reason::NotMedia });
+            makeFolder(Path::stringByDeletingLastPathComponent(item.destPath));
+            if (const auto refusal = refusalOfDestination(item))
+                return settle(item, *refusal);
+        }
+        const Video video{ &item, info, m_line.overwrite };
+        if (m_line.skipExisting && QFileInfo::exists(item.destPath))
+            checkExisting(video);
+        else
+            m_ready.push_back(video);
+    }
+
+    /// The results' tree is made as far as it is needed.
+    void makeFolder(const QString &path)
+    {
+        if (path.isEmpty() || QFileInfo::exists(path))
+            return;
+        makeFolder(Path::stringByDeletingLastPathComponent(path));
+        if (QDir().mkdir(path))
+            m_madeFolders.prepend(path);
+    }
+
+    void checkExisting(const Video &video)
+    {
+        ++m_examining;
+        Async::background([this, video, looking = m_looking, job = jobOf(video)] {
+            const bool isWhole = holdsWholeResult(job, *looking);
+            MainQueue::post([this, video, isWhole] {
+                --m_examining;
+                if (isWhole) {
+                    ++m_sum.skipped;
+                    m_reporter.skipped(*video.item);
+                } else {
+                    m_ready.push_back({ video.item, video.info, true });
+                }
+                goOn();
+            });
+        });
+    }
+
+    void start(Video video)
+    {
+        m_reporter.started(*video.item);
+        video.clock.start();
+        video.progress = Conversion::start(jobOf(video),
+            video.replaces ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
+        video.progress->setEndHandler(
+            [this, item = video.item] { MainQueue::post([this, item] { hasEnded(*item); }); });
+        m_running.emplace(video.item, std::move(video));
+    }
+
+    void report()
+    {
+        std::vector<RunningSample> samples;
+        double fraction = 0;
+        for (auto &[item, video] : m_running) {
+            ProgressSample sample{ .completed = video.progress->completedUnitCount(),
+                .total = video.progress->totalUnitCount(),
+                .elapsed = std::chrono::milliseconds(video.clock.elapsed()) };
+            sample.left = video.steadyTime.shown(sample.secondsLeft());
+            fraction += video.progress->fractionCompleted();
+            samples.push_back({ *item, sample, video.told });
+        }
+        // What was skipped took no time and says nothing about the rest.
+        constexpr qint64 parts = 1000;
+        const auto done = static_cast<double>(m_sum.ended() - m_sum.skipped) + fraction;
+        ProgressSample whole{ .completed = static_cast<qint64>(done * static_cast<double>(parts)),
+            .total = static_cast<qint64>(m_sum.all - m_sum.skipped) * parts,
+            .elapsed = std::chrono::milliseconds(m_clock.elapsed()) };
+        whole.left = m_steadyTime.shown(whole.secondsLeft());
+        m_reporter.progressed(samples, m_sum, whole);
+    }
+
+    void hasEnded(const ConversionItem &item)
+    {
+        const auto node = m_running.extract(&item);
+        const Video &video = node.mapped();
+        const Outcome outcome = outcomeOf(*video.progress);
+        if (outcome.isDone()) {
+            ++m_sum.converted;
+            ConversionJob job = jobOf(video);
+            for (const Remedy remedy : outcome.remedies)
+                job = remedied(job, remedy);
+            m_reporter.converted(item,
+                { .outcome = outcome,
+                    .work = plannedWork(job.constraints, job.conversionInfo),
+                    .seconds = video.progress->totalUnitCount(),
+                    .elapsed = std::chrono::milliseconds(video.clock.elapsed()) });
+        } else {
+            settle(item, outcome);
+        }
+        goOn();
+    }
+
+    void settle(const ConversionItem &item, const Outcome &outcome)
+    {
+        if (isLeftOut(item.input, outcome)) {
+            --m_sum.all;
+            return m_reporter.leftOut(item, outcome);
+        }
+        const OutcomeKind kind = kindOf(outcome);
+        ++m_sum.failed;
+        m_isCancelled |= kind == OutcomeKind::Cancelled;
+        m_reporter.failed(item, outcome);
+        const QString &file
+            = kind == OutcomeKind::DestinationRefused ? item.destPath : item.input.name;
+        const ExitCode code = Output::failure(file, outcome);
+        for (const QString &remark : remarksOn(outcome))
+            Output::errorLine(printable(file + u": "_s + remark));
+        if (!m_firstFailed || &item < m_firstFailed) {
+            m_firstFailed = &item;
+            m_code = code;
+        }
+        // The other videos have no better chance.
+        if (kind == OutcomeKind::ToolMissing)
+            stop();
+    }
+
+    void stop()
+    {
+        m_isStopped = true;
+        m_ready.clear();
+        m_looking->cancel();
+        for (const auto &[item, video] : m_running)
+            video.progress->cancel();
+    }
+
+    const CommandLine &m_line;
+    const std::vector<ConversionItem> m_items;
+    Reporter &m_reporter;
+    Destination m_others;
+    std::size_t m_jobs;
+    QEventLoop m_loop;
+    QElapsedTimer m_clock;
+    SteadyTime m_steadyTime;
+
+    std::size_t m_next = 0;
+    std::size_t m_examining = 0;
+    std::deque<Video> m_ready;
+    std::map<const ConversionItem *, Video> m_running;
+    bool m_isStopped = false;
+    bool m_isCancelled = false;
+    /// Inner ones first.
+    QStringList m_madeFolders;
+    /// Cancels looks at existing results.
+    std::shared_ptr<Progress> m_looking = std::make_shared<Progress>(-1);
+    BatchSum m_sum;
+    /// The first video, in their order, that was not converted decides the exit status.
+    const ConversionItem *m_firstFailed = nullptr;
+    ExitCode m_code = ExitCode::Done;
+};
+
+}
 
 ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
 {

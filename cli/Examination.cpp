@@ -24,8 +24,7 @@ std::variant<VideoDescription, Outcome> examined(
     FFMPEG::collectMovieInfo(
         path, [finish](const Outcome &refusal) { finish(refusal); },
         [finish](const JSON &info, const QImage &image, const QString &duration) {
-            const auto size = image.isNull() ? std::nullopt : std::optional(image.size());
-            finish(VideoDescription{ .info = info, .duration = duration, .cover = size });
+            finish(VideoDescription{ info, duration, image.size() });
         },
         cover);
     if (Interruption::signal() == 0)

@@ -7,7 +7,6 @@
 
 #include <QSize>
 
-#include <optional>
 #include <variant>
 
 class Interruption;
@@ -15,10 +14,10 @@ class Interruption;
 struct VideoDescription {
     JSON info;
     QString duration;
-    std::optional<QSize> cover;
+    /// Empty without one.
+    QSize cover;
 };
 
-/// Examines a video and waits for the result or an interruption. Thread: main; an event loop runs
-/// inside.
+/// Waits for the result or an interruption. Thread: main; an event loop runs inside.
 [[nodiscard]] std::variant<VideoDescription, Outcome> examined(
     const QString &path, Cover cover, Interruption &interruption);

@@ -3,7 +3,6 @@
 #include "cli/arguments/EntryName.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
-#include "planning/ConversionDescriptor.h"
 #include "support/Localized.h"
 
 #include <QJsonArray>
@@ -38,8 +37,7 @@ std::optional<qint64> longestSide(const VideoConstraints &entry)
 
 QString plainLine(const VideoConstraints &entry)
 {
-    QString text
-        = u"  "_s + leftJustified(entry.destDevice, 36) + conversionDescriptor(entry.format).ext;
+    QString text = u"  "_s + leftJustified(entry.destDevice, 36) + extensionOf(entry);
     if (const auto side = longestSide(entry))
         text = leftJustified(text, 44) + u"<= %1 px"_s.arg(*side, 4);
     return text;
@@ -49,7 +47,7 @@ QJsonObject jsonEntry(const VideoConstraints &entry, QLatin1StringView group)
 {
     const auto side = longestSide(entry);
     return { { u"name"_s, entry.destDevice }, { u"group"_s, group },
-        { u"extension"_s, conversionDescriptor(entry.format).ext },
+        { u"extension"_s, extensionOf(entry) },
         { u"maximum"_s, side ? QJsonValue(*side) : QJsonValue() } };
 }
 
@@ -61,8 +59,7 @@ ExitCode listFormats(const CommandLine &line, Interruption & /*interruption*/)
     for (const Group &group : groups) {
         if (!line.json)
             Output::line(localized(group.heading));
-        for (const QString &name : entryNames(group.group)) {
-            const VideoConstraints entry = entryMeant(name).value();
+        for (const VideoConstraints &entry : allEntries(group.group)) {
             if (line.json)
                 list << jsonEntry(entry, group.id);
             else

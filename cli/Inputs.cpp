@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Inputs.h"
 
-#include "planning/ConversionDescriptor.h"
+#include "cli/arguments/EntryName.h"
 #include "support/Path.h"
 #include "support/StandardInput.h"
 
@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +47,7 @@ bool isInShard(const QString &name, const Shard &shard)
 /// Any other file of the output's format is a video like the rest.
 void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
-    const QString extension = conversionDescriptor(line.entries.front().format).ext;
+    const QString extension = extensionOf(line.entries.front());
     std::vector<Input> sources = inputs;
     std::erase_if(
         sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
@@ -68,27 +69,13 @@ std::vector<Input> inputsIn(const CommandLine &line)
          files.hasNext();) {
         const QString name = files.next();
         const QString path = absolutePath(name);
-        const bool isBelow = results.size() > root.size() && path.startsWith(results);
-        const QString subfolder = Path::stringByDeletingLastPathComponent(path.sliced(root.size()));
-        if (!isBelow)
-            inputs.push_back(
-                { .name = name, .path = path, .subfolder = subfolder, .isFound = true });
+        const bool isResult = results.size() > root.size() && path.startsWith(results);
+        if (!isResult)
+            inputs.push_back({ .name = name, .path = path, .isFound = true });
     }
     dropEarlierResults(inputs, line);
     std::ranges::sort(inputs, {}, &Input::path);
     return inputs;
-}
-
-std::optional<QStringList> namesIn(const CommandLine &line)
-{
-    const auto bytes = StandardInput::contentsOf(line.list, listLimit);
-    if (!bytes)
-        return std::nullopt;
-    QStringList names;
-    for (const QByteArray &name : bytes->split(line.listIsNullSeparated ? '\0' : '\n'))
-        names << QFile::decodeName(name);
-    names.removeAll(QString());
-    return names;
 }
 
 }
@@ -97,10 +84,13 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
 {
     QStringList names = line.inputs;
     if (!line.list.isEmpty()) {
-        const auto listed = namesIn(line);
-        if (!listed)
+        const auto list = StandardInput::contentsOf(line.list, listLimit);
+        if (!list)
             return InputRefusal{ line.list, { Reason::ListNotReadable } };
-        names += *listed;
+        for (const QByteArray &name : list->split(line.listIsNullSeparated ? '\0' : '\n')) {
+            if (!name.isEmpty())
+                names << QFile::decodeName(name);
+        }
     }
     std::vector<Input> inputs;
     for (const QString &name : names)
@@ -112,11 +102,8 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
         const std::vector<Input> found = inputsIn(line);
         inputs.insert(inputs.end(), found.begin(), found.end());
     }
-    QSet<QString> known;
-    std::erase_if(inputs, [&](const Input &input) {
-        const qsizetype before = known.size();
-        return known.insert(input.path), known.size() == before;
-    });
+    std::set<QString> known;
+    std::erase_if(inputs, [&](const Input &input) { return !known.insert(input.path).second; });
     return inputs;
 }
 
@@ -132,16 +119,18 @@ std::vector<ConversionItem> conversionItems(
         const Input &input = inputs[index];
         return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
     });
-    const QString ext = conversionDescriptor(line.entries.front().format).ext;
+    const QString ext = extensionOf(line.entries.front());
     const QString folder = absolutePath(line.folder + u'/');
+    const QString root = absolutePath(line.tree + u'/');
     QSet<QString> taken;
     std::vector<ConversionItem> items(inputs.size());
     for (const std::size_t index : order) {
         const Input &input = inputs[index];
+        // What was found keeps its place in the tree.
         const QString name
-            = Path::stringByDeletingPathExtension(Path::lastPathComponent(input.path));
-        const QString subfolder = input.subfolder.isEmpty() ? QString() : input.subfolder + u'/';
-        items[index] = { input, uniquePath(folder + subfolder + name, ext, taken) };
+            = input.isFound ? input.path.sliced(root.size()) : Path::lastPathComponent(input.path);
+        items[index]
+            = { input, uniquePath(folder + Path::stringByDeletingPathExtension(name), ext, taken) };
     }
     std::erase_if(
         items, [&](const ConversionItem &item) { return !isInShard(item.input.name, line.shard); });

@@ -7,19 +7,15 @@
 #include <variant>
 #include <vector>
 
-/// A file to convert.
 struct Input {
     /// As the user wrote it, or found below a folder that the user named.
     QString name;
     /// Absolute.
     QString path;
-    /// Where it lies below that folder: "" or "a/b".
-    QString subfolder = {};
     /// Found, not named: what is no video is left out without a word.
     bool isFound = false;
 };
 
-/// An input with the absolute path of its result.
 struct ConversionItem {
     Input input;
     QString destPath;

@@ -10,6 +10,7 @@
 #include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/StandardInput.h"
+#include "support/Text.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -33,31 +34,22 @@ std::variant<JSON, Outcome> savedInfo(const QString &name)
     return inner.value().isObject() ? inner : json;
 }
 
-/// The arguments for a video and its result, or without them only those that depend on the video.
-QStringList plannedArguments(
-    const ConversionItem *item, const VideoConstraints &entry, const JSON &info)
-{
-    if (item)
-        return conversionArguments({ .path = item->input.path,
-            .destPath = item->destPath,
-            .constraints = entry,
-            .conversionInfo = info });
-    return conversionDescriptor(entry.format)
-        .ffmpegArguments(QString(), QString(), info, entry.dimension);
-}
-
+/// Without an item only the arguments that depend on the video.
 void print(const CommandLine &line, const ConversionItem *item, const JSON &info)
 {
-    const QStringList tool = item ? QStringList{ toolPath(Tool::Ffmpeg) } : QStringList();
     QJsonObject object;
     for (const VideoConstraints &entry : line.entries) {
-        const QStringList arguments = plannedArguments(item, entry, info);
-        object[entry.destDevice] = QJsonArray::fromStringList(arguments);
+        QStringList words = item
+            ? conversionArguments({ item->input.path, item->destPath, entry, info })
+            : conversionDescriptor(entry.format).ffmpegArguments({}, {}, info, entry.dimension);
+        object[entry.destDevice] = QJsonArray::fromStringList(words);
         if (line.json)
             continue;
+        if (item)
+            words.prepend(toolPath(Tool::Ffmpeg));
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(shellQuoted(tool + arguments));
+        Output::line(Text::shellQuoted(words));
     }
     if (line.json)
         Output::json(QJsonDocument(object), QJsonDocument::Indented);

@@ -4,7 +4,6 @@
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
-#include "support/Format.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
 
@@ -14,15 +13,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QJsonObject jsonOf(const VideoDescription &video)
+QJsonObject jsonOf(const QString &path, const VideoDescription &video)
 {
     const double seconds = video.info[u"format"_s][u"duration"_s].stringValue().toDouble();
     QJsonValue cover;
-    if (video.cover)
-        cover = QJsonObject{ { u"width"_s, video.cover->width() },
-            { u"height"_s, video.cover->height() } };
-    return { { u"info"_s, video.info.value() }, { u"duration"_s, video.duration },
-        { u"seconds"_s, static_cast<qint64>(seconds) }, { u"cover"_s, cover } };
+    if (!video.cover.isEmpty())
+        cover = QJsonObject{ { u"width"_s, video.cover.width() },
+            { u"height"_s, video.cover.height() } };
+    return { { u"input"_s, path }, { u"info"_s, video.info.value() },
+        { u"duration"_s, video.duration }, { u"seconds"_s, static_cast<qint64>(seconds) },
+        { u"cover"_s, cover } };
 }
 
 /// Such as "video, h264, 1920 x 1080" or "audio, aac, 48000 Hz, 2 channels".
@@ -60,7 +60,8 @@ void printText(const VideoDescription &video)
     const QString none
         = localized(QT_TRANSLATE_NOOP3("Localizable", "none", "A video has no cover picture"));
     printField(QT_TRANSLATE_NOOP3("Localizable", "Cover", "Property of a video"),
-        video.cover ? u"%1 x %2"_s.arg(video.cover->width()).arg(video.cover->height()) : none);
+        video.cover.isEmpty() ? none
+                              : u"%1 x %2"_s.arg(video.cover.width()).arg(video.cover.height()));
 }
 
 }
@@ -80,10 +81,8 @@ ExitCode probeVideos(const CommandLine &line, Interruption &interruption)
         }
         const auto &video = std::get<VideoDescription>(result);
         if (line.json) {
-            QJsonObject object = jsonOf(video);
-            object[u"input"_s] = absolutePath(name);
-            Output::json(
-                QJsonDocument(object), isOne ? QJsonDocument::Indented : QJsonDocument::Compact);
+            Output::json(QJsonDocument(jsonOf(absolutePath(name), video)),
+                isOne ? QJsonDocument::Indented : QJsonDocument::Compact);
             continue;
         }
         if (!isOne)

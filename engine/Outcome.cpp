@@ -2,7 +2,6 @@
 #include "engine/Outcome.h"
 
 #include "support/DurationInfo.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 

@@ -9,20 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr auto localizationSuffix = ".lproj"_L1;
-
-QString mainBundlePath()
-{
-    const QFileInfo executable(
-        QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath());
-    const QString folder = executable.path();
-    return folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder;
-}
-
-}
-
 Bundle::Bundle(QString bundlePath)
     : m_bundlePath(std::move(bundlePath))
 {
@@ -30,7 +16,10 @@ Bundle::Bundle(QString bundlePath)
 
 const Bundle &Bundle::main()
 {
-    static const Bundle bundle(mainBundlePath());
+    static const Bundle bundle = [] {
+        const QString folder = QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath();
+        return Bundle(folder.endsWith("/Contents/MacOS"_L1) ? folder.chopped(15) : folder);
+    }();
     return bundle;
 }
 
@@ -53,16 +42,12 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 
 QStringList Bundle::localizations() const
 {
-    const QDir resources(m_bundlePath + "/Contents/Resources"_L1);
-    QStringList languages;
-    for (const QString &folder : resources.entryList(QDir::Dirs, QDir::Name)) {
-        if (folder.endsWith(localizationSuffix))
-            languages << folder.chopped(localizationSuffix.size());
-    }
-    return languages;
+    return QDir(m_bundlePath + "/Contents/Resources"_L1)
+        .entryList({ u"*.lproj"_s }, QDir::Dirs, QDir::Name)
+        .replaceInStrings(u".lproj"_s, QString());
 }
 
 QString Bundle::localizationPath(const QString &language) const
 {
-    return m_bundlePath + "/Contents/Resources/"_L1 + language + localizationSuffix;
+    return m_bundlePath + "/Contents/Resources/"_L1 + language + ".lproj"_L1;
 }

@@ -8,16 +8,13 @@ namespace {
 
 std::mutex sinkMutex;
 
-void printToStandardOutput(const QString &line)
-{
-    const QByteArray bytes = line.toUtf8() + '\n';
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
-    std::fflush(stdout);
-}
-
 Console::Sink &currentSink()
 {
-    static Console::Sink sink = printToStandardOutput;
+    static Console::Sink sink = [](const QString &line) {
+        const QByteArray bytes = line.toUtf8() + '\n';
+        std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+        std::fflush(stdout);
+    };
     return sink;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/DurationInfo.h"
 
-#include "support/Format.h"
 #include "support/Localized.h"
 
 DurationInfo::DurationInfo(qint64 seconds)

@@ -14,8 +14,7 @@
 /// The files that some paths lead to now, through links, "..", or other letter case too.
 class FileIds {
 public:
-    FileIds() = default;
-    FileIds(std::initializer_list<QString> paths);
+    FileIds(std::initializer_list<QString> paths = {});
     void add(const QString &path);
     [[nodiscard]] bool contains(const QString &path) const;
 

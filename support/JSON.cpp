@@ -51,16 +51,13 @@ JSON JSON::operator[](const QString &key) const
 std::vector<JSON> JSON::array() const
 {
     const QJsonArray values = m_value.toArray();
-    std::vector<JSON> elements(values.begin(), values.end());
-    return elements;
+    return { values.begin(), values.end() };
 }
 
 std::optional<QString> JSON::string() const
 {
     return m_value.isString() ? std::optional(m_value.toString()) : std::nullopt;
 }
-
-QString JSON::stringValue() const { return m_value.toVariant().toString(); }
 
 std::optional<qint64> JSON::integer() const
 {

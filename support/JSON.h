@@ -18,7 +18,7 @@ public:
     [[nodiscard]] JSON operator[](const QString &key) const;
     [[nodiscard]] std::vector<JSON> array() const;
     [[nodiscard]] std::optional<QString> string() const;
-    [[nodiscard]] QString stringValue() const;
+    [[nodiscard]] QString stringValue() const { return m_value.toVariant().toString(); }
     /// The value if it is a number, cut toward zero; absent outside the signed 64-bit range.
     [[nodiscard]] std::optional<qint64> integer() const;
     /// As integer(), also of text that begins with a number and of flags; 0 otherwise.

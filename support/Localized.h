@@ -5,9 +5,10 @@
 #include <QString>
 
 #include <optional>
+#include <variant>
+#include <vector>
 
-/// A text of the string table, written with QT_TRANSLATE_NOOP3("Localizable", key, comment) for the
-/// translators' tools.
+/// A text of the string table, written with QT_TRANSLATE_NOOP3("Localizable", key, comment).
 struct LocalizedText {
     const char *key;
     const char *comment;
@@ -17,6 +18,16 @@ struct LocalizedText {
 [[nodiscard]] QString localized(const LocalizedText &text);
 /// With the English text of a key that is not that text itself.
 [[nodiscard]] QString localized(const LocalizedText &text, const char *english);
+
+using FormatArgument = std::variant<qint64, QString>;
+
+/// Fills %d, %i, %u, %s and %@ of a format, also with flags, widths, length letters and positions
+/// as in %2$d. Numbers get the digits of the user's locale. A directive without an argument prints
+/// nothing; an unknown one stays. Thread: any.
+[[nodiscard]] QString formatted(
+    const QString &format, const std::vector<FormatArgument> &arguments);
+[[nodiscard]] QString formatted(
+    const LocalizedText &format, const std::vector<FormatArgument> &arguments);
 
 /// Such as "de"; absent for a locale without a language. Thread: any.
 [[nodiscard]] std::optional<QString> languageCode();

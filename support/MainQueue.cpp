@@ -5,23 +5,7 @@
 #include <QThread>
 #include <QTimer>
 
-namespace {
-
-// The library counts a timer's milliseconds in 32 bits.
-constexpr std::chrono::milliseconds longestTimer = std::chrono::hours(24);
-
-void runAfter(std::chrono::milliseconds wait, const std::function<void()> &block)
-{
-    const std::chrono::milliseconds step = std::min(wait, longestTimer);
-    QTimer::singleShot(step, Qt::PreciseTimer, QCoreApplication::instance(), [wait, step, block] {
-        if (wait > step)
-            runAfter(wait - step, block);
-        else
-            block();
-    });
-}
-
-}
+#include <algorithm>
 
 namespace MainQueue {
 
@@ -33,10 +17,12 @@ void post(std::function<void()> block)
 
 void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)
 {
-    using std::chrono::milliseconds;
-    const auto wait
-        = std::chrono::ceil<milliseconds>(std::max(delay, std::chrono::nanoseconds::zero()));
-    post([wait, block = std::move(block)] { runAfter(wait, block); });
+    using namespace std::chrono;
+    // The library counts a timer's milliseconds in 32 bits.
+    const auto wait = std::clamp(ceil<milliseconds>(delay), 0ms, milliseconds(days(24)));
+    post([wait, block = std::move(block)] {
+        QTimer::singleShot(wait, Qt::PreciseTimer, QCoreApplication::instance(), block);
+    });
 }
 
 bool isMainThread()

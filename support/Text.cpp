@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace Text {
 
-qint64 length(QStringView text) { return text.size(); }
-
 qsizetype characterCount(QStringView text)
 {
     // The boundary finder is slow, and nearly all tool output is plain; only "\r\n" joins two ASCII
@@ -44,8 +42,6 @@ qint64 asInt(QStringView text)
     return std::ranges::all_of(text, isPart) ? text.toLongLong() : 0;
 }
 
-qint64 asInt64(QStringView text) { return asInt(text); }
-
 QString stringValue(const QByteArray &bytes)
 {
     // Bytes that are no UTF-8 hold one above 0x7F, so decoding them as ASCII fails as well.
@@ -53,6 +49,16 @@ QString stringValue(const QByteArray &bytes)
         QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decoder(bytes);
     return decoder.hasError() ? QString() : text;
+}
+
+QString shellQuoted(QStringList words)
+{
+    static const QRegularExpression harmless(uR"(\A[A-Za-z0-9_@%+=:,./-]+\z)"_s);
+    for (QString &word : words) {
+        if (!harmless.match(word).hasMatch())
+            word = u'\'' + word.replace(u'\'', uR"('\'')"_s) + u'\'';
+    }
+    return words.join(u' ');
 }
 
 }

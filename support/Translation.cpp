@@ -34,13 +34,13 @@ QString install(const Bundle &bundle)
     const QString set = Preferences::language();
     const QStringList wanted = set.isEmpty() ? QLocale::system().uiLanguages() : QStringList(set);
     QString chosen = language(wanted, bundle.localizations());
-    auto *toolkit = new QTranslator(QCoreApplication::instance());
-    if (toolkit->load(QLocale(chosen), u"qtbase"_s, u"_"_s,
-            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(toolkit);
-    auto *ours = new QTranslator(QCoreApplication::instance());
-    if (ours->load(bundle.localizationPath(chosen) + u"/video-converter.qm"_s))
-        QCoreApplication::installTranslator(ours);
+    const auto load = [](const auto &...file) {
+        auto *translator = new QTranslator(QCoreApplication::instance());
+        if (translator->load(file...))
+            QCoreApplication::installTranslator(translator);
+    };
+    load(QLocale(chosen), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    load(bundle.localizationPath(chosen) + u"/video-converter.qm"_s);
     return chosen;
 }
 

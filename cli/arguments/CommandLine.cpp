@@ -3,9 +3,7 @@
 
 #include "cli/arguments/EntryName.h"
 #include "cli/report/ShownText.h"
-#include "planning/ConversionDescriptor.h"
 #include "support/Configuration.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QCommandLineParser>
@@ -19,13 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::optional<Verb> verbNamed(const QString &name)
-{
-    const auto *const found = std::find(verbNames.begin(), verbNames.end(), name);
-    return found == verbNames.end() ? std::nullopt
-                                    : std::optional(static_cast<Verb>(found - verbNames.begin()));
-}
-
 UsageText usageError(const QString &message)
 {
     const QString hint = localized(QT_TRANSLATE_NOOP3("Localizable",
@@ -37,14 +28,6 @@ UsageText usageError(
     const LocalizedText &message, const std::vector<FormatArgument> &arguments = {})
 {
     return usageError(formatted(message, arguments));
-}
-
-std::vector<VideoConstraints> entriesNamed(const QString &name, Verb verb)
-{
-    if (verb == Verb::Plan && name == "all"_L1)
-        return allEntries();
-    const auto entry = entryMeant(name);
-    return entry ? std::vector{ *entry } : std::vector<VideoConstraints>();
 }
 
 UsageText unknownEntry(const QString &name)
@@ -61,16 +44,16 @@ UsageText unknownEntry(const QString &name)
         { printable(name) });
 }
 
-std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, Verb verb)
+std::optional<UsageText> wrongOptions(const QCommandLineParser &parser, const VerbRow &verb)
 {
     for (const OptionRow &row : optionRows) {
         if (!parser.isSet(row.name))
             continue;
-        if (!row.isTakenBy(verb))
+        if (!row.isTakenBy(verb.verb))
             return usageError(
                 QT_TRANSLATE_NOOP3("Localizable", "'%@' does not take --%@.",
                     "Command line: a command and an option that does not belong to it"),
-                { QString(verbNames.at(static_cast<std::size_t>(verb))), QString(row.name) });
+                { QString(verb.name), QString(row.name) });
         const QStringList values = parser.values(row.name);
         if (!row.value.isEmpty() && (values.size() > 1 || values.contains(QString())))
             return usageError(QT_TRANSLATE_NOOP3("Localizable", "--%@ needs one value.",
@@ -130,21 +113,20 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
                               "\"%@\" is no name for \"%@\", which makes .%@ files.",
                               "Command line: name of a result, name of an output, its extension"),
             { printable(line.output), line.entries.front().destDevice,
-                conversionDescriptor(line.entries.front().format).ext });
+                extensionOf(line.entries.front()) });
     return std::nullopt;
 }
 
-bool takesEntry(Verb verb) { return verb == Verb::Plan || verb == Verb::Convert; }
-
 CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 {
+    const QString entry = parser.value(u"to"_s);
     return { .verb = verb,
         .json = parser.isSet(u"json"_s),
         .quiet = parser.isSet(u"quiet"_s),
         .verbose = parser.isSet(u"verbose"_s),
         .overwrite = parser.isSet(u"overwrite"_s),
         .skipExisting = parser.isSet(u"skip-existing"_s),
-        .entries = entriesNamed(parser.value(u"to"_s), verb),
+        .entries = verb == Verb::Plan && entry == "all"_L1 ? allEntries() : entryMeant(entry),
         .inputs = parser.positionalArguments().mid(1),
         .tree = parser.value(u"recursive"_s),
         .list = parser.value(u"files-from"_s),
@@ -158,32 +140,31 @@ CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 bool readNumbers(const QCommandLineParser &parser, CommandLine &line)
 {
     static const QRegularExpression shard(uR"(\A(\d{1,6})/(\d{1,6})\z)"_s);
-    if (parser.isSet(u"jobs"_s)) {
-        bool isNumber = false;
+    bool isNumber = true;
+    if (parser.isSet(u"jobs"_s))
         line.jobs = parser.value(u"jobs"_s).toInt(&isNumber);
-        if (!isNumber || line.jobs < 0 || line.jobs > 1000)
-            return false;
-    }
     if (parser.isSet(u"shard"_s)) {
         const auto match = shard.match(parser.value(u"shard"_s));
         line.shard = { match.captured(1).toInt(), match.captured(2).toInt() };
-        return line.shard.part >= 1 && line.shard.part <= line.shard.parts;
     }
-    return true;
+    return isNumber && line.jobs >= 0 && line.jobs <= 1000 && line.shard.part >= 1
+        && line.shard.part <= line.shard.parts;
 }
 
-std::variant<CommandLine, UsageText> checkedLine(const QCommandLineParser &parser, Verb verb)
+std::variant<CommandLine, UsageText> checkedLine(
+    const QCommandLineParser &parser, const VerbRow &verb)
 {
     if (const auto wrong = wrongOptions(parser, verb))
         return *wrong;
-    CommandLine line = readLine(parser, verb);
+    CommandLine line = readLine(parser, verb.verb);
     if (!readNumbers(parser, line))
         return usageError(QT_TRANSLATE_NOOP3("Localizable",
             "--jobs takes a number, --shard two such as 2/8.", "Command line: wrong usage"));
-    if (takesEntry(verb) && !parser.isSet(u"to"_s))
+    const bool takesEntry = line.verb == Verb::Plan || line.verb == Verb::Convert;
+    if (takesEntry && !parser.isSet(u"to"_s))
         return usageError(QT_TRANSLATE_NOOP3(
             "Localizable", "--to NAME is missing.", "Command line: wrong usage"));
-    if (takesEntry(verb) && line.entries.empty())
+    if (takesEntry && line.entries.empty())
         return unknownEntry(parser.value(u"to"_s));
     if (const auto wrong = wrongInputs(line))
         return *wrong;
@@ -204,16 +185,17 @@ std::variant<CommandLine, UsageText> parsedCommandLine(const QStringList &argume
     }
     const bool understood = parser.parse(arguments);
     const QString name = parser.positionalArguments().value(0);
-    const std::optional<Verb> verb = verbNamed(name);
+    const auto *const verb = std::ranges::find(verbRows, name, &VerbRow::name);
+    const bool isKnown = verb != verbRows.end();
     if (parser.isSet(u"help"_s))
-        return UsageText{ .text = verb ? Help::of(*verb) : Help::general() };
+        return UsageText{ .text = isKnown ? helpOn(*verb) : generalHelp() };
     if (parser.isSet(u"version"_s))
         return UsageText{ .text = u"video-converter-cli "_s + Configuration::version() };
     if (!understood)
         return usageError(printable(parser.errorText()));
     if (name.isEmpty())
-        return UsageText{ .code = ExitCode::Usage, .text = Help::general() };
-    if (!verb)
+        return UsageText{ .code = ExitCode::Usage, .text = generalHelp() };
+    if (!isKnown)
         return usageError(QT_TRANSLATE_NOOP3("Localizable", "There is no command named \"%@\".",
                               "Command line: wrong usage"),
             { printable(name) });

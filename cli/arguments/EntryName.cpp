@@ -4,59 +4,55 @@
 #include "planning/ConversionDescriptor.h"
 #include "support/Path.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-namespace {
 
 QString extensionOf(const VideoConstraints &entry)
 {
     return conversionDescriptor(entry.format).ext;
 }
 
-}
-
-std::vector<VideoConstraints> allEntries()
+std::vector<VideoConstraints> allEntries(std::optional<MenuGroup> group)
 {
     std::vector<VideoConstraints> entries;
-    for (const QString &name : entryNames())
+    for (const QString &name : entryNames(group))
         entries.push_back(
             *videoConstraints(name, u"audio"_s, u"MP4 Low Quality"_s, u"MP4 Medium Quality"_s));
     return entries;
 }
 
-std::optional<VideoConstraints> entryMeant(const QString &text)
+std::vector<VideoConstraints> entryMeant(const QString &text)
 {
-    const auto entries = allEntries();
-    const QStringList plainFormats = entryNames(MenuGroup::Formats);
-    const auto isNamed = [&](const VideoConstraints &entry) {
-        return entry.destDevice.compare(text, Qt::CaseInsensitive) == 0;
-    };
-    const auto hasExtension = [&](const VideoConstraints &entry) {
-        return plainFormats.contains(entry.destDevice)
-            && extensionOf(entry).compare(text, Qt::CaseInsensitive) == 0;
-    };
-    auto found = std::ranges::find_if(entries, isNamed);
-    if (found == entries.end())
-        found = std::ranges::find_if(entries, hasExtension);
-    return found == entries.end() ? std::nullopt : std::optional(*found);
+    const auto isMeant
+        = [&](const QString &name) { return name.compare(text, Qt::CaseInsensitive) == 0; };
+    for (const VideoConstraints &entry : allEntries()) {
+        if (isMeant(entry.destDevice))
+            return { entry };
+    }
+    for (const VideoConstraints &entry : allEntries(MenuGroup::Formats)) {
+        if (isMeant(extensionOf(entry)))
+            return { entry };
+    }
+    return {};
 }
 
 QStringList namesNear(const QString &text)
 {
+    const QStringList names = entryNames();
     // The whole text, then any word of it, then how it begins.
     const QStringList words = QString(text).replace(u'_', u' ').replace(u'-', u' ').split(u' ');
     for (const QString &part : QStringList{ text } + words + QStringList{ text.left(3) }) {
-        QStringList near = entryNames().filter(part, Qt::CaseInsensitive);
+        QStringList near = names.filter(part, Qt::CaseInsensitive);
         if (part.size() > 1 && !near.isEmpty() && near.size() < 12)
             return near;
     }
-    QStringList near = entryNames();
-    near.removeIf([&](const QString &name) {
-        return text.size() < 2 || !name.startsWith(text.first(2), Qt::CaseInsensitive);
-    });
-    return near;
+    const QString start = QRegularExpression::escape(text.left(2));
+    return text.size() < 2
+        ? QStringList()
+        : names.filter(QRegularExpression(u'^' + start, QRegularExpression::CaseInsensitiveOption));
 }
 
 bool promisesOtherFormat(const QString &path, const VideoConstraints &entry)

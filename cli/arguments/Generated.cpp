@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "cli/arguments/EntryName.h"
 #include "cli/arguments/Options.h"
+#include "planning/VideoConstraints.h"
 
 #include <QFile>
 
@@ -11,24 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList optionsOf(Verb verb, const auto &textOf)
-{
-    QStringList texts;
-    for (const OptionRow &row : optionRows) {
-        if (row.isTakenBy(verb))
-            texts << textOf(row);
-    }
-    return texts;
-}
-
 /// "convert) words='--to -o --output' ;;", one line for each command.
 QString cases(const QString &format, const QString &separator, const auto &textOf)
 {
     QString lines;
-    for (std::size_t verb = 0; verb < verbNames.size(); ++verb)
-        lines += format.arg(QString(verbNames.at(verb)),
-                     optionsOf(static_cast<Verb>(verb), textOf).join(separator))
-            + u'\n';
+    for (const VerbRow &row : verbRows)
+        lines += format.arg(row.name, optionTexts(textOf, row.verb).join(separator)) + u'\n';
     return lines;
 }
 
@@ -50,17 +38,12 @@ QString alternatives(ValueKind kind)
 
 QString english(const OptionRow &row) { return QString::fromUtf8(row.text.key); }
 
-QString manOptions()
+QString manOption(const OptionRow &row)
 {
-    QString text;
-    for (const OptionRow &row : optionRows) {
-        const QString words = spellings(row).replace(u'-', u"\\-"_s).replace(u' ', u"\\fR, \\fB"_s);
-        text += u".TP\n\\fB%1\\fR"_s.arg(words);
-        if (!row.value.isEmpty())
-            text += u" \\fI%1\\fR"_s.arg(row.value);
-        text += u'\n' + english(row).replace(u'-', u"\\-"_s).replace(u"'"_s, u"\\(aq"_s) + u".\n"_s;
-    }
-    return text.trimmed();
+    const QString words = spellings(row).replace(u'-', u"\\-"_s).replace(u' ', u"\\fR, \\fB"_s);
+    const QString value = row.value.isEmpty() ? QString() : u" \\fI%1\\fR"_s.arg(row.value);
+    const QString text = english(row).replace(u'-', u"\\-"_s).replace(u"'"_s, u"\\(aq"_s);
+    return u".TP\n\\fB%1\\fR%2\n%3."_s.arg(words, value, text);
 }
 
 /// "'(-o --output)'{-o,--output}'[the file to write]:OUT:_files'"
@@ -71,7 +54,7 @@ QString zshOption(const OptionRow &row)
         ":_files -/"_L1, ": "_L1 };
     QString action = actions.at(static_cast<std::size_t>(row.kind));
     if (row.kind != ValueKind::None)
-        action.prepend(u':' + row.value).replace(u"'"_s, uR"('\'')"_s);
+        action.prepend(u':' + row.value);
     const QString text = english(row)
                              .replace(u"'"_s, uR"('\'')"_s)
                              .replace(u':', uR"(\:)"_s)
@@ -87,17 +70,15 @@ QString fishOption(const OptionRow &row)
     // In the order of the kinds.
     constexpr std::array actions{ ""_L1, " -x -a '(__video_converter_names)'"_L1, " -r -F"_L1,
         " -x -a '(__fish_complete_directories)'"_L1, " -x"_L1 };
-    QString line = u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2"_s;
     QStringList verbs;
-    for (std::size_t verb = 0; verb < verbNames.size(); ++verb) {
-        if (row.takenBy.at(verb))
-            verbs << QString(verbNames.at(verb));
+    for (const VerbRow &each : verbRows) {
+        if (row.isTakenBy(each.verb))
+            verbs << each.name;
     }
-    line = line.arg(verbs.join(u' '), row.name);
-    if (!row.letter.isEmpty())
-        line += u" -s "_s + row.letter;
-    return line + actions.at(static_cast<std::size_t>(row.kind))
-        + u" -d '%1'"_s.arg(english(row).replace(u"'"_s, u"\\'"_s));
+    const QString letter = row.letter.isEmpty() ? QString() : u" -s "_s + row.letter;
+    return u"complete -c video-converter-cli -n '__fish_seen_subcommand_from %1' -l %2%3%4 -d '%5'"_s
+        .arg(verbs.join(u' '), row.name, letter, actions.at(static_cast<std::size_t>(row.kind)),
+            english(row).replace(u"'"_s, u"\\'"_s));
 }
 
 QString casesOf(const QString &shell)
@@ -109,9 +90,7 @@ QString casesOf(const QString &shell)
             u"        %1)\n            _arguments \\\n                %2 \\\n                "
             "'*:file:_files' ;;"_s,
             u" \\\n                "_s, zshOption);
-    QStringList lines;
-    std::ranges::transform(optionRows, std::back_inserter(lines), fishOption);
-    return lines.join(u'\n');
+    return optionTexts(fishOption).join(u'\n');
 }
 
 }
@@ -119,11 +98,12 @@ QString casesOf(const QString &shell)
 QString generatedText(const QString &name)
 {
     if (name == "man"_L1)
-        return manOptions();
+        return optionTexts(manOption).join(u'\n');
     QFile shell(u":/completion/"_s + name);
     if (!shell.open(QIODevice::ReadOnly))
         return {};
-    const QStringList verbs(verbNames.begin(), verbNames.end());
+    QStringList verbs;
+    std::ranges::transform(verbRows, std::back_inserter(verbs), &VerbRow::name);
     return QString::fromUtf8(shell.readAll().trimmed())
         .replace(u"%ENTRY%"_s, alternatives(ValueKind::Entry))
         .replace(u"%FOLDER%"_s, alternatives(ValueKind::Folder))

@@ -6,11 +6,43 @@
 #include <QLatin1StringView>
 
 #include <array>
+#include <optional>
 
 enum class Verb { Formats, Probe, Plan, Convert };
 
-inline constexpr std::array verbNames{ QLatin1StringView("formats"), QLatin1StringView("probe"),
-    QLatin1StringView("plan"), QLatin1StringView("convert") };
+struct VerbRow {
+    Verb verb;
+    QLatin1StringView name;
+    /// What stands after the program's name; lines of one usage each.
+    QLatin1StringView usage;
+    LocalizedText text;
+};
+
+inline constexpr std::array verbRows{
+    VerbRow{ Verb::Formats, QLatin1StringView("formats"), QLatin1StringView("formats [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Lists the outputs that --to takes: devices, formats and MP4 qualities.",
+            "Help: command formats") },
+    VerbRow{ Verb::Probe, QLatin1StringView("probe"), QLatin1StringView("probe FILE... [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Describes videos. With --json: everything that the tool reports (info), the length "
+            "(duration, seconds) and the size of the cover picture or null (cover).",
+            "Help: command probe") },
+    VerbRow{ Verb::Plan, QLatin1StringView("plan"),
+        QLatin1StringView(
+            "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Prints the tool's command line, quoted for a shell, without running it. --to all "
+            "prints one for each output.",
+            "Help: command plan") },
+    VerbRow{ Verb::Convert, QLatin1StringView("convert"),
+        QLatin1StringView("convert --to NAME (FILE -o OUT | FILE... -d FOLDER) [OPTIONS]\n"
+                          "convert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"),
+        QT_TRANSLATE_NOOP3("Localizable",
+            "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins "
+            "with a dash goes after --.",
+            "Help: command convert") },
+};
 
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
@@ -54,12 +86,19 @@ inline constexpr std::array optionRows {
 };
 // clang-format on
 
-namespace Help {
-
-[[nodiscard]] QString general();
-[[nodiscard]] QString of(Verb verb);
-
+/// What a function makes of the options that a command takes, or of all.
+[[nodiscard]] QStringList optionTexts(const auto &textOf, std::optional<Verb> verb = {})
+{
+    QStringList texts;
+    for (const OptionRow &row : optionRows) {
+        if (!verb || row.isTakenBy(*verb))
+            texts << textOf(row);
+    }
+    return texts;
 }
+
+[[nodiscard]] QString generalHelp();
+[[nodiscard]] QString helpOn(const VerbRow &row);
 
 /// What the package is made with: "man" gives the manual page's section on options, "bash", "zsh"
 /// and "fish" that shell's completion; empty for any other name.

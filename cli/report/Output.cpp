@@ -3,7 +3,6 @@
 
 #include "cli/report/ShownText.h"
 #include "support/Console.h"
-#include "support/Format.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
 
@@ -22,31 +21,24 @@ namespace {
 std::atomic<bool> failed = false;
 std::atomic<bool> showsDiagnostics = false;
 
-// An interrupted program does not wait for a reader that does not read.
-bool isWritable(int descriptor)
+void write(int descriptor, QByteArrayView bytes)
 {
-    struct pollfd output {
-        descriptor, POLLOUT, 0
-    };
-    const int milliseconds = Interruption::signal() == 0 ? 200 : 0;
-    return ::poll(&output, 1, milliseconds) > 0;
-}
-
-void write(int descriptor, const QByteArray &bytes)
-{
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        if (!isWritable(descriptor)) {
-            if (Interruption::signal() != 0)
+    while (!bytes.isEmpty()) {
+        struct pollfd output {
+            descriptor, POLLOUT, 0
+        };
+        // An interrupted program does not wait for a reader that does not read.
+        const bool isInterrupted = Interruption::signal() != 0;
+        if (::poll(&output, 1, isInterrupted ? 0 : 200) <= 0) {
+            if (isInterrupted)
                 return;
             continue;
         }
         // A pipe that is ready takes this many bytes without blocking.
-        const qsizetype count = std::min<qsizetype>(bytes.size() - done, 4096);
-        const ssize_t written
-            = ::write(descriptor, bytes.constData() + done, static_cast<std::size_t>(count));
+        const auto count = static_cast<std::size_t>(std::min<qsizetype>(bytes.size(), 4096));
+        const ssize_t written = ::write(descriptor, bytes.data(), count);
         if (written >= 0) {
-            done += written;
+            bytes = bytes.sliced(written);
         } else if (errno == EPIPE) {
             Interruption::request(SIGPIPE);
             return;

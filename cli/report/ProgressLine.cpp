@@ -3,7 +3,6 @@
 
 #include "cli/report/ShownText.h"
 #include "support/DurationInfo.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QLocale>
@@ -34,8 +33,9 @@ std::optional<int> ProgressSample::percent() const
 {
     if (total <= 0)
         return std::nullopt;
-    const double fraction = static_cast<double>(completed) / static_cast<double>(total);
-    return static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 100);
+    // In this order: 29 of 100 is not quite 0.29.
+    const double percent = static_cast<double>(completed) * 100 / static_cast<double>(total);
+    return static_cast<int>(std::clamp(percent, 0.0, 100.0));
 }
 
 std::optional<double> ProgressSample::speed() const

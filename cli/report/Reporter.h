@@ -7,7 +7,6 @@
 
 #include <memory>
 
-/// How many videos came to what.
 struct BatchSum {
     std::size_t all = 0;
     std::size_t converted = 0;
@@ -33,8 +32,7 @@ struct ConvertedVideo {
     std::chrono::milliseconds elapsed{};
 };
 
-/// Shows the user how conversions go; why one failed is said on standard error beside. Thread:
-/// main.
+/// Shows how conversions go; why one failed is said on standard error beside. Thread: main.
 class Reporter {
 public:
     Reporter() = default;
@@ -48,7 +46,6 @@ public:
         const std::vector<RunningSample> &running, const BatchSum &sum, const ProgressSample &whole)
         = 0;
     virtual void converted(const ConversionItem &item, const ConvertedVideo &video) = 0;
-    /// A whole result was there.
     virtual void skipped(const ConversionItem &item) = 0;
     /// A file that was found beside the videos and is none.
     virtual void leftOut(const ConversionItem & /*item*/, const Outcome & /*outcome*/) { }

@@ -31,18 +31,13 @@ QString leftJustified(const QString &text, int columns)
 
 QString elided(const QString &text, int columns)
 {
-    if (columnsOf(text) <= columns)
-        return text;
-    std::u32string head = text.toStdU32String();
-    std::u32string tail = head.substr(head.size() / 2);
-    head.resize(head.size() / 2);
-    const auto joined
-        = [&] { return QString::fromStdU32String(head) + u'…' + QString::fromStdU32String(tail); };
-    while (columnsOf(joined()) > columns && !tail.empty()) {
-        if (head.size() >= tail.size())
-            head.pop_back();
-        else
-            tail.erase(0, 1);
+    const std::u32string all = text.toStdU32String();
+    QString shown = text;
+    for (std::size_t kept = all.size(); columnsOf(shown) > columns && kept > 0;) {
+        --kept;
+        const std::size_t head = kept / 2;
+        shown = QString::fromStdU32String(all.substr(0, head)) + u'…'
+            + QString::fromStdU32String(all.substr(all.size() - (kept - head)));
     }
-    return joined();
+    return shown;
 }

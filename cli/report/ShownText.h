@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/ShellQuoted.h"
-
 #include <QString>
 
 /// Makes texts from outside fit for a terminal. Thread: any.

@@ -3,7 +3,7 @@
 #include "cli/report/Reporter.h"
 #include "cli/report/ShownText.h"
 #include "support/DurationInfo.h"
-#include "support/Format.h"
+#include "support/Localized.h"
 
 #include <algorithm>
 

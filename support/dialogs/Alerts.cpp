@@ -9,8 +9,10 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextBoundaryFinder>
+#include <QRegularExpression>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,20 +28,9 @@ QWidget *parentWindow()
 // Lets a name without spaces go on in the next line instead of leaving the alert.
 QString breakable(const QString &text)
 {
-    constexpr qsizetype longestRun = 40;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    QString result;
-    qsizetype start = 0;
-    for (qsizetype run = 0; finder.toNextBoundary() >= 0; start = finder.position()) {
-        const QStringView character = QStringView(text).sliced(start, finder.position() - start);
-        run = character.front().isSpace() ? 0 : run + 1;
-        if (run > longestRun) {
-            result += QChar(0x200B);
-            run = 1;
-        }
-        result += character;
-    }
-    return result;
+    static const QRegularExpression longRun(
+        uR"(((?:(?!\s)\X){40})(?=\S))"_s, QRegularExpression::UseUnicodePropertiesOption);
+    return QString(text).replace(longRun, u"\\1\u200b"_s);
 }
 
 }

@@ -2,7 +2,6 @@
 #include "support/dialogs/Sheets.h"
 
 #include "support/Defaults.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/dialogs/Alerts.h"
@@ -36,121 +35,116 @@ QString withExtension(const QString &path, const QString &extension)
     return path.endsWith(u'.') ? path + extension : path + u'.' + extension;
 }
 
-struct SaveRequest {
-    QString ext;
-    std::function<void(const QString &path)> path;
-    PathRefusal refuses;
-    QString note;
-};
-
 /// Has no Q_OBJECT: the toolkit takes the desktop's own dialog only for its very own class.
 class SaveSheet : public QFileDialog {
 public:
-    SaveSheet(QWidget *window, const QString &folder, QString name, SaveRequest request);
+    struct Request {
+        QString ext;
+        std::function<void(const QString &path)> path;
+        PathRefusal refuses;
+        QString note;
+    };
+
+    SaveSheet(QWidget *window, const QString &folder, QString name, Request request)
+        : QFileDialog(window,
+            localized(
+                QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
+                "Convert"),
+            folder)
+        , m_proposed(std::move(name))
+        , m_request(std::move(request))
+    {
+        setAttribute(Qt::WA_DeleteOnClose);
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setNameFilter(u"*."_s + m_request.ext);
+        setLabelText(Accept,
+            localized(QT_TRANSLATE_NOOP3(
+                          "Localizable", "Convert.savePanelPrompt", "prompt for save panel"),
+                "Convert"));
+        setLabelText(FileName,
+            localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
+                          "name label for save panel (<= 15 symbols)"),
+                "Result filename:"));
+        selectFile(m_proposed);
+        // The desktop's own dialog has no such layout.
+        if (auto *grid = qobject_cast<QGridLayout *>(layout()); grid && !m_request.note.isEmpty())
+            grid->addWidget(new QLabel(m_request.note, this), grid->rowCount(), 0, 1, -1);
+    }
 
 protected:
-    void accept() override;
-    void showEvent(QShowEvent *event) override;
+    void accept() override
+    {
+        // A dialog of the desktop is hidden by now, and has asked about a file of the typed name.
+        const bool isNative = testAttribute(Qt::WA_DontShowOnScreen);
+        const QString chosen = isNative ? selectedFiles().value(0) : typedPath();
+        if (chosen.isEmpty())
+            return;
+        if (!isNative && QFileInfo(chosen).isDir()) {
+            setDirectory(chosen);
+            // That was to be used before the folder's name was typed over it.
+            return nameField()->setText(m_proposed);
+        }
+        const QString path = withExtension(chosen, m_request.ext);
+        const bool hasAsked = isNative && path == chosen;
+        if (mayUse(path, hasAsked)) {
+            QDialog::accept(); // NOLINT(bugprone-parent-virtual-call): QFileDialog would ask again
+            m_request.path(path);
+        } else if (isNative) {
+            // It has closed itself and can't be shown again.
+            QDialog::reject();
+            auto *again
+                = new SaveSheet(parentWidget(), Path::stringByDeletingLastPathComponent(path),
+                    Path::lastPathComponent(path), m_request);
+            again->open();
+        }
+    }
+
+    // The extension is given; the name is what may be typed over.
+    void showEvent(QShowEvent *event) override
+    {
+        QFileDialog::showEvent(event);
+        if (QLineEdit *field = nameField())
+            field->setSelection(
+                0, static_cast<int>(field->text().size() - m_request.ext.size() - 1));
+    }
 
 private:
     [[nodiscard]] QLineEdit *nameField() const { return findChild<QLineEdit *>(u"fileNameEdit"_s); }
-    [[nodiscard]] QString typedPath() const;
-    [[nodiscard]] bool mayUse(const QString &path, bool hasAsked) const;
+
+    // The dialog's own reading of the field takes quotation marks for separators of several names.
+    [[nodiscard]] QString typedPath() const
+    {
+        const QString name = nameField()->text();
+        if (name.isEmpty())
+            return {};
+        if (name.startsWith("~/"_L1))
+            return QDir::homePath() + name.sliced(1);
+        return QDir::cleanPath(directory().absoluteFilePath(name));
+    }
+
+    [[nodiscard]] bool mayUse(const QString &path, bool hasAsked) const
+    {
+        const QString name = Path::lastPathComponent(path);
+        if (QFileInfo(path).isDir()) {
+            displayError(formatted(
+                QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
+                    "alert of the save panel, with the name of a folder"),
+                { name }));
+            return false;
+        }
+        if (m_request.refuses && m_request.refuses(path))
+            return false;
+        return hasAsked || !QFileInfo::exists(path)
+            || displayQuestion(formatted(
+                QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
+                    "question of the save panel, with the name of a file"),
+                { name }));
+    }
 
     QString m_proposed;
-    SaveRequest m_request;
+    Request m_request;
 };
-
-SaveSheet::SaveSheet(QWidget *window, const QString &folder, QString name, SaveRequest request)
-    : QFileDialog(window,
-        localized(
-            QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelTitle", "title for save panel"),
-            "Convert"),
-        folder)
-    , m_proposed(std::move(name))
-    , m_request(std::move(request))
-{
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAcceptMode(AcceptSave);
-    setFileMode(AnyFile);
-    setNameFilter(u"*."_s + m_request.ext);
-    setLabelText(Accept,
-        localized(
-            QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelPrompt", "prompt for save panel"),
-            "Convert"));
-    setLabelText(FileName,
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
-                      "name label for save panel (<= 15 symbols)"),
-            "Result filename:"));
-    selectFile(m_proposed);
-    // The desktop's own dialog has no such layout.
-    if (auto *grid = qobject_cast<QGridLayout *>(layout()); grid && !m_request.note.isEmpty())
-        grid->addWidget(new QLabel(m_request.note, this), grid->rowCount(), 0, 1, -1);
-}
-
-void SaveSheet::accept()
-{
-    // A dialog of the desktop is hidden by now, and has asked about a file of the typed name.
-    const bool isNative = testAttribute(Qt::WA_DontShowOnScreen);
-    const QString chosen = isNative ? selectedFiles().value(0) : typedPath();
-    if (chosen.isEmpty())
-        return;
-    if (!isNative && QFileInfo(chosen).isDir()) {
-        setDirectory(chosen);
-        // That was to be used before the folder's name was typed over it.
-        return nameField()->setText(m_proposed);
-    }
-    const QString path = withExtension(chosen, m_request.ext);
-    const bool hasAsked = isNative && path == chosen;
-    if (mayUse(path, hasAsked)) {
-        QDialog::accept(); // NOLINT(bugprone-parent-virtual-call): QFileDialog would ask again
-        m_request.path(path);
-    } else if (isNative) {
-        // It has closed itself and can't be shown again.
-        QDialog::reject();
-        auto *again = new SaveSheet(parentWidget(), Path::stringByDeletingLastPathComponent(path),
-            Path::lastPathComponent(path), m_request);
-        again->open();
-    }
-}
-
-// The extension is given; the name is what may be typed over.
-void SaveSheet::showEvent(QShowEvent *event)
-{
-    QFileDialog::showEvent(event);
-    if (QLineEdit *field = nameField())
-        field->setSelection(0, static_cast<int>(field->text().size() - m_request.ext.size() - 1));
-}
-
-bool SaveSheet::mayUse(const QString &path, bool hasAsked) const
-{
-    const QString name = Path::lastPathComponent(path);
-    if (QFileInfo(path).isDir()) {
-        displayError(
-            formatted(QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
-                          "alert of the save panel, with the name of a folder"),
-                { name }));
-        return false;
-    }
-    if (m_request.refuses && m_request.refuses(path))
-        return false;
-    return hasAsked || !QFileInfo::exists(path)
-        || displayQuestion(formatted(
-            QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
-                "question of the save panel, with the name of a file"),
-            { name }));
-}
-
-// The dialog's own reading of the field takes quotation marks for separators of several names.
-QString SaveSheet::typedPath() const
-{
-    const QString name = nameField()->text();
-    if (name.isEmpty())
-        return {};
-    if (name.startsWith("~/"_L1))
-        return QDir::homePath() + name.sliced(1);
-    return QDir::cleanPath(directory().absoluteFilePath(name));
-}
 
 }
 

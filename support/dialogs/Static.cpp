@@ -4,7 +4,6 @@
 #include "support/Bundle.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QApplication>
@@ -26,16 +25,6 @@ QString programName()
         .value_or(QGuiApplication::applicationDisplayName());
 }
 
-QString versionText()
-{
-    const QString version = Bundle::main()
-                                .infoString(u"CFBundleShortVersionString"_s)
-                                .value_or(Configuration::version());
-    return formatted(
-        QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
-        { version });
-}
-
 QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
 {
     auto *label = new QLabel(text);
@@ -44,6 +33,19 @@ QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
     label->setWordWrap(true);
     layout->addWidget(label);
     return label;
+}
+
+/// Only Russian has a site of its own. Prints a line for a language that the bundle has.
+QString siteAddress()
+{
+    QString root = Configuration::siteUrl();
+    const QString code = languageCode().value_or(QString());
+    const QString language = code.toLower();
+    const qsizetype position = Bundle::main().localizations().indexOf(language);
+    if (position < 0)
+        return root;
+    Console::print(code + u' ' + QString::number(position));
+    return language == u"ru" && !root.isEmpty() ? root + "ru/"_L1 : root;
 }
 
 /// Open, it does not keep the program from ending with its main window.
@@ -69,7 +71,11 @@ QDialog *makeAboutBox()
     font.setBold(true);
     name->setFont(font);
 
-    QLabel *version = addLabel(layout, versionText());
+    const auto bundled = Bundle::main().infoString(u"CFBundleShortVersionString"_s);
+    QLabel *version = addLabel(layout,
+        formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
+            { bundled.value_or(Configuration::version()) }));
     version->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     layout->addSpacing(8);
@@ -99,20 +105,6 @@ QDialog &Static::aboutWindow()
 
 const QString &Static::applicationURL()
 {
-    static const QString url
-        = siteAddress(Configuration::siteUrl(), languageCode(), Bundle::main().localizations());
+    static const QString url = siteAddress();
     return url;
-}
-
-QString Static::siteAddress(const QString &root, const std::optional<QString> &languageCode,
-    const QStringList &localizations)
-{
-    if (!languageCode)
-        return root;
-    const QString language = languageCode->toLower();
-    const qsizetype position = localizations.indexOf(language);
-    if (position < 0)
-        return root;
-    Console::print(*languageCode + u' ' + QString::number(position));
-    return language == u"ru" && !root.isEmpty() ? root + "ru/"_L1 : root;
 }

@@ -2,9 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
-
-#include <optional>
 
 class QDialog;
 
@@ -19,8 +16,4 @@ public:
     [[nodiscard]] static QDialog &aboutWindow();
     /// The vendor's web site in the user's language; empty when there is none. Thread: any.
     [[nodiscard]] static const QString &applicationURL();
-
-    /// Only Russian has a site of its own. Prints a line for a language of `localizations`.
-    [[nodiscard]] static QString siteAddress(const QString &root,
-        const std::optional<QString> &languageCode, const QStringList &localizations);
 };

@@ -2,19 +2,14 @@
 #include "tests/cli/Command.h"
 
 #include "support/Bundle.h"
+#include "tests/fixtures/Media.h"
 
-#include <QDirIterator>
+#include <QDir>
 
 #include <csignal>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr unsigned nobody = 65534;
-
-}
 
 Command::Command()
 {
@@ -39,15 +34,12 @@ QString Command::program()
 
 QStringList Command::listing() const
 {
-    QStringList entries;
-    QDirIterator all(path(), QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot,
-        QDirIterator::Subdirectories);
-    while (all.hasNext()) {
-        const QFileInfo info(all.next());
-        entries << info.filePath() + u' ' + QString::number(info.isFile() ? info.size() : -1);
-    }
-    entries.sort();
-    return entries;
+    return shell(u"find . -type f -printf '%p %s\\n' -o -printf '%p\\n' | sort"_s).split(u'\n');
+}
+
+QString Command::files(const QString &folder) const
+{
+    return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u'|');
 }
 
 QByteArray Command::contents(const QString &name) const
@@ -63,13 +55,9 @@ void Command::write(const QString &name, const QByteArray &bytes) const
         qFatal("%s can't be written", qPrintable(file.fileName()));
 }
 
-void Command::prepare(const QString &script) const
+QString Command::shell(const QString &script) const
 {
-    QProcess shell;
-    shell.setWorkingDirectory(path());
-    shell.start(u"sh"_s, { u"-ec"_s, script });
-    if (!shell.waitForFinished() || shell.exitCode() != 0)
-        qFatal("%s", shell.readAllStandardError().constData());
+    return QString::fromUtf8(Media::run(u"sh"_s, { u"-ec"_s, u"cd \"$0\"\n"_s + script, path() }));
 }
 
 bool Command::dropPrivileges()
@@ -77,9 +65,9 @@ bool Command::dropPrivileges()
     if (::geteuid() != 0)
         return true;
     QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
-    m_unprivileged = true;
-    m_unprivileged = run(u"--version"_s).exitCode == 0;
-    return m_unprivileged;
+    m_wrapper
+        = QStringList{ u"setpriv"_s, u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s };
+    return run(u"--version"_s).exitCode == 0;
 }
 
 std::unique_ptr<QProcess> Command::start(
@@ -87,15 +75,15 @@ std::unique_ptr<QProcess> Command::start(
 {
     auto process = std::make_unique<QProcess>();
     process->setWorkingDirectory(m_folder.path());
-    process->setChildProcessModifier([unprivileged = m_unprivileged, inChild] {
+    process->setChildProcessModifier([inChild] {
         // A test run in the background of a script has them ignored.
         ::signal(SIGINT, SIG_DFL);
         ::signal(SIGQUIT, SIG_DFL);
         inChild();
-        if (unprivileged && (::setgid(nobody) != 0 || ::setuid(nobody) != 0))
-            ::_exit(126);
     });
-    process->start(program(), QProcess::splitCommand(line) + further);
+    const QStringList words
+        = m_wrapper + QStringList{ program() } + QProcess::splitCommand(line) + further;
+    process->start(words.first(), words.mid(1));
     return process;
 }
 

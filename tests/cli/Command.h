@@ -43,12 +43,14 @@ public:
     [[nodiscard]] static QString program();
     /// A path in the folder.
     [[nodiscard]] QString path(const QString &name = {}) const { return m_folder.filePath(name); }
-    /// Names and sizes of all that is in the folder and below, links not followed.
+    /// Names of all that is in the folder and below, with the sizes of files; links not followed.
     [[nodiscard]] QStringList listing() const;
+    /// The files in a sub-folder, hidden ones too, separated by "|".
+    [[nodiscard]] QString files(const QString &folder = {}) const;
     [[nodiscard]] QByteArray contents(const QString &name) const;
     void write(const QString &name, const QByteArray &bytes) const;
-    /// Runs a script of the shell in the folder.
-    void prepare(const QString &script) const;
+    /// Runs a script in the folder and gives what it prints.
+    QString shell(const QString &script) const;
 
     /// Further runs are those of a user whom permissions bind. False where that can't be had.
     [[nodiscard]] bool dropPrivileges();
@@ -63,5 +65,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    bool m_unprivileged = false;
+    /// Program and options that run the words behind them.
+    QStringList m_wrapper;
 };

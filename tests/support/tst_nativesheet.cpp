@@ -78,7 +78,7 @@ private Q_SLOTS:
         const Answering answering(&QMessageBox::close);
         answer(u"video.mp4"_s);
         QTRY_COMPARE(paths, QStringList{ path(u"video.mp4"_s) });
-        QVERIFY(!answering.wasShown);
+        QVERIFY(answering.text.isEmpty());
     }
 
     void appendedExtension_isAskedAbout()
@@ -86,13 +86,13 @@ private Q_SLOTS:
         const Answering refusal(Answering::no());
         answer(u"video"_s);
         awaitDialog(u"video.mp4"_s);
-        QVERIFY(refusal.wasShown);
+        QVERIFY(!refusal.text.isEmpty());
         QVERIFY(paths.isEmpty());
 
         const Answering agreement(Answering::yes());
         answer(u"video"_s);
         QTRY_COMPARE(paths, QStringList{ path(u"video.mp4"_s) });
-        QVERIFY(agreement.wasShown);
+        QVERIFY(!agreement.text.isEmpty());
         QTRY_VERIFY(!QApplication::activeModalWidget());
     }
 

@@ -81,24 +81,22 @@ private Q_SLOTS:
 
     void existingFile_isReplacedOnlyIfAgreed()
     {
-        for (const QString &typed : { u"video.mov"_s, u"<b>x<b>%d"_s }) {
-            const QString existing = typed + u".mp4"_s;
-            write(existing);
-            save(u"proposed"_s);
-            const Answering refusal(Answering::no());
-            type(typed);
-            QCOMPARE(
-                refusal.text, u"“%1” already exists. Do you want to replace it?"_s.arg(existing));
-            QVERIFY(sheet()->isVisible());
-            QCOMPARE(nameField()->text(), typed);
-            QVERIFY(paths.isEmpty());
+        const QString typed = u"<b>x<b>%d"_s;
+        const QString existing = typed + u".mp4"_s;
+        write(existing);
+        save(u"proposed"_s);
+        const Answering refusal(Answering::no());
+        type(typed);
+        QCOMPARE(refusal.text, u"“%1” already exists. Do you want to replace it?"_s.arg(existing));
+        QVERIFY(sheet()->isVisible());
+        QCOMPARE(nameField()->text(), typed);
+        QVERIFY(paths.isEmpty());
 
-            const Answering agreement(Answering::yes());
-            type(typed);
-            QVERIFY(agreement.wasShown);
-            QTRY_VERIFY(!sheet());
-            QCOMPARE(paths, QStringList{ path(existing) });
-        }
+        const Answering agreement(Answering::yes());
+        type(typed);
+        QVERIFY(!agreement.text.isEmpty());
+        QTRY_VERIFY(!sheet());
+        QCOMPARE(paths, QStringList{ path(existing) });
     }
 
     void folder_isEnteredNotReplaced()
@@ -121,7 +119,6 @@ private Q_SLOTS:
 
     void saveFolder_isTheLastOneOfSuchVideos()
     {
-        QCOMPARE(saveFolder(folder->path()), folder->path());
         save(u"video"_s);
         type(u"sub/video"_s);
         QTRY_VERIFY(!sheet());

@@ -6,7 +6,6 @@
 #include "planning/VideoConstraints.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/Path.h"
 #include "support/Preferences.h"

@@ -7,7 +7,6 @@
 #include "engine/Remedy.h"
 #include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "support/MainQueue.h"
 #include "support/Path.h"

@@ -2,7 +2,6 @@
 #include "ui/window/ConversionStatus.h"
 
 #include "support/DurationInfo.h"
-#include "support/Format.h"
 #include "support/Localized.h"
 #include "ui/window/VideoWords.h"
 

@@ -5,9 +5,9 @@
 #include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
 #include "support/DurationInfo.h"
-#include "support/Format.h"
+#include "support/Localized.h"
 #include "support/Path.h"
-#include "support/ShellQuoted.h"
+#include "support/Text.h"
 #include "support/dialogs/Alerts.h"
 #include "support/dialogs/Sheets.h"
 #include "ui/window/ConversionFlow.h"
@@ -132,7 +132,7 @@ void StateNotes::copyCommand()
     const QStringList words{ u"video-converter-cli"_s, u"convert"_s, u"--to"_s,
         entry ? entry->destDevice : u"MP4"_s, u"-j"_s, u"0"_s, u"-d"_s,
         saveFolder(Path::stringByDeletingLastPathComponent(path)), u"--"_s, path };
-    QGuiApplication::clipboard()->setText(shellQuoted(words + m_intake.leftOut()));
+    QGuiApplication::clipboard()->setText(Text::shellQuoted(words + m_intake.leftOut()));
     m_outlets.copyCommandLabel->setText(localized(
         QT_TRANSLATE_NOOP3("Localizable", "Copied", "a command line is on the clipboard now")));
 }

@@ -2,7 +2,7 @@
 #include "ui/window/VideoWords.h"
 
 #include "planning/PlannedWork.h"
-#include "support/Format.h"
+#include "support/Localized.h"
 #include "support/Path.h"
 
 #include <QFileInfo>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "updates/dialog/UpdateDialogs.h"
 
-#include "support/Format.h"
 #include "support/Localized.h"
 
 #include <QDesktopServices>
