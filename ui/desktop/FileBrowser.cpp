@@ -3,15 +3,9 @@
 
 #include "ui/desktop/DesktopBus.h"
 
-#include <QDesktopServices>
-#include <QFileInfo>
-#include <QUrl>
-
 using namespace Qt::StringLiterals;
 
-namespace FileBrowser {
-
-void reveal(const QString &filePath)
+void FileBrowser::reveal(const QString &filePath)
 {
     const QFileInfo file(QFileInfo(filePath).absoluteFilePath());
     const QStringList uris{ QString::fromLatin1(QUrl::fromLocalFile(file.filePath()).toEncoded()) };
@@ -21,13 +15,6 @@ void reveal(const QString &filePath)
     DesktopBus::call(QDBusConnection::sessionBus(), showItems << uris << QString(),
         [folder = file.path()](const QDBusMessage &answer) {
             if (answer.type() == QDBusMessage::ErrorMessage)
-                openFolder(folder);
+                open(folder);
         });
-}
-
-void openFolder(const QString &folderPath)
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(folderPath).absoluteFilePath()));
-}
-
 }

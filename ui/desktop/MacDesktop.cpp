@@ -7,26 +7,14 @@
 #include "ui/desktop/LauncherProgress.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QProcess>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
-namespace FileBrowser {
-
-void reveal(const QString &filePath)
+void FileBrowser::reveal(const QString &filePath)
 {
     QProcess::startDetached(
         u"/usr/bin/open"_s, { u"-R"_s, filePath }, QFileInfo(filePath).absolutePath());
-}
-
-void openFolder(const QString &folderPath)
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folderPath));
-}
-
 }
 
 struct KeepAwake::Hold {
