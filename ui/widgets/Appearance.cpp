@@ -42,7 +42,6 @@ constexpr Shade shades[] = {
     {QPalette::Highlight,       0xff4d5bd8, 0xff5d6ae4},
     {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
     {QPalette::Link,            0xff4350cc, 0xff9aa5ff},
-    {QPalette::LinkVisited,     0xff7048c2, 0xffc3a6ff},
     {QPalette::ToolTipBase,     0xff2a2d36, 0xff3a3e4a},
     {QPalette::ToolTipText,     0xffffffff, 0xfff2f4fa},
 };
@@ -100,7 +99,28 @@ Appearance::Appearance()
     if (platformHasColors())
         return;
     QApplication::setPalette(palette(m_look));
-    askDesktop();
+#ifdef Q_OS_LINUX
+    const QString service = u"org.freedesktop.portal.Desktop"_s;
+    const QString path = u"/org/freedesktop/portal/desktop"_s;
+    const QString interface = u"org.freedesktop.portal.Settings"_s;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.connect(service, path, interface, u"SettingChanged"_s, this,
+        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    for (const QLatin1StringView each : { schemeKey, contrastKey }) {
+        const QString key = each;
+        QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
+        DesktopBus::call(bus, read << QString(appearanceSpace) << key,
+            [self = QPointer(this), key](const QDBusMessage &answer) {
+                if (!self || answer.type() != QDBusMessage::ReplyMessage)
+                    return;
+                // The portal wraps the value twice.
+                auto value = answer.arguments().value(0).value<QDBusVariant>();
+                if (value.variant().canConvert<QDBusVariant>())
+                    value = value.variant().value<QDBusVariant>();
+                self->settingChanged(appearanceSpace, key, value);
+            });
+    }
+#endif
 }
 
 #ifdef Q_OS_LINUX
@@ -116,30 +136,3 @@ void Appearance::settingChanged(const QString &space, const QString &key, const 
     QApplication::setPalette(palette(m_look));
 }
 #endif
-
-void Appearance::askDesktop()
-{
-#ifdef Q_OS_LINUX
-    const QString service = u"org.freedesktop.portal.Desktop"_s;
-    const QString path = u"/org/freedesktop/portal/desktop"_s;
-    const QString interface = u"org.freedesktop.portal.Settings"_s;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, u"SettingChanged"_s, this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
-    for (const QLatin1StringView each : { schemeKey, contrastKey }) {
-        const QString key = each;
-        QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
-        DesktopBus::call(bus, read << QString(appearanceSpace) << key,
-            [self = QPointer(this), key](const QDBusMessage &answer) {
-                if (!self || answer.type() != QDBusMessage::ReplyMessage
-                    || answer.arguments().isEmpty())
-                    return;
-                // The portal wraps the value twice.
-                auto value = answer.arguments().constFirst().value<QDBusVariant>();
-                if (value.variant().canConvert<QDBusVariant>())
-                    value = value.variant().value<QDBusVariant>();
-                self->settingChanged(appearanceSpace, key, value);
-            });
-    }
-#endif
-}

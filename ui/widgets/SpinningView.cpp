@@ -3,7 +3,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QTimerEvent>
 
 #include <algorithm>
 
@@ -18,6 +17,11 @@ SpinningView::SpinningView(QWidget *parent)
     : QWidget(parent)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_timer.setInterval(stepMilliseconds);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        m_step = (m_step + 1) % finCount;
+        update();
+    });
 }
 
 void SpinningView::setSpinning(bool spinning)
@@ -53,18 +57,7 @@ bool SpinningView::event(QEvent *event)
 
 void SpinningView::animate()
 {
-    if (m_spinning && m_awake)
-        m_timer.start(stepMilliseconds, this);
-    else
-        m_timer.stop();
-    update();
-}
-
-void SpinningView::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_timer.timerId())
-        return QWidget::timerEvent(event);
-    m_step = (m_step + 1) % finCount;
+    m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
     update();
 }
 
