@@ -33,20 +33,20 @@ private Q_SLOTS:
         addRows<WindowUIState, bool, Utf8>({ "state", "takesFiles", "shown" },
             { { "initial", WindowUIState::InitialState, true,
                   "[convertToButton] againLabel anotherFormatLabel dragDropImageView "
-                  "dragFileHereLabel logLabel openFromFolderLabel refusalLabel spinner stage" },
+                  "dragFileHereLabel logLabel openFromFolderLabel refusalLabel stage" },
                 { "waiting", WindowUIState::WaitingForCover, false,
                     "[convertToButton] examiningLabel spinner stage stopExaminingButton" },
                 { "cover", WindowUIState::CoverIsSet, true,
                     "blackBackground convertToButton copyCommandLabel factsLabel leftOutLabel "
-                    "movieCoverImageView movieDurationLabel movieNameLabel spinner stage" },
+                    "movieCoverImageView movieDurationLabel movieNameLabel stage" },
                 { "converting", WindowUIState::Converting, false,
                     "blackBackground cancelProgressButton cancelProgressImageView "
                     "convertingStatusLabel movieCoverImageView movieNameLabel progressBar "
-                    "secondTryLabel spinner stage workLabel" },
+                    "secondTryLabel stage workLabel" },
                 { "done", WindowUIState::ConversionIsDone, true,
                     "blackBackground conversionCompleteStatusLabel movieCoverImageView "
                     "movieNameLabel openFolderImageView openResultButton remarksLabel resultLabel "
-                    "showInFolderLabel spinner stage startOverButton" } });
+                    "showInFolderLabel stage startOverButton" } });
     }
     void state_setsEveryOutlet()
     {

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/Clickable.h"
 
-#include "ui/widgets/Announcement.h"
-#include "ui/widgets/ImageView.h"
-#include "ui/widgets/SpinningView.h"
-#include "ui/widgets/TextField.h"
-
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 
-#include <algorithm>
-#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A view that listens to clicks, as a button; one that does not, as what it shows.
-class ClickableInterface : public QAccessibleWidget {
+/// A view that takes the focus, as a button; one that does not, as what it shows.
+class ViewInterface : public QAccessibleWidget {
 public:
     using QAccessibleWidget::QAccessibleWidget;
 
@@ -28,9 +24,9 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const auto *label = qobject_cast<TextField *>(widget());
         const QString text = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && text.isEmpty() && label ? label->text() : text;
+        const bool isNameless = kind == QAccessible::Name && text.isEmpty();
+        return isNameless ? widget()->property("text").toString() : text;
     }
 
     QStringList actionNames() const override
@@ -48,45 +44,26 @@ public:
     }
 };
 
-class SpinnerInterface : public QAccessibleWidget {
-public:
-    using QAccessibleWidget::QAccessibleWidget;
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.invisible = !static_cast<SpinningView *>(widget())->spinning();
-        return state;
-    }
+constexpr std::pair<QLatin1StringView, QAccessible::Role> roles[] = {
+    { "ImageView"_L1, QAccessible::Graphic },
+    { "TextField"_L1, QAccessible::StaticText },
+    { "SpinningView"_L1, QAccessible::Animation },
+    { "Announcement"_L1, QAccessible::Notification },
 };
 
-QAccessibleInterface *makeInterface(const QString &, QObject *object)
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
-    if (auto *image = qobject_cast<ImageView *>(object))
-        return new ClickableInterface(image, QAccessible::Graphic);
-    if (auto *label = qobject_cast<TextField *>(object))
-        return new ClickableInterface(label, QAccessible::StaticText);
-    if (auto *spinner = qobject_cast<SpinningView *>(object))
-        return new SpinnerInterface(spinner, QAccessible::Animation);
-    if (auto *announcement = qobject_cast<Announcement *>(object))
-        return new QAccessibleWidget(announcement, QAccessible::Notification);
+    for (const auto &[name, role] : roles) {
+        if (className == name)
+            return new ViewInterface(qobject_cast<QWidget *>(object), role);
+    }
     return nullptr;
 }
 
 }
 
-void Clickable::enable(QWidget *view)
+bool Clickable::isPressed(const QWidget &view, const QEvent &event)
 {
-    view->setFocusPolicy(Qt::StrongFocus);
-    view->setAttribute(Qt::WA_Hover);
-}
-
-bool Clickable::isPressed(QWidget &view, const QEvent &event)
-{
-    constexpr std::array changesOfLook{ QEvent::HoverEnter, QEvent::HoverLeave, QEvent::FocusIn,
-        QEvent::FocusOut, QEvent::PaletteChange };
-    if (std::ranges::count(changesOfLook, event.type()) > 0)
-        view.update();
     if (!view.isEnabled())
         return false;
     if (event.type() == QEvent::MouseButtonPress)

@@ -75,8 +75,6 @@ ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     setFont(faceFont);
     setText(m_cell.title());
     setAttribute(Qt::WA_Hover);
-    // Return presses it, as it does the other buttons.
-    setAutoDefault(true);
 }
 
 void ConvertPopupButton::setMenu(QMenu *menu)
@@ -125,15 +123,6 @@ QSize ConvertPopupButton::sizeHint() const
     return { text.width() + line * 7, line * 2 + 6 };
 }
 
-bool ConvertPopupButton::event(QEvent *event)
-{
-    if (event->type() == QEvent::FontChange) {
-        m_cell.setFont(font());
-        updateGeometry();
-    }
-    return QPushButton::event(event);
-}
-
 QColor ConvertPopupButton::faceColor() const
 {
     if (!isEnabled())
@@ -147,6 +136,7 @@ QColor ConvertPopupButton::faceColor() const
 
 void ConvertPopupButton::paintEvent(QPaintEvent *)
 {
+    m_cell.setFont(font());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF face = QRectF(rect()).adjusted(3, 3, -3, -3);

@@ -42,7 +42,6 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

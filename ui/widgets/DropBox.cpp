@@ -99,13 +99,14 @@ void DropBox::dropEvent(QDropEvent *event)
     answer(event);
     m_veil->hide();
     if (event->isAccepted())
-        Q_EMIT performDragOperation(event->mimeData());
+        Q_EMIT performDragOperation(localFiles(event->mimeData()));
 }
 
 void DropBox::answer(QDropEvent *event)
 {
     const bool holdsFiles = !localFiles(event->mimeData()).isEmpty();
-    const bool accepted = holdsFiles && allowDragDrop(this);
+    // What is dragged out of the window is no video to convert.
+    const bool accepted = holdsFiles && allowDragDrop(this) && !event->source();
     event->setDropAction(accepted ? Qt::CopyAction : Qt::IgnoreAction);
     event->setAccepted(accepted);
     const LocalizedText text = accepted ? LocalizedText QT_TRANSLATE_NOOP3("Localizable",

@@ -3,7 +3,8 @@
 
 #include "ui/widgets/Clickable.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
@@ -24,6 +25,7 @@ QRectF centred(const QSizeF &size, const QRectF &area)
 ImageView::ImageView(QWidget *parent)
     : QWidget(parent)
 {
+    setAttribute(Qt::WA_Hover);
 }
 
 void ImageView::setImage(const QImage &image)
@@ -53,13 +55,20 @@ QSize ImageView::minimumSizeHint() const
 
 bool ImageView::event(QEvent *event)
 {
+    if (event->type() == QEvent::MouseButtonPress)
+        m_pressedAt = static_cast<QMouseEvent *>(event)->pos();
     if (Clickable::isPressed(*this, *event)) {
         Q_EMIT clicked();
         return true;
     }
-    if (event->type() == QEvent::FontChange)
-        updateGeometry();
     return QWidget::event(event);
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent *event)
+{
+    const int distance = (event->pos() - m_pressedAt).manhattanLength();
+    if ((event->buttons() & Qt::LeftButton) && distance >= QApplication::startDragDistance())
+        Q_EMIT dragged();
 }
 
 void ImageView::paintEvent(QPaintEvent *)

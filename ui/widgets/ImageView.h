@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QPoint>
 #include <QWidget>
 
 /// Shows an image or a scalable drawing in proportion; a button where clicked() is listened to.
@@ -24,9 +25,12 @@ public:
 
 Q_SIGNALS:
     void clicked();
+    /// The mouse moves on with its left button held.
+    void dragged();
 
 protected:
     bool event(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -38,4 +42,5 @@ private:
     QString m_artwork;
     QSizeF m_artworkSize;
     bool m_tinted = false;
+    QPoint m_pressedAt;
 };

@@ -32,12 +32,7 @@ TextField::TextField(QWidget *parent)
     : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-}
-
-void TextField::setDimmed(bool dimmed)
-{
-    m_dimmed = dimmed;
-    setForegroundRole(dimmed ? QPalette::PlaceholderText : QPalette::WindowText);
+    setAttribute(Qt::WA_Hover);
 }
 
 void TextField::resetCursorRects()

@@ -3,7 +3,6 @@
 
 #include "analytics/Analytics.h"
 #include "engine/Outcome.h"
-#include "planning/VideoConstraints.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
 #include "support/Format.h"
@@ -26,10 +25,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileOpenEvent>
-#include <QMimeData>
 #include <QScreen>
 
-#include <algorithm>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -61,23 +58,18 @@ void dress(const Ui::MainWindow &outlets, int line)
     keepPlaces(outlets);
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
-    outlets.refusalLabel->setForegroundRole(QPalette::PlaceholderText);
-    QFont headingFont = outlets.formatMenu->font();
-    headingFont.setBold(true);
-    for (QAction *heading :
-        { outlets.devicesHeading, outlets.formatsHeading, outlets.mp4QualityHeading })
-        heading->setFont(headingFont);
+    for (QLabel *dimmed : std::initializer_list<QLabel *>{ outlets.refusalLabel,
+             outlets.movieDurationLabel, outlets.factsLabel, outlets.workLabel })
+        dimmed->setForegroundRole(QPalette::PlaceholderText);
     for (QPushButton *button : { outlets.startOverButton, outlets.openResultButton })
         button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
     for (TextField *link : { outlets.openFromFolderLabel, outlets.againLabel,
              outlets.anotherFormatLabel, outlets.logLabel, outlets.copyCommandLabel }) {
         link->setForegroundRole(QPalette::Link);
-        Clickable::enable(link);
         // Room for the ring around the text.
         link->setContentsMargins(line / 3, 0, line / 3, 0);
     }
     outlets.openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
-    Clickable::enable(outlets.openFolderImageView);
 }
 
 }
@@ -181,21 +173,17 @@ void AppDelegate::connectControls()
     onTrigger(outlets.pasteAction, m_intake.get(), &FileIntake::paste);
     onTrigger(outlets.cancelAction, this, &AppDelegate::cancelProgressPressed);
     onTrigger(outlets.revealAction, m_conversion.get(), &ConversionFlow::openFolder);
-    onTrigger(outlets.startOverAction, this, &AppDelegate::startOverButtonPressed);
-    onTrigger(outlets.quitAction, &m_window, &QWidget::close);
-    onTrigger(outlets.aboutAction, this, &AppDelegate::showAboutWindow);
+    onTrigger(outlets.startOverAction, this, [this] {
+        Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
+        setUiState(WindowUIState::InitialState);
+    });
+    onTrigger(outlets.aboutAction, this, [] {
+        QDialog &about = Static::aboutWindow();
+        about.show();
+        about.raise();
+        about.activateWindow();
+    });
     outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
-
-    const auto onClick = []<class View>(const View *view, QAction *action) {
-        connect(view, &View::clicked, action, &QAction::trigger);
-    };
-    onClick(outlets.openFromFolderLabel, outlets.openAction);
-    onClick(outlets.stopExaminingButton, outlets.cancelAction);
-    onClick(outlets.cancelProgressButton, outlets.cancelAction);
-    onClick(outlets.cancelProgressImageView, outlets.cancelAction);
-    onClick(outlets.openFolderImageView, outlets.revealAction);
-    onClick(outlets.showInFolderLabel, outlets.revealAction);
-    onClick(outlets.startOverButton, outlets.startOverAction);
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
     connect(outlets.dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
@@ -223,9 +211,12 @@ void AppDelegate::connectWork()
         showIntake();
         m_announcement->say(m_outlets->keptLabel);
     });
-    connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
+    connect(m_intake.get(), &FileIntake::examined, this,
+        [this] { setUiState(WindowUIState::CoverIsSet); });
     connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
-        failWithUnsupported();
+        setUiState(WindowUIState::InitialState);
+        displayError(localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "Video not supported", "Error message 'Video not supported'")));
         showRefusal(refusal);
         showIntake();
     });
@@ -295,25 +286,6 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 
 void AppDelegate::takeFiles(const QStringList &paths) { m_intake->takeFiles(paths); }
 
-void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
-{
-    const QString &path = m_intake->processingFilePath();
-    setUiState(WindowUIState::CoverIsSet);
-    m_outlets->movieCoverImageView->setImage(cover);
-    m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
-    // A tool tip guesses whether it is mark-up; a file's name is none.
-    m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
-    m_outlets->movieNameLabel->setAccessibleDescription(path);
-    m_outlets->movieDurationLabel->setText(duration);
-}
-
-void AppDelegate::failWithUnsupported()
-{
-    setUiState(WindowUIState::InitialState);
-    displayError(localized(QT_TRANSLATE_NOOP3(
-        "Localizable", "Video not supported", "Error message 'Video not supported'")));
-}
-
 void AppDelegate::showRefusal(const Outcome &refusal)
 {
     if (m_uiState != WindowUIState::InitialState)
@@ -345,18 +317,4 @@ void AppDelegate::cancelProgressPressed()
         m_intake->cancel();
     else
         std::ignore = m_conversion->cancelIfConfirmed();
-}
-
-void AppDelegate::startOverButtonPressed()
-{
-    Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
-    setUiState(WindowUIState::InitialState);
-}
-
-void AppDelegate::showAboutWindow()
-{
-    QDialog &about = Static::aboutWindow();
-    about.show();
-    about.raise();
-    about.activateWindow();
 }

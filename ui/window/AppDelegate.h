@@ -3,7 +3,6 @@
 
 #include "ui/window/WindowUIState.h"
 
-#include <QImage>
 #include <QMainWindow>
 
 #include <memory>
@@ -52,13 +51,9 @@ private:
     void connectWork();
     void showIntake();
     void showStateInMenus();
-    void fileWasExamined(const QImage &cover, const QString &duration);
-    void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
     void updateProgress(double fraction, qint64 seconds);
     void cancelProgressPressed();
-    void startOverButtonPressed();
-    void showAboutWindow();
 
     QMainWindow m_window;
     std::unique_ptr<Ui::MainWindow> m_outlets;

@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QMimeData>
 #include <QPointer>
 
 #include <utility>
@@ -43,10 +42,9 @@ void FileIntake::takeKept()
         processFile(std::exchange(m_kept, {}));
 }
 
-void FileIntake::performDragOperation(const QMimeData *data)
+void FileIntake::performDragOperation(const QStringList &paths)
 {
-    const QStringList paths = localFiles(data);
-    if (paths.isEmpty() || !isReady())
+    if (!isReady())
         return;
     Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
     takeFiles(paths);

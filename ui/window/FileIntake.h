@@ -9,7 +9,6 @@
 
 #include <optional>
 
-class QMimeData;
 class QWidget;
 struct Outcome;
 
@@ -27,7 +26,7 @@ public:
     /// Takes what was kept, if it may be taken now.
     void takeKept();
     [[nodiscard]] const QString &keptPath() const { return m_kept; }
-    void performDragOperation(const QMimeData *data);
+    void performDragOperation(const QStringList &paths);
     void paste();
     void buttonPress();
     void processFile(const QString &path);

@@ -125,7 +125,6 @@ QString reasonAgainst(const PlannedWork &work, const VideoConstraints &constrain
 
 void FormatEntries::prepare(QMenu &menu)
 {
-    menu.setToolTipsVisible(true);
     const QString last = Defaults::value(lastEntryKey).toString();
     for (QAction *entry : menu.actions()) {
         entry->setProperty(describedKey, !entry->isSeparator());

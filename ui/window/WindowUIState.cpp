@@ -28,7 +28,11 @@ void showWithText(QWidget *view, bool value)
     view->setVisible(value && !view->property("text").toString().isEmpty());
 }
 
-void spin(QWidget *view, bool value) { static_cast<SpinningView *>(view)->setSpinning(value); }
+void spin(QWidget *view, bool value)
+{
+    static_cast<SpinningView *>(view)->setSpinning(value);
+    view->setVisible(value);
+}
 
 void enable(QWidget *view, bool value) { view->setEnabled(value); }
 
