@@ -13,7 +13,7 @@ public:
 
     /// The reason is shown to users who ask. A second start replaces the first.
     void start(const QString &reason);
-    void stop();
+    void stop() { m_hold.reset(); }
 
 private:
     struct Hold;

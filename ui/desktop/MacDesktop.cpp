@@ -33,8 +33,6 @@ void KeepAwake::start(const QString & /*reason*/)
         { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
 }
 
-void KeepAwake::stop() { m_hold.reset(); }
-
 void LauncherProgress::update(int /*percent*/, bool /*urgent*/) { }
 
 void DesktopNotification::show(const QString & /*title*/, const QString & /*text*/) { }

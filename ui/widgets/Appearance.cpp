@@ -8,8 +8,6 @@
 #ifdef Q_OS_LINUX
 #include "ui/desktop/DesktopBus.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #endif
 
@@ -47,32 +45,6 @@ constexpr Shade shades[] = {
 };
 // clang-format on
 
-QPalette palette(QRgb Shade::*tone)
-{
-    QPalette palette;
-    for (const Shade &shade : shades)
-        palette.setColor(shade.role, QColor::fromRgba(shade.*tone));
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        // The menu's headings are such texts, and have to be read.
-        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
-    }
-    return palette;
-}
-
-QPalette withHighContrast(QPalette palette, bool dark)
-{
-    const QColor ground = dark ? Qt::black : Qt::white;
-    const QColor ink = dark ? Qt::white : Qt::black;
-    for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
-        palette.setColor(role, ground);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-             QPalette::PlaceholderText, QPalette::Dark }) {
-        palette.setColor(QPalette::Active, role, ink);
-        palette.setColor(QPalette::Inactive, role, ink);
-    }
-    return palette;
-}
-
 constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
 constexpr auto contrastKey = "contrast"_L1;
@@ -90,8 +62,23 @@ bool platformHasColors()
 
 QPalette Appearance::palette(Look look)
 {
-    const QPalette plain = ::palette(look.isDark ? &Shade::dark : &Shade::light);
-    return look.hasHighContrast ? withHighContrast(plain, look.isDark) : plain;
+    QPalette palette;
+    for (const Shade &shade : shades)
+        palette.setColor(shade.role, QColor::fromRgba(look.isDark ? shade.dark : shade.light));
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        // The menu's headings are such texts, and have to be read.
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
+    }
+    if (!look.hasHighContrast)
+        return palette;
+    for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
+        palette.setColor(role, look.isDark ? Qt::black : Qt::white);
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+             QPalette::PlaceholderText, QPalette::Dark }) {
+        for (const auto group : { QPalette::Active, QPalette::Inactive })
+            palette.setColor(group, role, look.isDark ? Qt::white : Qt::black);
+    }
+    return palette;
 }
 
 Appearance::Appearance()
@@ -100,16 +87,13 @@ Appearance::Appearance()
         return;
     QApplication::setPalette(palette(m_look));
 #ifdef Q_OS_LINUX
-    const QString service = u"org.freedesktop.portal.Desktop"_s;
-    const QString path = u"/org/freedesktop/portal/desktop"_s;
-    const QString interface = u"org.freedesktop.portal.Settings"_s;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, u"SettingChanged"_s, this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
+    const DesktopBus::Object settings{ u"org.freedesktop.portal.Desktop"_s,
+        u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s };
+    QDBusConnection::sessionBus().connect(settings.service, settings.path, settings.interface,
+        u"SettingChanged"_s, this, SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (const QLatin1StringView each : { schemeKey, contrastKey }) {
         const QString key = each;
-        QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
-        DesktopBus::call(bus, read << QString(appearanceSpace) << key,
+        DesktopBus::call(settings, u"Read"_s, { QString(appearanceSpace), key },
             [self = QPointer(this), key](const QDBusMessage &answer) {
                 if (!self || answer.type() != QDBusMessage::ReplyMessage)
                     return;
