@@ -11,7 +11,5 @@ namespace Clickable {
 [[nodiscard]] bool isPressed(const QWidget &view, const QEvent &event);
 /// A ring around the view that has the focus, once the user moves it by keyboard.
 void paintFocus(QPainter &painter, const QWidget &view);
-/// Tells screen readers what the views of this folder are. Called once.
-void installAccessibility();
 
 }

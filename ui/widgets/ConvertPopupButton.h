@@ -39,7 +39,6 @@ public:
     void setMenu(QMenu *menu);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

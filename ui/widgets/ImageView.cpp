@@ -48,11 +48,6 @@ QSize ImageView::sizeHint() const
     return (m_artworkSize * (fontMetrics().height() / referenceTextHeight)).toSize();
 }
 
-QSize ImageView::minimumSizeHint() const
-{
-    return sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? sizeHint() : QSize(1, 1);
-}
-
 bool ImageView::event(QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress)

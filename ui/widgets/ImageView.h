@@ -21,7 +21,6 @@ public:
     void setArtwork(const QString &resource);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void clicked();

@@ -13,7 +13,6 @@
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Announcement.h"
-#include "ui/widgets/Clickable.h"
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
 #include "ui/window/FileIntake.h"
@@ -26,8 +25,6 @@
 #include <QDialog>
 #include <QFileOpenEvent>
 #include <QScreen>
-
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -79,9 +76,8 @@ AppDelegate::AppDelegate()
 {
     // A static library's resources are not there by themselves.
     Q_INIT_RESOURCE(artwork);
-    Clickable::installAccessibility();
-    m_outlets->setupUi(&m_window);
     m_announcement = new Announcement(&m_window);
+    m_outlets->setupUi(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
     m_intake = std::make_unique<FileIntake>(&m_window);
     m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
@@ -316,5 +312,5 @@ void AppDelegate::cancelProgressPressed()
     if (m_uiState == WindowUIState::WaitingForCover)
         m_intake->cancel();
     else
-        std::ignore = m_conversion->cancelIfConfirmed();
+        m_conversion->cancelIfConfirmed();
 }

@@ -41,8 +41,8 @@ public:
     }
     QRect rect() const override
     {
-        const QRect place = menu() ? menu()->actionGeometry(entry()) : QRect();
-        return menu() ? QRect(menu()->mapToGlobal(place.topLeft()), place.size()) : place;
+        const QRect place = menu()->actionGeometry(entry());
+        return { menu()->mapToGlobal(place.topLeft()), place.size() };
     }
     QAccessible::Role role() const override { return QAccessible::MenuItem; }
     QAccessible::State state() const override
@@ -50,8 +50,8 @@ public:
         QAccessible::State state;
         state.focusable = true;
         state.disabled = !entry()->isEnabled();
-        state.invisible = !menu() || !menu()->isVisible();
-        state.focused = menu() && menu()->activeAction() == entry();
+        state.invisible = !menu()->isVisible();
+        state.focused = menu()->activeAction() == entry();
         state.hotTracked = state.focused;
         return state;
     }
@@ -73,11 +73,7 @@ private:
     [[nodiscard]] QAction *entry() const { return static_cast<QAction *>(object()); }
     [[nodiscard]] QMenu *menu() const
     {
-        for (QObject *place : entry()->associatedObjects()) {
-            if (auto *menu = qobject_cast<QMenu *>(place))
-                return menu;
-        }
-        return nullptr;
+        return qobject_cast<QMenu *>(entry()->associatedObjects().constFirst());
     }
 };
 
