@@ -8,9 +8,6 @@
 /// Keeps the machine awake between start() and stop(), where the desktop allows it.
 class KeepAwake {
 public:
-    KeepAwake() = default;
-    Q_DISABLE_COPY_MOVE(KeepAwake)
-
     /// The reason is shown to users who ask. A second start replaces the first.
     void start(const QString &reason);
     void stop() { m_hold.reset(); }

@@ -20,8 +20,6 @@ void FileBrowser::reveal(const QString &filePath)
 struct KeepAwake::Hold {
     QProcess process;
 
-    Hold() = default;
-    Q_DISABLE_COPY_MOVE(Hold)
     ~Hold() { process.kill(); }
 };
 
