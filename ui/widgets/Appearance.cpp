@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QPointer>
 #include <QStyle>
-#include <QVariant>
 #ifdef Q_OS_LINUX
 #include "ui/desktop/DesktopBus.h"
 

@@ -153,11 +153,7 @@ void ConvertPopupButton::paintIndicator(QPainter &painter)
 {
     const double arrow = fontMetrics().height() * 0.24;
     const double inset = fontMetrics().height() * 1.3;
-    QPen pen = painter.pen();
-    pen.setWidthF(1.8);
-    pen.setCapStyle(Qt::RoundCap);
-    pen.setJoinStyle(Qt::RoundJoin);
-    painter.setPen(pen);
+    painter.setPen(QPen(painter.pen().color(), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const double titleCentre = m_cell.titleRectForBounds(rect()).center().y();
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     painter.translate(leftToRight ? width() - inset : inset, titleCentre);

@@ -22,6 +22,17 @@ QRectF centred(const QSizeF &size, const QRectF &area)
 
 }
 
+QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color)
+{
+    QPixmap tinted(size);
+    tinted.fill(Qt::transparent);
+    QPainter painter(&tinted);
+    QSvgRenderer(resource).render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(tinted.rect(), color);
+    return tinted;
+}
+
 ImageView::ImageView(QWidget *parent)
     : QWidget(parent)
 {
@@ -82,18 +93,11 @@ void ImageView::paintArtwork(QPainter &painter)
     const QSizeF room = this->size().boundedTo(sizeHint());
     const QSizeF size = m_artworkSize.scaled(room, Qt::KeepAspectRatio);
     const QRectF target = centred(size, rect());
-    QSvgRenderer drawing(m_artwork);
     if (!m_tinted)
-        return drawing.render(&painter, target);
-    QPixmap tinted((size * devicePixelRatio()).toSize());
-    tinted.fill(Qt::transparent);
-    QPainter tinter(&tinted);
-    drawing.render(&tinter);
-    tinter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        return QSvgRenderer(m_artwork).render(&painter, target);
     const bool hovered = underMouse() && isEnabled();
-    tinter.fillRect(
-        tinted.rect(), palette().color(hovered ? QPalette::Highlight : foregroundRole()));
-    tinter.end();
+    const QPixmap tinted = tintedArtwork(m_artwork, (size * devicePixelRatio()).toSize(),
+        palette().color(hovered ? QPalette::Highlight : foregroundRole()));
     painter.drawPixmap(target, tinted, tinted.rect());
 }
 

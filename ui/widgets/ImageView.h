@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QWidget>
 
+/// A drawing in one colour. Units: pixels of the device.
+[[nodiscard]] QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color);
+
 /// Shows an image or a scalable drawing in proportion; a button where clicked() is listened to.
 class ImageView : public QWidget {
     Q_OBJECT

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/SpinningView.h"
 
-#include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -48,13 +47,6 @@ QSize SpinningView::sizeHint() const
     return { side, side };
 }
 
-bool SpinningView::event(QEvent *event)
-{
-    if (event->type() == QEvent::Polish)
-        awakeFromNib();
-    return QWidget::event(event);
-}
-
 void SpinningView::animate()
 {
     m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
@@ -77,9 +69,7 @@ void SpinningView::paintEvent(QPaintEvent *)
         const int age = (m_step - index + finCount) % finCount;
         color.setAlphaF(std::max(0.12F, 1.0F - static_cast<float>(age) / finCount));
         painter.setBrush(color);
-        painter.save();
-        painter.rotate(index * 360.0 / finCount);
         painter.drawRoundedRect(fin, thickness / 2, thickness / 2);
-        painter.restore();
+        painter.rotate(360.0 / finCount);
     }
 }

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    bool event(QEvent *event) override;
+    void showEvent(QShowEvent *) override { awakeFromNib(); }
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -160,20 +160,18 @@ void AppDelegate::showStateInMenus()
 void AppDelegate::connectControls()
 {
     const Ui::MainWindow &outlets = *m_outlets;
-    const auto onTrigger = [](const QAction *action, auto *receiver, auto slot) {
-        connect(action, &QAction::triggered, receiver, slot);
-    };
-    onTrigger(
-        outlets.repeatAction, this, [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
-    onTrigger(outlets.openAction, m_intake.get(), &FileIntake::buttonPress);
-    onTrigger(outlets.pasteAction, m_intake.get(), &FileIntake::paste);
-    onTrigger(outlets.cancelAction, this, &AppDelegate::cancelProgressPressed);
-    onTrigger(outlets.revealAction, m_conversion.get(), &ConversionFlow::openFolder);
-    onTrigger(outlets.startOverAction, this, [this] {
+    connect(outlets.repeatAction, &QAction::triggered, this,
+        [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
+    connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
+    connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
+    connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
+    connect(
+        outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
+    connect(outlets.startOverAction, &QAction::triggered, this, [this] {
         Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
         setUiState(WindowUIState::InitialState);
     });
-    onTrigger(outlets.aboutAction, this, [] {
+    connect(outlets.aboutAction, &QAction::triggered, this, [] {
         QDialog &about = Static::aboutWindow();
         about.show();
         about.raise();

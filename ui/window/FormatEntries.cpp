@@ -9,7 +9,6 @@
 #include "ui_MainWindow.h"
 
 #include <QAccessibleObject>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -86,20 +85,10 @@ QAccessibleInterface *entryInterface(const QString &, QObject *object)
 /// Two arrow heads, as on the key that winds forward.
 QIcon quickMark(const QMenu &menu)
 {
-    const double side = menu.fontMetrics().height();
-    QPixmap pixmap((QSizeF(side, side) * menu.devicePixelRatioF()).toSize());
+    const double side = menu.fontMetrics().height() * menu.devicePixelRatioF();
+    QPixmap pixmap = tintedArtwork(u":/artwork/quick.svg"_s, QSizeF(side, side).toSize(),
+        menu.palette().color(QPalette::Text));
     pixmap.setDevicePixelRatio(menu.devicePixelRatioF());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / 16, side / 16);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(menu.palette().color(QPalette::Text));
-    for (const double left : { 2.0, 8.0 }) {
-        const QPointF head[] = { { left, 3.5 }, { left + 6, 8 }, { left, 12.5 } };
-        painter.drawConvexPolygon(head, 3);
-    }
-    painter.end();
     QIcon mark;
     for (const QIcon::Mode mode : { QIcon::Normal, QIcon::Active, QIcon::Selected })
         mark.addPixmap(pixmap, mode);
