@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/ui/WindowTest.h"
 #include "tests/ui/desktop/DesktopStandIn.h"
-#include "ui/desktop/KeepAwake.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/widgets/DropBox.h"
 #include "ui/widgets/ImageView.h"

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 void FileBrowser::reveal(const QString &filePath)
 {
     const QFileInfo file(QFileInfo(filePath).absoluteFilePath());
-    const QStringList uris{ QString::fromLatin1(QUrl::fromLocalFile(file.filePath()).toEncoded()) };
+    const QStringList uris{ QUrl::fromLocalFile(file.filePath()).toString(QUrl::FullyEncoded) };
     const DesktopBus::Object fileManager{ u"org.freedesktop.FileManager1"_s,
         u"/org/freedesktop/FileManager1"_s, u"org.freedesktop.FileManager1"_s };
     DesktopBus::call(fileManager, u"ShowItems"_s, { uris, QString() },

@@ -7,7 +7,7 @@
 
 namespace FileBrowser {
 
-/// Shows the file in its folder.
+/// In its folder.
 void reveal(const QString &filePath);
 
 /// In the program that the desktop has for this file or folder.

@@ -9,8 +9,10 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
 /// Lives until nobody needs the machine awake, and at least until the desktop has answered.
-struct KeepAwake::Hold {
+struct Hold {
     QDBusObjectPath request;
     QDBusUnixFileDescriptor descriptor;
 
@@ -25,10 +27,11 @@ struct KeepAwake::Hold {
     }
 };
 
-void KeepAwake::start(const QString &reason)
+}
+
+std::shared_ptr<void> keepAwake(const QString &reason)
 {
     const auto hold = std::make_shared<Hold>();
-    m_hold = hold;
     const DesktopBus::Object portal{ u"org.freedesktop.portal.Desktop"_s,
         u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Inhibit"_s };
     constexpr uint suspendAndIdle = 4U | 8U;
@@ -51,4 +54,5 @@ void KeepAwake::start(const QString &reason)
             else
                 hold->request = answer.arguments().value(0).value<QDBusObjectPath>();
         });
+    return hold;
 }

@@ -5,14 +5,6 @@
 
 #include <memory>
 
-/// Keeps the machine awake between start() and stop(), where the desktop allows it.
-class KeepAwake {
-public:
-    /// The reason is shown to users who ask. A second start replaces the first.
-    void start(const QString &reason);
-    void stop() { m_hold.reset(); }
-
-private:
-    struct Hold;
-    std::shared_ptr<Hold> m_hold;
-};
+/// The machine stays awake while the result lives, where the desktop allows it. The reason is shown
+/// to users who ask.
+[[nodiscard]] std::shared_ptr<void> keepAwake(const QString &reason);

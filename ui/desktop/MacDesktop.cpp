@@ -17,18 +17,13 @@ void FileBrowser::reveal(const QString &filePath)
         u"/usr/bin/open"_s, { u"-R"_s, filePath }, QFileInfo(filePath).absolutePath());
 }
 
-struct KeepAwake::Hold {
-    QProcess process;
-
-    ~Hold() { process.kill(); }
-};
-
-void KeepAwake::start(const QString & /*reason*/)
+std::shared_ptr<void> keepAwake(const QString & /*reason*/)
 {
-    m_hold = std::make_shared<Hold>();
-    // It ends with this program, however that ends.
-    m_hold->process.start(u"/usr/bin/caffeinate"_s,
+    // Its destructor kills the process, which also ends with this program, however that ends.
+    const auto process = std::make_shared<QProcess>();
+    process->start(u"/usr/bin/caffeinate"_s,
         { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
+    return process;
 }
 
 void LauncherProgress::update(int /*percent*/, bool /*urgent*/) { }

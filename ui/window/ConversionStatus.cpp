@@ -4,6 +4,7 @@
 #include "support/DurationInfo.h"
 #include "support/Format.h"
 #include "support/Localized.h"
+#include "ui/desktop/KeepAwake.h"
 #include "ui/window/VideoWords.h"
 
 #include <QGuiApplication>
@@ -46,11 +47,11 @@ void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
         m_clock.start();
         m_timer.start();
         showWork();
-        m_keepAwake.start(localized(QT_TRANSLATE_NOOP3(
+        m_keepAwake = keepAwake(localized(QT_TRANSLATE_NOOP3(
             "Localizable", "Converting a video", "why the machine stays awake")));
     } else if (from == WindowUIState::Converting) {
         m_timer.stop();
-        m_keepAwake.stop();
+        m_keepAwake.reset();
         m_launcher.clear();
         m_percent = -1;
         m_window->setWindowTitle(m_title);
