@@ -10,6 +10,6 @@ class Announcement : public QWidget {
 public:
     explicit Announcement(QWidget *window);
 
-    /// Says what the outlet is called or shows.
+    /// What the outlet is called or shows.
     void say(QWidget *outlet);
 };

@@ -13,9 +13,7 @@
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Announcement.h"
-#include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
-#include "ui/window/FileIntake.h"
 #include "ui/window/FormatEntries.h"
 #include "ui/window/StateNotes.h"
 #include "ui/window/VideoWords.h"
@@ -73,14 +71,12 @@ void dress(const Ui::MainWindow &outlets, int line)
 
 AppDelegate::AppDelegate()
     : m_outlets(std::make_unique<Ui::MainWindow>())
+    , m_announcement(new Announcement(&m_window))
 {
     // A static library's resources are not there by themselves.
     Q_INIT_RESOURCE(artwork);
-    m_announcement = new Announcement(&m_window);
     m_outlets->setupUi(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
-    m_intake = std::make_unique<FileIntake>(&m_window);
-    m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     const int line = m_window.fontMetrics().height();
     dress(*m_outlets, line);
     FormatEntries::prepare(*m_outlets->formatMenu);
@@ -88,7 +84,7 @@ AppDelegate::AppDelegate()
         QSize(line * 36, line * 33).boundedTo(m_window.screen()->availableSize() * 0.9));
     m_window.restoreGeometry(Defaults::value(placeKey).toByteArray());
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
-    m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
+    m_notes = std::make_unique<StateNotes>(*m_outlets, m_intake, m_conversion);
     connectControls();
     connectWork();
     m_window.installEventFilter(this);
@@ -99,18 +95,12 @@ AppDelegate::~AppDelegate() { Defaults::setValue(placeKey, m_window.saveGeometry
 
 QString AppDelegate::selectedFileExt() const { return Path::pathExtension(processingFilePath()); }
 
-QString AppDelegate::processingFilePath() const { return m_intake->processingFilePath(); }
-
-QString AppDelegate::resultFilePath() const { return m_conversion->resultFilePath(); }
-
-QByteArray AppDelegate::lastToolOutput() const { return m_conversion->lastToolOutput(); }
-
 void AppDelegate::setUiState(WindowUIState state)
 {
     const WindowUIState former = m_uiState;
     m_uiState = state;
     applyWindowUIState(*m_outlets, state);
-    m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
+    m_intake.setOpen(allowDragDrop(m_outlets->dropAcceptor));
     m_notes->stateChanged(state);
     showIntake();
     showStateInMenus();
@@ -126,7 +116,7 @@ void AppDelegate::setUiState(WindowUIState state)
 
 void AppDelegate::showIntake()
 {
-    const QString kept = Path::lastPathComponent(m_intake->keptPath());
+    const QString kept = Path::lastPathComponent(m_intake.keptPath());
     if (!kept.isEmpty())
         m_outlets->keptLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
@@ -135,8 +125,7 @@ void AppDelegate::showIntake()
     m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
     // A result stays to be looked at until the user starts over.
     if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
-        QMetaObject::invokeMethod(
-            m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&m_intake, &FileIntake::takeKept, Qt::QueuedConnection);
 }
 
 void AppDelegate::showStateInMenus()
@@ -162,11 +151,10 @@ void AppDelegate::connectControls()
     const Ui::MainWindow &outlets = *m_outlets;
     connect(outlets.repeatAction, &QAction::triggered, this,
         [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
-    connect(outlets.openAction, &QAction::triggered, m_intake.get(), &FileIntake::buttonPress);
-    connect(outlets.pasteAction, &QAction::triggered, m_intake.get(), &FileIntake::paste);
+    connect(outlets.openAction, &QAction::triggered, &m_intake, &FileIntake::buttonPress);
+    connect(outlets.pasteAction, &QAction::triggered, &m_intake, &FileIntake::paste);
     connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
-    connect(
-        outlets.revealAction, &QAction::triggered, m_conversion.get(), &ConversionFlow::openFolder);
+    connect(outlets.revealAction, &QAction::triggered, &m_conversion, &ConversionFlow::openFolder);
     connect(outlets.startOverAction, &QAction::triggered, this, [this] {
         Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
         setUiState(WindowUIState::InitialState);
@@ -180,11 +168,11 @@ void AppDelegate::connectControls()
     outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
-    connect(outlets.dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
+    connect(outlets.dropAcceptor, &DropBox::performDragOperation, &m_intake,
         &FileIntake::performDragOperation);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
         if (m_uiState == WindowUIState::ConversionIsDone)
-            m_conversion->openFolder();
+            m_conversion.openFolder();
         else
             applicationShouldHandleReopen(m_window.isVisible());
     });
@@ -192,32 +180,30 @@ void AppDelegate::connectControls()
 
 void AppDelegate::connectWork()
 {
-    connect(m_intake.get(), &FileIntake::started, this, [this](const QString &path) {
+    connect(&m_intake, &FileIntake::started, this, [this](const QString &path) {
         m_outlets->examiningLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
                 { Path::lastPathComponent(path) }));
-        m_conversion->stayOpen();
+        m_conversion.stayOpen();
         setUiState(WindowUIState::WaitingForCover);
     });
-    connect(m_intake.get(), &FileIntake::cancelled, this,
-        [this] { setUiState(WindowUIState::InitialState); });
-    connect(m_intake.get(), &FileIntake::kept, this, [this] {
+    connect(&m_intake, &FileIntake::kept, this, [this] {
         showIntake();
         m_announcement->say(m_outlets->keptLabel);
     });
-    connect(m_intake.get(), &FileIntake::examined, this,
-        [this] { setUiState(WindowUIState::CoverIsSet); });
-    connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
+    connect(
+        &m_intake, &FileIntake::examined, this, [this] { setUiState(WindowUIState::CoverIsSet); });
+    connect(&m_intake, &FileIntake::refused, this, [this](const Outcome &refusal) {
         setUiState(WindowUIState::InitialState);
         displayError(localized(QT_TRANSLATE_NOOP3(
             "Localizable", "Video not supported", "Error message 'Video not supported'")));
         showRefusal(refusal);
         showIntake();
     });
-    connect(m_conversion.get(), &ConversionFlow::workChanged, m_status.get(),
+    connect(&m_conversion, &ConversionFlow::workChanged, m_status.get(),
         [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
-    connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
-    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
+    connect(&m_conversion, &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
+    connect(&m_conversion, &ConversionFlow::finished, this, [this] {
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
             Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
@@ -226,18 +212,18 @@ void AppDelegate::connectWork()
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
-    connect(m_conversion.get(), &ConversionFlow::failed, this,
+    connect(&m_conversion, &ConversionFlow::failed, this,
         [this](const Outcome &outcome, const QString &message) {
             if (kindOf(outcome) != OutcomeKind::Incomplete)
                 setUiState(WindowUIState::InitialState);
             m_status->notify(m_window.windowTitle(), message);
         });
-    connect(m_conversion.get(), &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
+    connect(&m_conversion, &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
         setUiState(WindowUIState::InitialState);
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
             showRefusal(outcome);
     });
-    connect(m_conversion.get(), &ConversionFlow::ended, this, &AppDelegate::showIntake);
+    connect(&m_conversion, &ConversionFlow::ended, this, &AppDelegate::showIntake);
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -254,7 +240,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
-    m_conversion->stayOpen();
+    m_conversion.stayOpen();
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     if (!hasVisibleWindows)
@@ -265,7 +251,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion->mayCloseNow()) {
+    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion.mayCloseNow()) {
         event->ignore();
         return true;
     }
@@ -278,21 +264,19 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void AppDelegate::takeFiles(const QStringList &paths) { m_intake->takeFiles(paths); }
-
 void AppDelegate::showRefusal(const Outcome &refusal)
 {
     if (m_uiState != WindowUIState::InitialState)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
-    applyWindowUIState(*m_outlets, m_uiState);
+    m_outlets->refusalLabel->show();
     m_announcement->say(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)
 {
     m_chosenEntry = item;
-    m_conversion->choose(FormatEntries::constraintsOf(*m_outlets, item));
+    m_conversion.choose(FormatEntries::constraintsOf(*m_outlets, item));
 }
 
 void AppDelegate::updateProgress(double fraction, qint64 seconds)
@@ -307,8 +291,10 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
 
 void AppDelegate::cancelProgressPressed()
 {
-    if (m_uiState == WindowUIState::WaitingForCover)
-        m_intake->cancel();
-    else
-        m_conversion->cancelIfConfirmed();
+    if (m_uiState != WindowUIState::WaitingForCover) {
+        m_conversion.cancelIfConfirmed();
+    } else {
+        m_intake.cancel();
+        setUiState(WindowUIState::InitialState);
+    }
 }

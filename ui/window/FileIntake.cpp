@@ -93,9 +93,3 @@ void FileIntake::takeAgain()
     if (isReady() && m_processingInfo)
         Q_EMIT examined(m_cover, m_duration);
 }
-
-void FileIntake::cancel()
-{
-    ++m_count;
-    Q_EMIT cancelled();
-}

@@ -33,7 +33,7 @@ public:
     /// Takes the file that was examined last without examining it again.
     void takeAgain();
     /// No answer comes about the file that is being examined.
-    void cancel();
+    void cancel() { ++m_count; }
 
     /// The file that was examined last, with what the tool says about it.
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
@@ -44,7 +44,6 @@ public:
 Q_SIGNALS:
     void started(const QString &path);
     void kept();
-    void cancelled();
     void examined(const QImage &cover, const QString &duration);
     void refused(const Outcome &refusal);
 
