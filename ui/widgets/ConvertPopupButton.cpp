@@ -128,8 +128,7 @@ QColor ConvertPopupButton::faceColor() const
     if (!isEnabled())
         return palette().color(QPalette::Disabled, QPalette::Button);
     const QColor accent = palette().color(QPalette::Highlight);
-    const bool pressed = isDown() || (menu() && menu()->isVisible());
-    if (pressed)
+    if (isDown())
         return accent.darker(118);
     return underMouse() ? accent.darker(108) : accent;
 }

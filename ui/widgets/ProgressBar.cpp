@@ -31,8 +31,7 @@ void ProgressBar::setFraction(double fraction)
         setRange(0, busy ? 0 : steps);
         busy ? m_busyTurn.start() : m_busyTurn.stop();
     }
-    m_fraction = std::clamp(fraction, 0.0, 1.0);
-    setValue(static_cast<int>(m_fraction * steps));
+    setValue(static_cast<int>(std::clamp(fraction, 0.0, 1.0) * steps));
     // The base class would wait for a whole chunk of its style.
     update();
 }
@@ -60,7 +59,7 @@ void ProgressBar::paintEvent(QPaintEvent *)
             (groove.width() + filled.width()) * m_busyTurn.currentValue() - filled.width());
         filled = filled.intersected(groove);
     } else {
-        filled.setWidth(groove.width() * m_fraction);
+        filled.setWidth(groove.width() * value() / steps);
     }
     if (filled.width() < 1)
         return;

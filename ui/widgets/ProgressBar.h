@@ -23,6 +23,5 @@ protected:
 private:
     [[nodiscard]] bool isBusy() const { return maximum() == 0; }
 
-    double m_fraction = 0;
     QTimeLine m_busyTurn;
 };

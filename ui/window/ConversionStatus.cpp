@@ -91,7 +91,6 @@ QString ConversionStatus::timeLeft()
                 : QString();
 }
 
-// Two digits and a point, or what is as wide.
 QString ConversionStatus::speed() const
 {
     const double speed = double(m_seconds) * 1000 / double(std::max<qint64>(m_clock.elapsed(), 1));

@@ -107,8 +107,7 @@ void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
             ? localized(QT_TRANSLATE_NOOP3("Localizable",
                 "Second try, in another way: the first one could not work.", "while converting"))
             : QString());
-    if (isSecondTry)
-        applyWindowUIState(m_outlets, WindowUIState::Converting);
+    m_outlets.secondTryLabel->setVisible(isSecondTry);
 }
 
 void StateNotes::resultIsThere(const Outcome &outcome)
