@@ -182,24 +182,19 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->uiState(), State::Converting);
         m_user.saysYes = true;
         QVERIFY(!window->close());
-        QVERIFY(window->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 10000);
-        QCOMPARE(files(), QStringList{ u"video.mov"_s });
-    }
-
-    void close_isTakenBackByTheNextVideo()
-    {
-        auto *window = m_delegate->window();
-        QVERIFY(convert("deaf|reports:3000:20000"));
-        m_user.saysYes = true;
-        QVERIFY(!window->close());
         ToolSwap::setScript("exit:0");
         QVERIFY(waitFor(State::InitialState));
+        // The next video takes it back.
         m_delegate->takeFiles({ m_video });
         QVERIFY(waitFor(State::CoverIsSet));
         QTRY_COMPARE_WITH_TIMEOUT(Processes::children(), QStringList(), 10000);
         QTest::qWait(50);
         QVERIFY(window->isVisible() && window->isEnabled());
+
+        QVERIFY(convert("deaf|reports:3000:20000"));
+        QVERIFY(!window->close() && window->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 10000);
+        QCOMPARE(files(), QStringList{ u"video.mov"_s });
     }
 
     void desktop_isTold()
