@@ -94,10 +94,9 @@ QString ConversionStatus::timeLeft()
 QString ConversionStatus::speed() const
 {
     const double speed = double(m_seconds) * 1000 / double(std::max<qint64>(m_clock.elapsed(), 1));
-    const QString number = speed < 9.95 ? QLocale().toString(speed, 'f', 1)
-        : speed < 99.5                  ? punctuationSpace + QLocale().toString(qRound(speed))
-                                        : QLocale().toString(qRound(speed));
-    return number + u'×';
+    const int decimals = speed < 9.95 ? 1 : 0;
+    const int spaces = decimals == 0 && speed < 99.5 ? 1 : 0;
+    return QString(spaces, punctuationSpace) + QLocale().toString(speed, 'f', decimals) + u'×';
 }
 
 void ConversionStatus::showWork()
@@ -122,8 +121,7 @@ void ConversionStatus::showWork()
             { titleParts.join(u" · "_s), m_title });
     }
     m_window->setWindowTitle(title);
-    if (const QString text = VideoWords::joined(parts); text != m_workLabel->text())
-        m_workLabel->setText(text);
+    m_workLabel->setText(VideoWords::joined(parts));
 }
 
 void ConversionStatus::notify(const QString &title, const QString &text)

@@ -26,14 +26,13 @@ void FileIntake::takeFiles(const QStringList &paths)
 {
     if (paths.isEmpty())
         return;
-    m_kept.clear();
     if (isReady()) {
         processFile(paths.constFirst());
         m_leftOut = paths.sliced(1);
-        return;
+    } else {
+        m_kept = paths.constFirst();
+        Q_EMIT kept();
     }
-    m_kept = paths.constFirst();
-    Q_EMIT kept();
 }
 
 void FileIntake::takeKept()

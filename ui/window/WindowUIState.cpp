@@ -28,11 +28,7 @@ void showWithText(QWidget *view, bool value)
     view->setVisible(value && !view->property("text").toString().isEmpty());
 }
 
-void spin(QWidget *view, bool value)
-{
-    static_cast<SpinningView *>(view)->setSpinning(value);
-    view->setVisible(value);
-}
+void spin(QWidget *view, bool value) { static_cast<SpinningView *>(view)->setSpinning(value); }
 
 void enable(QWidget *view, bool value) { view->setEnabled(value); }
 
@@ -65,6 +61,7 @@ constexpr Row rows[] = {
     {enable,           OUTLET(convertToButton),               {no,   no,     yes,     yes,      yes}},
     {setAllowDragDrop, OUTLET(dropAcceptor),                  {yes,  no,     yes,     no,       yes}},
 
+    {show,             OUTLET(spinner),                       {no,   yes,    no,      no,       no}},
     {show,             OUTLET(examiningLabel),                {no,   yes,    no,      no,       no}},
     {show,             OUTLET(stopExaminingButton),           {no,   yes,    no,      no,       no}},
     {showWithText,     OUTLET(refusalLabel),                  {yes,  no,     no,      no,       no}},
