@@ -21,13 +21,12 @@ void DesktopNotification::show(const QString &title, const QString &text)
         m_listening = QDBusConnection::sessionBus().connect(notifications.service,
             notifications.path, notifications.interface, u"ActionInvoked"_s, this,
             SLOT(actionInvoked(uint, QString)));
-    const QStringList actions{ u"default"_s, QString() };
-    const QVariantMap hints{ { u"desktop-entry"_s, QGuiApplication::desktopFileName() } };
+    const QString program = QGuiApplication::desktopFileName();
     constexpr int expiryOfTheDesktop = -1;
     // The text is markup to the desktop, the title is not.
-    const QVariantList arguments{ QGuiApplication::applicationDisplayName(), m_id,
-        QGuiApplication::desktopFileName(), title, text.toHtmlEscaped(), actions, hints,
-        expiryOfTheDesktop };
+    const QVariantList arguments{ QGuiApplication::applicationDisplayName(), m_id, program, title,
+        text.toHtmlEscaped(), QStringList{ u"default"_s, QString() },
+        QVariantMap{ { u"desktop-entry"_s, program } }, expiryOfTheDesktop };
     DesktopBus::call(notifications, u"Notify"_s, arguments,
         [self = QPointer(this), generation = ++m_generation](const QDBusMessage &answer) {
             const uint id = answer.arguments().value(0).toUInt();

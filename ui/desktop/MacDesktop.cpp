@@ -26,7 +26,7 @@ std::shared_ptr<void> keepAwake(const QString & /*reason*/)
     return process;
 }
 
-void LauncherProgress::update(int /*percent*/, bool /*urgent*/) { }
+void LauncherProgress::show(std::optional<int> /*percent*/, bool /*urgent*/) { }
 
 void DesktopNotification::show(const QString & /*title*/, const QString & /*text*/) { }
 void DesktopNotification::close() { }

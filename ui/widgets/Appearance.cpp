@@ -48,15 +48,6 @@ constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
 constexpr auto contrastKey = "contrast"_L1;
 
-/// The style's own plain colours mean that no desktop has set any.
-bool platformHasColors()
-{
-    const QStyle &style = *QApplication::style();
-    return style.name() != "fusion"_L1
-        || QApplication::palette().color(QPalette::Window)
-        != style.standardPalette().color(QPalette::Window);
-}
-
 }
 
 QPalette Appearance::palette(Look look)
@@ -82,7 +73,10 @@ QPalette Appearance::palette(Look look)
 
 Appearance::Appearance()
 {
-    if (platformHasColors())
+    // The style's own plain colours mean that no desktop has set any.
+    const QStyle &style = *QApplication::style();
+    const QColor plain = style.standardPalette().color(QPalette::Window);
+    if (style.name() != "fusion"_L1 || QApplication::palette().color(QPalette::Window) != plain)
         return;
     QApplication::setPalette(palette(m_look));
 #ifdef Q_OS_LINUX
@@ -90,8 +84,7 @@ Appearance::Appearance()
         u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s };
     QDBusConnection::sessionBus().connect(settings.service, settings.path, settings.interface,
         u"SettingChanged"_s, this, SLOT(settingChanged(QString, QString, QDBusVariant)));
-    for (const QLatin1StringView each : { schemeKey, contrastKey }) {
-        const QString key = each;
+    for (const QString &key : { QString(schemeKey), QString(contrastKey) }) {
         DesktopBus::call(settings, u"Read"_s, { QString(appearanceSpace), key },
             [self = QPointer(this), key](const QDBusMessage &answer) {
                 if (!self || answer.type() != QDBusMessage::ReplyMessage)

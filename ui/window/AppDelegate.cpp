@@ -30,16 +30,6 @@ namespace {
 
 const QString placeKey = u"WindowPlace"_s;
 
-/// What is hidden keeps its place, so that nothing jumps when the state changes.
-void keepPlaces(const Ui::MainWindow &outlets)
-{
-    for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
-        QSizePolicy policy = view->sizePolicy();
-        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
-        view->setSizePolicy(policy);
-    }
-}
-
 void enlarge(QLabel *label, double factor)
 {
     QFont font = label->font();
@@ -50,7 +40,12 @@ void enlarge(QLabel *label, double factor)
 
 void dress(const Ui::MainWindow &outlets, int line)
 {
-    keepPlaces(outlets);
+    // What is hidden keeps its place, so that nothing jumps when the state changes.
+    for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
+        QSizePolicy policy = view->sizePolicy();
+        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
+        view->setSizePolicy(policy);
+    }
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
     for (QLabel *dimmed : std::initializer_list<QLabel *>{ outlets.refusalLabel,

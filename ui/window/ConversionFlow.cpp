@@ -226,8 +226,3 @@ void ConversionFlow::openResult() const
     else
         openFolder();
 }
-
-QByteArray ConversionFlow::lastToolOutput() const
-{
-    return m_run ? m_run->toolOutput() : QByteArray();
-}

@@ -32,7 +32,10 @@ public:
     void openResult() const;
 
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
-    [[nodiscard]] QByteArray lastToolOutput() const;
+    [[nodiscard]] QByteArray lastToolOutput() const
+    {
+        return m_run ? m_run->toolOutput() : QByteArray();
+    }
 
 Q_SIGNALS:
     /// What the tool is started for; a second time where the first try could not work.

@@ -34,7 +34,7 @@ ConversionStatus::ConversionStatus(QWidget *window, QLabel *workLabel)
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
         [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive && !m_timer.isActive())
-                m_launcher.clear();
+                m_launcher.show({});
         });
 }
 
@@ -52,13 +52,13 @@ void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
     } else if (from == WindowUIState::Converting) {
         m_timer.stop();
         m_keepAwake.reset();
-        m_launcher.clear();
+        m_launcher.show({});
         m_percent = -1;
         m_window->setWindowTitle(m_title);
         m_workLabel->clear();
     }
     if (to == WindowUIState::ConversionIsDone && !m_window->isActiveWindow())
-        m_launcher.finish();
+        m_launcher.show({}, true);
     if (to == WindowUIState::WaitingForCover || to == WindowUIState::Converting)
         m_notification.close();
 }

@@ -89,16 +89,16 @@ void StateNotes::videoWasExamined(const QImage &cover, const QString &duration)
         QT_TRANSLATE_NOOP3("Localizable", "Open “%@” again", "with the name of the last video"),
         { Path::lastPathComponent(path) }));
     const qint64 others = m_intake.leftOut().size();
-    m_outlets.leftOutLabel->setText(others == 0
-            ? QString()
-            : formatted(QT_TRANSLATE_NOOP3("Localizable",
-                            "One video is converted at a time here. Left out: %d",
-                            "several videos were dropped, with the number of the others"),
-                { others }));
-    m_outlets.copyCommandLabel->setText(others == 0
-            ? QString()
-            : localized(QT_TRANSLATE_NOOP3("Localizable", "Copy command",
-                "copies a command line that converts several videos")));
+    m_outlets.leftOutLabel->clear();
+    m_outlets.copyCommandLabel->clear();
+    if (others == 0)
+        return;
+    m_outlets.leftOutLabel->setText(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "One video is converted at a time here. Left out: %d",
+            "several videos were dropped, with the number of the others"),
+        { others }));
+    m_outlets.copyCommandLabel->setText(localized(QT_TRANSLATE_NOOP3(
+        "Localizable", "Copy command", "copies a command line that converts several videos")));
 }
 
 void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
