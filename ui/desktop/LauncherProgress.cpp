@@ -5,8 +5,6 @@
 #include <QDBusMessage>
 #include <QGuiApplication>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 void LauncherProgress::show(std::optional<int> percent, bool urgent)
@@ -15,7 +13,7 @@ void LauncherProgress::show(std::optional<int> percent, bool urgent)
         return;
     m_percent = percent;
     m_urgent = urgent;
-    const QVariantMap properties{ { u"progress"_s, std::min(percent.value_or(0), 100) / 100.0 },
+    const QVariantMap properties{ { u"progress"_s, percent.value_or(0) / 100.0 },
         { u"progress-visible"_s, percent.has_value() }, { u"urgent"_s, urgent } };
     QDBusMessage signal = QDBusMessage::createSignal(
         u"/org/example/VideoConverter"_s, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);

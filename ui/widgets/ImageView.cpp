@@ -108,8 +108,7 @@ void ImageView::paintImage(QPainter &painter)
     if (m_scaled.size() != shown)
         m_scaled = QPixmap::fromImage(
             m_image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    const QSizeF pictureSize = QSizeF(shown) / devicePixelRatio();
-    const QRectF target = centred(pictureSize, rect());
+    const QRectF target = centred(QSizeF(shown) / devicePixelRatio(), rect());
     QPainterPath corners;
     corners.addRoundedRect(rect(), cornerRadius, cornerRadius);
     QPainterPath outline;

@@ -31,7 +31,7 @@ void ProgressBar::setFraction(double fraction)
         setRange(0, busy ? 0 : steps);
         busy ? m_busyTurn.start() : m_busyTurn.stop();
     }
-    setValue(static_cast<int>(std::clamp(fraction, 0.0, 1.0) * steps));
+    setValue(static_cast<int>(std::max(fraction, 0.0) * steps));
     // The base class would wait for a whole chunk of its style.
     update();
 }

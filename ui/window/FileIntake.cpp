@@ -15,11 +15,6 @@
 
 using namespace Qt::StringLiterals;
 
-FileIntake::FileIntake(QWidget *window)
-    : m_window(window)
-{
-}
-
 bool FileIntake::isReady() const { return m_isOpen && !QApplication::activeModalWidget(); }
 
 void FileIntake::takeFiles(const QStringList &paths)

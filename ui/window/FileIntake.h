@@ -17,7 +17,10 @@ class FileIntake : public QObject {
     Q_OBJECT
 
 public:
-    explicit FileIntake(QWidget *window);
+    explicit FileIntake(QWidget *window)
+        : m_window(window)
+    {
+    }
 
     /// Files are taken only while this is set; further ones of several are left out.
     void setOpen(bool open) { m_isOpen = open; }
