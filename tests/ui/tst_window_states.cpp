@@ -3,7 +3,6 @@
 #include "tests/ui/WindowTest.h"
 #include "ui/widgets/DropBox.h"
 #include "ui/widgets/ImageView.h"
-#include "ui/widgets/SpinningView.h"
 #include "ui/widgets/TextField.h"
 
 #include <QAccessible>
@@ -67,8 +66,6 @@ private Q_SLOTS:
             QTEST(shown(), "shown");
             QTEST(allowDragDrop(view("dropAcceptor")), "takesFiles");
             QCOMPARE(cover->image().isNull(), state < WindowUIState::CoverIsSet);
-            QCOMPARE(
-                find<SpinningView>("spinner")->spinning(), state == WindowUIState::WaitingForCover);
         }
         QCoreApplication::processEvents();
         QCOMPARE(view("stage")->geometry(), stage);
