@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWidget>
 
 bool Clickable::isPressed(const QWidget &view, const QEvent &event)
 {
