@@ -188,22 +188,6 @@ private Q_SLOTS:
         QVERIFY(!window->isVisible());
     }
 
-    /// Files from elsewhere are not lost while a video is converted.
-    void file_waitsForTheOneBefore()
-    {
-        QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
-        QVERIFY(convert("reports:3000:20000"));
-        m_delegate->takeFiles({ path(u"next.mov"_s) });
-        QVERIFY(view("keptLabel")->isVisible());
-        QCOMPARE(find<QLabel>("keptLabel")->text(), u"Next: “next.mov”"_s);
-        m_swap.reset();
-        m_user.saysYes = true;
-        click("cancelProgressButton");
-        QVERIFY(waitFor(WindowUIState::CoverIsSet));
-        QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
-        QVERIFY(!view("keptLabel")->isVisible());
-    }
-
     void file_arrivesOnEveryWay()
     {
         QFileOpenEvent event(m_video);
