@@ -7,7 +7,6 @@
 
 namespace FileBrowser {
 
-/// In its folder.
 void reveal(const QString &filePath);
 
 /// In the program that the desktop has for this file or folder.

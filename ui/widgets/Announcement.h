@@ -10,6 +10,5 @@ class Announcement : public QWidget {
 public:
     explicit Announcement(QWidget *window);
 
-    /// What the outlet is called or shows.
     void say(QWidget *outlet);
 };

@@ -13,6 +13,7 @@ namespace Ui {
 class MainWindow;
 }
 
+/// The entries of the format menu.
 namespace FormatEntries {
 
 /// Lets screen readers read what they do; the one that was used last is the menu's default.

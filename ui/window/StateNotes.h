@@ -29,7 +29,6 @@ private:
     void clearFailure();
     void copyCommand();
     void showLog();
-    /// Lets the user drag the result out of its picture, into a file manager or a mail.
     void dragResult() const;
 
     Ui::MainWindow &m_outlets;
