@@ -28,15 +28,10 @@ private:
     /// The whole screen, as menus and dialogs are windows of their own.
     void take(const QString &name)
     {
-        QTest::qWait(250);
-        QWindow *window = m_delegate->window()->windowHandle();
-        const QPixmap picture = window->screen()->grabWindow(0);
-        QVERIFY(picture.save(m_pictures + u'/' + name + u".png"_s));
-    }
-    void centre()
-    {
-        auto *window = m_delegate->window();
+        QMainWindow *window = m_delegate->window();
         window->move(window->screen()->geometry().center() - window->rect().center());
+        QTest::qWait(250);
+        QVERIFY(window->screen()->grabWindow(0).save(m_pictures + u'/' + name + u".png"_s));
     }
     void drag(const QString &address, const QString &name)
     {
@@ -55,7 +50,6 @@ private:
 private Q_SLOTS:
     void states()
     {
-        centre();
         take(u"1-initial"_s);
         drag(url(u"video.mov"_s), u"1-dragged-file"_s);
         drag(u"http://localhost/page"_s, u"1-dragged-link"_s);
@@ -107,7 +101,6 @@ private Q_SLOTS:
 
     void outcomes()
     {
-        centre();
         Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
         QVERIFY(QFile::copy(m_video, path(u"result.mkv"_s)));

@@ -92,7 +92,6 @@ private Q_SLOTS:
         m_swap.reset();
         click("againLabel");
         QVERIFY(waitFor(State::CoverIsSet));
-
         m_swap = std::make_unique<ToolSwap>(u"ffmpeg"_s, ToolSwap::With::Nothing);
         m_user.names << u"result"_s;
         choose(u"MKV"_s);
@@ -168,22 +167,19 @@ private Q_SLOTS:
         front.show();
         front.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&front));
-        QTRY_COMPARE(desktop.calls(u"Inhibit"_s).size(), 1);
-        QCOMPARE(desktop.argument(u"Inhibit"_s, 1), QVariant(4U | 8U));
+        QTRY_COMPARE(desktop.argument(u"Inhibit"_s, 1), QVariant(4U | 8U));
         QCOMPARE(desktop.calls(u"Close"_s).size(), 0);
         QVERIFY(waitFor(State::ConversionIsDone));
         QTRY_COMPARE(desktop.calls(u"Close"_s).size(), 1);
         QCOMPARE(desktop.calls(u"Close"_s).constFirst().path(), u"/request"_s);
-        QTRY_COMPARE(desktop.calls(u"Notify"_s).size(), 1);
-        QCOMPARE(desktop.argument(u"Notify"_s, 4).toString(),
+        QTRY_COMPARE(desktop.argument(u"Notify"_s, 4).toString(),
             u"&lt;b&gt;a?b#100%d &amp; &quot;x&quot; %41\u00fc.mkv"_s);
         QCOMPARE(desktop.argument(u"Notify"_s, 5).toStringList().value(0), u"default"_s);
 
         desktop.click(6);
         desktop.click(7, u"other"_s);
         desktop.click(7);
-        QTRY_COMPARE(desktop.calls(u"ShowItems"_s).size(), 1);
-        QCOMPARE(desktop.argument(u"ShowItems"_s, 0).toStringList(),
+        QTRY_COMPARE(desktop.argument(u"ShowItems"_s, 0).toStringList(),
             QStringList(u"file://"_s + m_folder->path()
                 + u"/%3Cb%3Ea%3Fb%23100%25d%20&%20%22x%22%20%2541%C3%BC.mkv"_s));
         m_swap.reset();

@@ -196,7 +196,6 @@ private Q_SLOTS:
         QApplication::clipboard()->setMimeData(copied);
         const std::pair<const char *, std::function<void()>> ways[] = {
             { "label", [this] { click("openFromFolderLabel"); } },
-            { "menu", [this] { find<QAction>("openAction")->trigger(); } },
             { "drop",
                 [this] {
                     drop({ u"http://localhost/ignored"_s, url(u"video.mov"_s) });
