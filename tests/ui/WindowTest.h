@@ -31,9 +31,10 @@ protected:
     struct User {
         /// Of the alerts and questions so far.
         QStringList read;
-        /// Before a message or a file dialog is answered.
+        /// Before a message or a file dialog is answered, or what is dragged is dropped.
         std::function<void()> whileReading = [] {};
         std::function<void()> whileAnswering = [] {};
+        std::function<void()> whileDragging = [] {};
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
         /// File dialogs so far.

@@ -148,7 +148,7 @@ private Q_SLOTS:
         auto *window = m_delegate->window();
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
         QTRY_COMPARE(m_user.sheets, 1);
-        QTRY_VERIFY(!QApplication::activeModalWidget());
+        QVERIFY(QTest::qWaitForWindowActive(window));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         m_user.names << m_video << u"by keyboard"_s;
         QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
