@@ -3,7 +3,6 @@
 
 #include <QImage>
 #include <QPixmap>
-#include <QPoint>
 #include <QWidget>
 
 /// A drawing in one colour. Units: pixels of the device.
