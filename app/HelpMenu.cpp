@@ -38,27 +38,24 @@ void addHelpMenu(AppDelegate &delegate, Updater &updater)
 {
     QMainWindow *window = delegate.window();
     auto *menu = window->findChild<QMenu *>(u"helpMenu"_s);
-    auto *showLog = new QAction(localized(QT_TRANSLATE_NOOP3("Localizable", "Show Conversion Log",
-                                    "menu command, opens a window")),
-        menu);
-    QObject::connect(
-        showLog, &QAction::triggered, menu, [&delegate, log = QPointer<QDialog>()]() mutable {
+    QAction *about = menu->actions().constFirst();
+    auto *showLog = menu->addAction(localized(QT_TRANSLATE_NOOP3("Localizable",
+                                        "Show Conversion Log", "menu command, opens a window")),
+        menu, [&delegate, log = QPointer<QDialog>()]() mutable {
             if (log)
                 log->close();
             log = showConversionLog(delegate);
         });
     QObject::connect(menu, &QMenu::aboutToShow, showLog,
         [&delegate, showLog] { showLog->setEnabled(!delegate.lastToolOutput().isEmpty()); });
-    auto *check = new QAction(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Check for Updates…", "menu command")), menu);
-    check->setMenuRole(QAction::ApplicationSpecificRole);
-    QObject::connect(check, &QAction::triggered, &updater, &Updater::checkForUpdates);
-    menu->insertActions(menu->actions().value(0), { showLog, check });
+    menu->addAction(
+            localized(QT_TRANSLATE_NOOP3("Localizable", "Check for Updates…", "menu command")),
+            &updater, &Updater::checkForUpdates)
+        ->setMenuRole(QAction::ApplicationSpecificRole);
+    menu->addAction(about);
 
-    auto *settings = window->findChild<QMenu *>(u"editMenu"_s)
-                         ->addAction(localized(
-                             QT_TRANSLATE_NOOP3("Localizable", "Settings…", "menu command")));
-    settings->setMenuRole(QAction::PreferencesRole);
-    settings->setShortcut(Qt::CTRL | Qt::Key_Comma);
-    QObject::connect(settings, &QAction::triggered, window, [window] { openSettings(window); });
+    window->findChild<QMenu *>(u"editMenu"_s)
+        ->addAction(localized(QT_TRANSLATE_NOOP3("Localizable", "Settings…", "menu command")),
+            Qt::CTRL | Qt::Key_Comma, window, [window] { openSettings(window); })
+        ->setMenuRole(QAction::PreferencesRole);
 }

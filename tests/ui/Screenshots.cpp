@@ -8,10 +8,7 @@
 #include "ui/widgets/Appearance.h"
 
 #include <QAction>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QScreen>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -28,42 +25,26 @@ private:
     /// The whole screen, as menus and dialogs are windows of their own.
     void take(const QString &name)
     {
-        QTest::qWait(250);
-        QWindow *window = m_delegate->window()->windowHandle();
-        const QPixmap picture = window->screen()->grabWindow(0);
-        QVERIFY(picture.save(m_pictures + u'/' + name + u".png"_s));
-    }
-    void centre()
-    {
-        auto *window = m_delegate->window();
+        QMainWindow *window = m_delegate->window();
         window->move(window->screen()->geometry().center() - window->rect().center());
-    }
-    void drag(const QString &address, const QString &name)
-    {
-        QMimeData data;
-        data.setUrls({ QUrl(address) });
-        QWindow *window = m_delegate->window()->windowHandle();
-        const QPoint place(window->width() / 2, window->height() / 2);
-        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(window, &enter);
-        take(name);
-        QDragLeaveEvent leave;
-        QApplication::sendEvent(window, &leave);
+        QTest::qWait(250);
+        QVERIFY(window->screen()->grabWindow(0).save(m_pictures + u'/' + name + u".png"_s));
     }
     QString m_pictures;
 
 private Q_SLOTS:
     void states()
     {
-        centre();
         take(u"1-initial"_s);
-        drag(url(u"video.mov"_s), u"1-dragged-file"_s);
-        drag(u"http://localhost/page"_s, u"1-dragged-link"_s);
+        m_user.whileDragging = [this] { take(u"1-dragged-link"_s); };
+        drop({ u"http://localhost/page"_s });
+        m_user.whileDragging = [this] { take(u"1-dragged-file"_s); };
         m_user.whileReading = [this] { take(u"6-refused-alert"_s); };
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         drop({ url(u"empty.mov"_s) });
         QTRY_COMPARE(m_user.read.size(), 1);
         take(u"6-refused"_s);
+        m_user.whileDragging = [] {};
         m_swap = std::make_unique<ToolSwap>(
             u"ffprobe"_s, ToolSwap::With::FakeTool, "sleep:1500|exit:1");
         drop({ url(u"video.mov"_s) });
@@ -107,7 +88,6 @@ private Q_SLOTS:
 
     void outcomes()
     {
-        centre();
         Media::video(path(u"cut.mkv"_s), 9);
         QVERIFY(QFile::resize(path(u"cut.mkv"_s), QFileInfo(path(u"cut.mkv"_s)).size() * 3 / 4));
         QVERIFY(QFile::copy(m_video, path(u"result.mkv"_s)));

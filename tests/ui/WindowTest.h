@@ -29,12 +29,12 @@ class WindowTest : public QObject {
 protected:
     /// How the user answers the dialogs that come up, and what they said.
     struct User {
-        /// Texts of the alerts and questions so far.
+        /// Of the alerts and questions so far.
         QStringList read;
-        /// Before a message is answered.
+        /// Before a message or a file dialog is answered, or what is dragged is dropped.
         std::function<void()> whileReading = [] {};
-        /// Before a file dialog is answered.
         std::function<void()> whileAnswering = [] {};
+        std::function<void()> whileDragging = [] {};
         /// Answers questions with Yes; otherwise they get what Return gives.
         bool saysYes = false;
         /// File dialogs so far.

@@ -18,9 +18,6 @@ private:
 
     void start(QProcess &program, const QString &video) const
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_RUNTIME_DIR"_s, m_folder.path());
-        program.setProcessEnvironment(environment);
         program.setWorkingDirectory(m_folder.path());
         program.start(QStringLiteral(VC_PROGRAM), { video });
     }
@@ -28,6 +25,7 @@ private:
 private Q_SLOTS:
     void everyStart_opensItsVideoInOneWindow()
     {
+        qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
         QProcess first;
         QByteArray console;
         // The console tells of the cover that is taken from each video.

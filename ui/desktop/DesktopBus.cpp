@@ -5,9 +5,8 @@
 #include <QDBusError>
 #include <QDBusPendingCallWatcher>
 
-namespace DesktopBus {
-
-void call(const QDBusConnection &bus, const QDBusMessage &method, const Answer &answer)
+void DesktopBus::call(const Object &object, const QString &method, const QVariantList &arguments,
+    const Answer &answer, const QDBusConnection &bus)
 {
     constexpr int limit = 20'000;
     // Without a connection a pending call never ends.
@@ -16,7 +15,10 @@ void call(const QDBusConnection &bus, const QDBusMessage &method, const Answer &
             QCoreApplication::instance(),
             [answer] { answer(QDBusMessage::createError(QDBusError::Disconnected, QString())); },
             Qt::QueuedConnection));
-    const QDBusPendingCall pending = bus.asyncCall(method, limit);
+    QDBusMessage message
+        = QDBusMessage::createMethodCall(object.service, object.path, object.interface, method);
+    message.setArguments(arguments);
+    const QDBusPendingCall pending = bus.asyncCall(message, limit);
     if (!answer)
         return;
     auto *watcher = new QDBusPendingCallWatcher(pending, QCoreApplication::instance());
@@ -25,6 +27,4 @@ void call(const QDBusConnection &bus, const QDBusMessage &method, const Answer &
             finished->deleteLater();
             answer(finished->reply());
         });
-}
-
 }

@@ -10,31 +10,24 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString service = u"org.freedesktop.Notifications"_s;
-const QString path = u"/org/freedesktop/Notifications"_s;
-
-void call(const QString &name, const QVariantList &arguments, const DesktopBus::Answer &answer = {})
-{
-    QDBusMessage method = QDBusMessage::createMethodCall(service, path, service, name);
-    method.setArguments(arguments);
-    DesktopBus::call(QDBusConnection::sessionBus(), method, answer);
-}
+const DesktopBus::Object notifications{ u"org.freedesktop.Notifications"_s,
+    u"/org/freedesktop/Notifications"_s, u"org.freedesktop.Notifications"_s };
 
 }
 
 void DesktopNotification::show(const QString &title, const QString &text)
 {
     if (!m_listening)
-        m_listening = QDBusConnection::sessionBus().connect(
-            service, path, service, u"ActionInvoked"_s, this, SLOT(actionInvoked(uint, QString)));
-    const QStringList actions{ u"default"_s, QString() };
-    const QVariantMap hints{ { u"desktop-entry"_s, QGuiApplication::desktopFileName() } };
+        m_listening = QDBusConnection::sessionBus().connect(notifications.service,
+            notifications.path, notifications.interface, u"ActionInvoked"_s, this,
+            SLOT(actionInvoked(uint, QString)));
+    const QString program = QGuiApplication::desktopFileName();
     constexpr int expiryOfTheDesktop = -1;
     // The text is markup to the desktop, the title is not.
-    const QVariantList arguments{ QGuiApplication::applicationDisplayName(), m_id,
-        QGuiApplication::desktopFileName(), title, text.toHtmlEscaped(), actions, hints,
-        expiryOfTheDesktop };
-    call(u"Notify"_s, arguments,
+    const QVariantList arguments{ QGuiApplication::applicationDisplayName(), m_id, program, title,
+        text.toHtmlEscaped(), QStringList{ u"default"_s, QString() },
+        QVariantMap{ { u"desktop-entry"_s, program } }, expiryOfTheDesktop };
+    DesktopBus::call(notifications, u"Notify"_s, arguments,
         [self = QPointer(this), generation = ++m_generation](const QDBusMessage &answer) {
             const uint id = answer.arguments().value(0).toUInt();
             if (answer.type() == QDBusMessage::ErrorMessage)
@@ -42,7 +35,7 @@ void DesktopNotification::show(const QString &title, const QString &text)
             if (self && self->m_generation == generation)
                 self->m_id = id;
             else if (!self || self->m_id != id)
-                call(u"CloseNotification"_s, { id });
+                DesktopBus::call(notifications, u"CloseNotification"_s, { id });
         });
 }
 
@@ -50,7 +43,7 @@ void DesktopNotification::close()
 {
     ++m_generation;
     if (const uint id = std::exchange(m_id, 0); id != 0)
-        call(u"CloseNotification"_s, { id });
+        DesktopBus::call(notifications, u"CloseNotification"_s, { id });
 }
 
 void DesktopNotification::actionInvoked(uint id, const QString &action)

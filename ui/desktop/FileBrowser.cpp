@@ -3,31 +3,17 @@
 
 #include "ui/desktop/DesktopBus.h"
 
-#include <QDesktopServices>
-#include <QFileInfo>
-#include <QUrl>
-
 using namespace Qt::StringLiterals;
 
-namespace FileBrowser {
-
-void reveal(const QString &filePath)
+void FileBrowser::reveal(const QString &filePath)
 {
     const QFileInfo file(QFileInfo(filePath).absoluteFilePath());
-    const QStringList uris{ QString::fromLatin1(QUrl::fromLocalFile(file.filePath()).toEncoded()) };
-    const QString service = u"org.freedesktop.FileManager1"_s;
-    QDBusMessage showItems = QDBusMessage::createMethodCall(
-        service, u"/org/freedesktop/FileManager1"_s, service, u"ShowItems"_s);
-    DesktopBus::call(QDBusConnection::sessionBus(), showItems << uris << QString(),
+    const QStringList uris{ QUrl::fromLocalFile(file.filePath()).toString(QUrl::FullyEncoded) };
+    const DesktopBus::Object fileManager{ u"org.freedesktop.FileManager1"_s,
+        u"/org/freedesktop/FileManager1"_s, u"org.freedesktop.FileManager1"_s };
+    DesktopBus::call(fileManager, u"ShowItems"_s, { uris, QString() },
         [folder = file.path()](const QDBusMessage &answer) {
             if (answer.type() == QDBusMessage::ErrorMessage)
-                openFolder(folder);
+                open(folder);
         });
-}
-
-void openFolder(const QString &folderPath)
-{
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(folderPath).absoluteFilePath()));
-}
-
 }

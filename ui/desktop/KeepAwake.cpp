@@ -11,20 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString portal = u"org.freedesktop.portal.Desktop"_s;
-constexpr uint suspendAndIdle = 4U | 8U;
-
-void closeRequest(const QDBusObjectPath &request)
-{
-    DesktopBus::call(QDBusConnection::sessionBus(),
-        QDBusMessage::createMethodCall(
-            portal, request.path(), u"org.freedesktop.portal.Request"_s, u"Close"_s));
-}
-
-}
-
-/// An answer that comes after the last owner left is given back at once.
-struct KeepAwake::Hold {
+/// Lives until nobody needs the machine awake, and at least until the desktop has answered.
+struct Hold {
     QDBusObjectPath request;
     QDBusUnixFileDescriptor descriptor;
 
@@ -33,37 +21,38 @@ struct KeepAwake::Hold {
     ~Hold()
     {
         if (!request.path().isEmpty())
-            closeRequest(request);
+            DesktopBus::call({ u"org.freedesktop.portal.Desktop"_s, request.path(),
+                                 u"org.freedesktop.portal.Request"_s },
+                u"Close"_s, {});
     }
 };
 
-void KeepAwake::start(const QString &reason)
-{
-    m_hold = std::make_shared<Hold>();
-    const std::weak_ptr<Hold> hold = m_hold;
-    const auto askLoginManager = [hold, reason] {
-        QDBusMessage inhibit = QDBusMessage::createMethodCall(u"org.freedesktop.login1"_s,
-            u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"Inhibit"_s);
-        inhibit << u"sleep:idle"_s << QCoreApplication::applicationName() << reason << u"block"_s;
-        DesktopBus::call(QDBusConnection::systemBus(), inhibit, [hold](const QDBusMessage &answer) {
-            if (const std::shared_ptr<Hold> owner = hold.lock())
-                owner->descriptor = answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
-        });
-    };
-    QDBusMessage inhibit = QDBusMessage::createMethodCall(portal,
-        u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Inhibit"_s, u"Inhibit"_s);
-    inhibit << QString() << suspendAndIdle << QVariantMap{ { u"reason"_s, reason } };
-    DesktopBus::call(QDBusConnection::sessionBus(), inhibit,
-        [hold, askLoginManager](const QDBusMessage &answer) {
-            const std::shared_ptr<Hold> owner = hold.lock();
-            const auto given = answer.arguments().value(0).value<QDBusObjectPath>();
-            if (answer.type() == QDBusMessage::ErrorMessage && owner)
-                askLoginManager();
-            else if (owner)
-                owner->request = given;
-            else if (!given.path().isEmpty())
-                closeRequest(given);
-        });
 }
 
-void KeepAwake::stop() { m_hold.reset(); }
+std::shared_ptr<void> keepAwake(const QString &reason)
+{
+    const auto hold = std::make_shared<Hold>();
+    const DesktopBus::Object portal{ u"org.freedesktop.portal.Desktop"_s,
+        u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Inhibit"_s };
+    constexpr uint suspendAndIdle = 4U | 8U;
+    const QVariantMap options{ { u"reason"_s, reason } };
+    const auto askLoginManager = [hold, reason] {
+        const DesktopBus::Object manager{ u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
+            u"org.freedesktop.login1.Manager"_s };
+        DesktopBus::call(
+            manager, u"Inhibit"_s,
+            { u"sleep:idle"_s, QCoreApplication::applicationName(), reason, u"block"_s },
+            [hold](const QDBusMessage &answer) {
+                hold->descriptor = answer.arguments().value(0).value<QDBusUnixFileDescriptor>();
+            },
+            QDBusConnection::systemBus());
+    };
+    DesktopBus::call(portal, u"Inhibit"_s, { QString(), suspendAndIdle, options },
+        [hold, askLoginManager](const QDBusMessage &answer) {
+            if (answer.type() == QDBusMessage::ErrorMessage)
+                askLoginManager();
+            else
+                hold->request = answer.arguments().value(0).value<QDBusObjectPath>();
+        });
+    return hold;
+}

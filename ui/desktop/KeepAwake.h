@@ -5,17 +5,6 @@
 
 #include <memory>
 
-/// Keeps the machine awake between start() and stop(), where the desktop allows it.
-class KeepAwake {
-public:
-    KeepAwake() = default;
-    Q_DISABLE_COPY_MOVE(KeepAwake)
-
-    /// The reason is shown to users who ask. A second start replaces the first.
-    void start(const QString &reason);
-    void stop();
-
-private:
-    struct Hold;
-    std::shared_ptr<Hold> m_hold;
-};
+/// The machine stays awake while the result lives, where the desktop allows it. The reason is shown
+/// to users who ask.
+[[nodiscard]] std::shared_ptr<void> keepAwake(const QString &reason);

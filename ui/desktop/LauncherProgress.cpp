@@ -5,18 +5,16 @@
 #include <QDBusMessage>
 #include <QGuiApplication>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
-void LauncherProgress::update(int percent, bool urgent)
+void LauncherProgress::show(std::optional<int> percent, bool urgent)
 {
     if (percent == m_percent && urgent == m_urgent)
         return;
     m_percent = percent;
     m_urgent = urgent;
-    const QVariantMap properties{ { u"progress"_s, std::clamp(percent, 0, 100) / 100.0 },
-        { u"progress-visible"_s, percent != hidden }, { u"urgent"_s, urgent } };
+    const QVariantMap properties{ { u"progress"_s, percent.value_or(0) / 100.0 },
+        { u"progress-visible"_s, percent.has_value() }, { u"urgent"_s, urgent } };
     QDBusMessage signal = QDBusMessage::createSignal(
         u"/org/example/VideoConverter"_s, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);
     signal << u"application://%1.desktop"_s.arg(QGuiApplication::desktopFileName()) << properties;

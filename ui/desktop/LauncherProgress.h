@@ -3,22 +3,19 @@
 
 #include <QtGlobal>
 
+#include <optional>
+
 /// The percentage on the program's icon in the task bar, where the desktop shows one.
 class LauncherProgress {
 public:
     LauncherProgress() = default;
-    ~LauncherProgress() { clear(); }
+    ~LauncherProgress() { show({}); }
     Q_DISABLE_COPY_MOVE(LauncherProgress)
 
-    void show(int percent) { update(percent, false); }
-    /// Takes the percentage away and asks for attention until clear().
-    void finish() { update(hidden, true); }
-    void clear() { update(hidden, false); }
+    /// Asks for attention while it is urgent.
+    void show(std::optional<int> percent, bool urgent = false);
 
 private:
-    void update(int percent, bool urgent);
-
-    static constexpr int hidden = -1;
-    int m_percent = hidden;
+    std::optional<int> m_percent;
     bool m_urgent = false;
 };

@@ -7,47 +7,26 @@
 #include "ui/desktop/LauncherProgress.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QProcess>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
-namespace FileBrowser {
-
-void reveal(const QString &filePath)
+void FileBrowser::reveal(const QString &filePath)
 {
     QProcess::startDetached(
         u"/usr/bin/open"_s, { u"-R"_s, filePath }, QFileInfo(filePath).absolutePath());
 }
 
-void openFolder(const QString &folderPath)
+std::shared_ptr<void> keepAwake(const QString & /*reason*/)
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folderPath));
-}
-
-}
-
-struct KeepAwake::Hold {
-    QProcess process;
-
-    Hold() = default;
-    Q_DISABLE_COPY_MOVE(Hold)
-    ~Hold() { process.kill(); }
-};
-
-void KeepAwake::start(const QString & /*reason*/)
-{
-    m_hold = std::make_shared<Hold>();
-    // It ends with this program, however that ends.
-    m_hold->process.start(u"/usr/bin/caffeinate"_s,
+    // Its destructor kills the process, which also ends with this program, however that ends.
+    const auto process = std::make_shared<QProcess>();
+    process->start(u"/usr/bin/caffeinate"_s,
         { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
+    return process;
 }
 
-void KeepAwake::stop() { m_hold.reset(); }
-
-void LauncherProgress::update(int /*percent*/, bool /*urgent*/) { }
+void LauncherProgress::show(std::optional<int> /*percent*/, bool /*urgent*/) { }
 
 void DesktopNotification::show(const QString & /*title*/, const QString & /*text*/) { }
 void DesktopNotification::close() { }

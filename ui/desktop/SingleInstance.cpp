@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -35,14 +34,6 @@ QString meetingPlace()
     return folder.isEmpty()
         ? folder
         : folder + "/video-converter-"_L1 + QString::fromLatin1(digest.first(16));
-}
-
-std::optional<QStringList> absolutePaths(const QByteArray &request)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(request);
-    const QStringList paths = document.toVariant().toStringList();
-    const bool valid = document.isArray() && std::ranges::all_of(paths, QDir::isAbsolutePath);
-    return valid ? std::optional(paths) : std::nullopt;
 }
 
 enum class Answer { Taken, Silence, Nobody };
@@ -109,10 +100,11 @@ void SingleInstance::read(QLocalSocket *peer)
             peer->abort();
         return;
     }
-    const auto paths = absolutePaths(peer->readLine(longestRequest));
-    if (!paths)
+    const QJsonDocument request = QJsonDocument::fromJson(peer->readLine(longestRequest));
+    const QStringList paths = request.toVariant().toStringList();
+    if (!request.isArray() || !std::ranges::all_of(paths, QDir::isAbsolutePath))
         return peer->abort();
     peer->write(taken);
     peer->disconnectFromServer();
-    Q_EMIT filesReceived(*paths);
+    Q_EMIT filesReceived(paths);
 }

@@ -3,12 +3,12 @@
 
 #include <QWidget>
 
-/// Says what happens to people who use a screen reader; shows nothing. Thread: main.
+/// Says what happens to people who use a screen reader, and what the views of this folder are.
+/// Made before those; shows nothing.
 class Announcement : public QWidget {
     Q_OBJECT
 public:
     explicit Announcement(QWidget *window);
 
-    /// Says what the outlet is called or shows.
     void say(QWidget *outlet);
 };

@@ -4,12 +4,9 @@
 #include <QApplication>
 #include <QPointer>
 #include <QStyle>
-#include <QVariant>
 #ifdef Q_OS_LINUX
 #include "ui/desktop/DesktopBus.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #endif
 
@@ -42,65 +39,64 @@ constexpr Shade shades[] = {
     {QPalette::Highlight,       0xff4d5bd8, 0xff5d6ae4},
     {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
     {QPalette::Link,            0xff4350cc, 0xff9aa5ff},
-    {QPalette::LinkVisited,     0xff7048c2, 0xffc3a6ff},
     {QPalette::ToolTipBase,     0xff2a2d36, 0xff3a3e4a},
     {QPalette::ToolTipText,     0xffffffff, 0xfff2f4fa},
 };
 // clang-format on
 
-QPalette palette(QRgb Shade::*tone)
-{
-    QPalette palette;
-    for (const Shade &shade : shades)
-        palette.setColor(shade.role, QColor::fromRgba(shade.*tone));
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
-        // The menu's headings are such texts, and have to be read.
-        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
-    }
-    return palette;
-}
-
-QPalette withHighContrast(QPalette palette, bool dark)
-{
-    const QColor ground = dark ? Qt::black : Qt::white;
-    const QColor ink = dark ? Qt::white : Qt::black;
-    for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
-        palette.setColor(role, ground);
-    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-             QPalette::PlaceholderText, QPalette::Dark }) {
-        palette.setColor(QPalette::Active, role, ink);
-        palette.setColor(QPalette::Inactive, role, ink);
-    }
-    return palette;
-}
-
 constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
 constexpr auto contrastKey = "contrast"_L1;
-
-/// The style's own plain colours mean that no desktop has set any.
-bool platformHasColors()
-{
-    const QStyle &style = *QApplication::style();
-    return style.name() != "fusion"_L1
-        || QApplication::palette().color(QPalette::Window)
-        != style.standardPalette().color(QPalette::Window);
-}
 
 }
 
 QPalette Appearance::palette(Look look)
 {
-    const QPalette plain = ::palette(look.isDark ? &Shade::dark : &Shade::light);
-    return look.hasHighContrast ? withHighContrast(plain, look.isDark) : plain;
+    QPalette palette;
+    for (const Shade &shade : shades)
+        palette.setColor(shade.role, QColor::fromRgba(look.isDark ? shade.dark : shade.light));
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        // The menu's headings are such texts, and have to be read.
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::PlaceholderText));
+    }
+    if (!look.hasHighContrast)
+        return palette;
+    for (const auto role : { QPalette::Window, QPalette::Base, QPalette::AlternateBase })
+        palette.setColor(role, look.isDark ? Qt::black : Qt::white);
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+             QPalette::PlaceholderText, QPalette::Dark }) {
+        for (const auto group : { QPalette::Active, QPalette::Inactive })
+            palette.setColor(group, role, look.isDark ? Qt::white : Qt::black);
+    }
+    return palette;
 }
 
 Appearance::Appearance()
 {
-    if (platformHasColors())
+    // The style's own plain colours mean that no desktop has set any.
+    const QStyle &style = *QApplication::style();
+    const QColor plain = style.standardPalette().color(QPalette::Window);
+    if (style.name() != "fusion"_L1 || QApplication::palette().color(QPalette::Window) != plain)
         return;
     QApplication::setPalette(palette(m_look));
-    askDesktop();
+#ifdef Q_OS_LINUX
+    const DesktopBus::Object settings{ u"org.freedesktop.portal.Desktop"_s,
+        u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s };
+    QDBusConnection::sessionBus().connect(settings.service, settings.path, settings.interface,
+        u"SettingChanged"_s, this, SLOT(settingChanged(QString, QString, QDBusVariant)));
+    for (const QString &key : { QString(schemeKey), QString(contrastKey) }) {
+        DesktopBus::call(settings, u"Read"_s, { QString(appearanceSpace), key },
+            [self = QPointer(this), key](const QDBusMessage &answer) {
+                if (!self || answer.type() != QDBusMessage::ReplyMessage)
+                    return;
+                // The portal wraps the value twice.
+                auto value = answer.arguments().value(0).value<QDBusVariant>();
+                if (value.variant().canConvert<QDBusVariant>())
+                    value = value.variant().value<QDBusVariant>();
+                self->settingChanged(appearanceSpace, key, value);
+            });
+    }
+#endif
 }
 
 #ifdef Q_OS_LINUX
@@ -116,30 +112,3 @@ void Appearance::settingChanged(const QString &space, const QString &key, const 
     QApplication::setPalette(palette(m_look));
 }
 #endif
-
-void Appearance::askDesktop()
-{
-#ifdef Q_OS_LINUX
-    const QString service = u"org.freedesktop.portal.Desktop"_s;
-    const QString path = u"/org/freedesktop/portal/desktop"_s;
-    const QString interface = u"org.freedesktop.portal.Settings"_s;
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, u"SettingChanged"_s, this,
-        SLOT(settingChanged(QString, QString, QDBusVariant)));
-    for (const QLatin1StringView each : { schemeKey, contrastKey }) {
-        const QString key = each;
-        QDBusMessage read = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
-        DesktopBus::call(bus, read << QString(appearanceSpace) << key,
-            [self = QPointer(this), key](const QDBusMessage &answer) {
-                if (!self || answer.type() != QDBusMessage::ReplyMessage
-                    || answer.arguments().isEmpty())
-                    return;
-                // The portal wraps the value twice.
-                auto value = answer.arguments().constFirst().value<QDBusVariant>();
-                if (value.variant().canConvert<QDBusVariant>())
-                    value = value.variant().value<QDBusVariant>();
-                self->settingChanged(appearanceSpace, key, value);
-            });
-    }
-#endif
-}

@@ -26,7 +26,5 @@ private Q_SLOTS:
 #endif
 
 private:
-    void askDesktop();
-
     Look m_look;
 };

@@ -75,8 +75,6 @@ ConvertPopupButton::ConvertPopupButton(QWidget *parent)
     setFont(faceFont);
     setText(m_cell.title());
     setAttribute(Qt::WA_Hover);
-    // Return presses it, as it does the other buttons.
-    setAutoDefault(true);
 }
 
 void ConvertPopupButton::setMenu(QMenu *menu)
@@ -125,28 +123,19 @@ QSize ConvertPopupButton::sizeHint() const
     return { text.width() + line * 7, line * 2 + 6 };
 }
 
-bool ConvertPopupButton::event(QEvent *event)
-{
-    if (event->type() == QEvent::FontChange) {
-        m_cell.setFont(font());
-        updateGeometry();
-    }
-    return QPushButton::event(event);
-}
-
 QColor ConvertPopupButton::faceColor() const
 {
     if (!isEnabled())
         return palette().color(QPalette::Disabled, QPalette::Button);
     const QColor accent = palette().color(QPalette::Highlight);
-    const bool pressed = isDown() || (menu() && menu()->isVisible());
-    if (pressed)
+    if (isDown())
         return accent.darker(118);
     return underMouse() ? accent.darker(108) : accent;
 }
 
 void ConvertPopupButton::paintEvent(QPaintEvent *)
 {
+    m_cell.setFont(font());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF face = QRectF(rect()).adjusted(3, 3, -3, -3);
@@ -163,11 +152,7 @@ void ConvertPopupButton::paintIndicator(QPainter &painter)
 {
     const double arrow = fontMetrics().height() * 0.24;
     const double inset = fontMetrics().height() * 1.3;
-    QPen pen = painter.pen();
-    pen.setWidthF(1.8);
-    pen.setCapStyle(Qt::RoundCap);
-    pen.setJoinStyle(Qt::RoundJoin);
-    painter.setPen(pen);
+    painter.setPen(QPen(painter.pen().color(), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const double titleCentre = m_cell.titleRectForBounds(rect()).center().y();
     const bool leftToRight = layoutDirection() == Qt::LeftToRight;
     painter.translate(leftToRight ? width() - inset : inset, titleCentre);

@@ -4,6 +4,7 @@
 #include "support/Localized.h"
 
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QPainter>
 #include <QUrl>
@@ -34,51 +35,50 @@ QStringList localFiles(const QMimeData *data)
 }
 
 /// Lies over a drop target while something is dragged over it, and says what a drop would do.
-class DropVeil : public QWidget {
+class DropVeil : public QLabel {
 public:
     explicit DropVeil(QWidget *target)
-        : QWidget(target)
+        : QLabel(target)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAlignment(Qt::AlignCenter);
+        setWordWrap(true);
+        setMargin(24);
+        QFont larger = font();
+        larger.setPointSizeF(larger.pointSizeF() * 1.45);
+        larger.setWeight(QFont::DemiBold);
+        setFont(larger);
         hide();
     }
 
-    void cover(const QWidget &target, const QString &text, bool isWelcome)
+    void cover(const QString &text, bool isWelcome)
     {
-        m_text = text;
         m_isWelcome = isWelcome;
-        setAccessibleName(text);
-        setGeometry(target.rect());
+        setForegroundRole(isWelcome ? QPalette::Link : QPalette::PlaceholderText);
+        setText(text);
+        setGeometry(parentWidget()->rect());
         raise();
         show();
-        update();
     }
 
 protected:
-    void paintEvent(QPaintEvent *) override
+    void paintEvent(QPaintEvent *event) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         QColor ground = palette().color(QPalette::Window);
         ground.setAlphaF(0.94F);
         painter.fillRect(rect(), ground);
-        const QColor ink
-            = palette().color(m_isWelcome ? QPalette::Link : QPalette::PlaceholderText);
+        const QColor ink = palette().color(foregroundRole());
         QColor tint = ink;
         tint.setAlphaF(m_isWelcome ? 0.1F : 0.0F);
         painter.setBrush(tint);
         painter.setPen(QPen(ink, 3, m_isWelcome ? Qt::SolidLine : Qt::DotLine));
         painter.drawRoundedRect(QRectF(rect()).adjusted(8, 8, -8, -8), 14, 14);
-        QFont larger = font();
-        larger.setPointSizeF(larger.pointSizeF() * 1.45);
-        larger.setWeight(QFont::DemiBold);
-        painter.setFont(larger);
-        painter.drawText(
-            rect().adjusted(24, 24, -24, -24), int(Qt::AlignCenter) | Qt::TextWordWrap, m_text);
+        QLabel::paintEvent(event);
     }
 
 private:
-    QString m_text;
     bool m_isWelcome = false;
 };
 
@@ -99,13 +99,14 @@ void DropBox::dropEvent(QDropEvent *event)
     answer(event);
     m_veil->hide();
     if (event->isAccepted())
-        Q_EMIT performDragOperation(event->mimeData());
+        Q_EMIT performDragOperation(localFiles(event->mimeData()));
 }
 
 void DropBox::answer(QDropEvent *event)
 {
     const bool holdsFiles = !localFiles(event->mimeData()).isEmpty();
-    const bool accepted = holdsFiles && allowDragDrop(this);
+    // What is dragged out of the window is no video to convert.
+    const bool accepted = holdsFiles && allowDragDrop(this) && !event->source();
     event->setDropAction(accepted ? Qt::CopyAction : Qt::IgnoreAction);
     event->setAccepted(accepted);
     const LocalizedText text = accepted ? LocalizedText QT_TRANSLATE_NOOP3("Localizable",
@@ -116,5 +117,5 @@ void DropBox::answer(QDropEvent *event)
             "over the window, while a file is dragged that it can't take now")
         : LocalizedText QT_TRANSLATE_NOOP3("Localizable", "Only files can be dropped here",
             "over the window, while something else than a file is dragged");
-    m_veil->cover(*this, localized(text), accepted);
+    m_veil->cover(localized(text), accepted);
 }

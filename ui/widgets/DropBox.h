@@ -22,8 +22,7 @@ public:
     explicit DropBox(QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    /// The data lives only during the call.
-    void performDragOperation(const QMimeData *data);
+    void performDragOperation(const QStringList &paths);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;

@@ -3,7 +3,8 @@
 
 #include "ui/widgets/Clickable.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
@@ -21,9 +22,21 @@ QRectF centred(const QSizeF &size, const QRectF &area)
 
 }
 
+QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color)
+{
+    QPixmap tinted(size);
+    tinted.fill(Qt::transparent);
+    QPainter painter(&tinted);
+    QSvgRenderer(resource).render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(tinted.rect(), color);
+    return tinted;
+}
+
 ImageView::ImageView(QWidget *parent)
     : QWidget(parent)
 {
+    setAttribute(Qt::WA_Hover);
 }
 
 void ImageView::setImage(const QImage &image)
@@ -46,20 +59,22 @@ QSize ImageView::sizeHint() const
     return (m_artworkSize * (fontMetrics().height() / referenceTextHeight)).toSize();
 }
 
-QSize ImageView::minimumSizeHint() const
-{
-    return sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? sizeHint() : QSize(1, 1);
-}
-
 bool ImageView::event(QEvent *event)
 {
+    if (event->type() == QEvent::MouseButtonPress)
+        m_pressedAt = static_cast<QMouseEvent *>(event)->pos();
     if (Clickable::isPressed(*this, *event)) {
         Q_EMIT clicked();
         return true;
     }
-    if (event->type() == QEvent::FontChange)
-        updateGeometry();
     return QWidget::event(event);
+}
+
+void ImageView::mouseMoveEvent(QMouseEvent *event)
+{
+    const int distance = (event->pos() - m_pressedAt).manhattanLength();
+    if ((event->buttons() & Qt::LeftButton) && distance >= QApplication::startDragDistance())
+        Q_EMIT dragged();
 }
 
 void ImageView::paintEvent(QPaintEvent *)
@@ -78,18 +93,11 @@ void ImageView::paintArtwork(QPainter &painter)
     const QSizeF room = this->size().boundedTo(sizeHint());
     const QSizeF size = m_artworkSize.scaled(room, Qt::KeepAspectRatio);
     const QRectF target = centred(size, rect());
-    QSvgRenderer drawing(m_artwork);
     if (!m_tinted)
-        return drawing.render(&painter, target);
-    QPixmap tinted((size * devicePixelRatio()).toSize());
-    tinted.fill(Qt::transparent);
-    QPainter tinter(&tinted);
-    drawing.render(&tinter);
-    tinter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        return QSvgRenderer(m_artwork).render(&painter, target);
     const bool hovered = underMouse() && isEnabled();
-    tinter.fillRect(
-        tinted.rect(), palette().color(hovered ? QPalette::Highlight : foregroundRole()));
-    tinter.end();
+    const QPixmap tinted = tintedArtwork(m_artwork, (size * devicePixelRatio()).toSize(),
+        palette().color(hovered ? QPalette::Highlight : foregroundRole()));
     painter.drawPixmap(target, tinted, tinted.rect());
 }
 
@@ -100,8 +108,7 @@ void ImageView::paintImage(QPainter &painter)
     if (m_scaled.size() != shown)
         m_scaled = QPixmap::fromImage(
             m_image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    const QSizeF pictureSize = QSizeF(shown) / devicePixelRatio();
-    const QRectF target = centred(pictureSize, rect());
+    const QRectF target = centred(QSizeF(shown) / devicePixelRatio(), rect());
     QPainterPath corners;
     corners.addRoundedRect(rect(), cornerRadius, cornerRadius);
     QPainterPath outline;

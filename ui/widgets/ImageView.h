@@ -5,6 +5,9 @@
 #include <QPixmap>
 #include <QWidget>
 
+/// A drawing in one colour. Units: pixels of the device.
+[[nodiscard]] QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color);
+
 /// Shows an image or a scalable drawing in proportion; a button where clicked() is listened to.
 class ImageView : public QWidget {
     Q_OBJECT
@@ -20,13 +23,15 @@ public:
     void setArtwork(const QString &resource);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void clicked();
+    /// The mouse moves on with its left button held.
+    void dragged();
 
 protected:
     bool event(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -38,4 +43,5 @@ private:
     QString m_artwork;
     QSizeF m_artworkSize;
     bool m_tinted = false;
+    QPoint m_pressedAt;
 };

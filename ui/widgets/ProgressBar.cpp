@@ -2,30 +2,26 @@
 #include "ui/widgets/ProgressBar.h"
 
 #include <QPainter>
-#include <QTimer>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int steps = 10000;
-constexpr int busyFrameMilliseconds = 40;
-constexpr int busyFrames = 45;
+constexpr int busyTurnMilliseconds = 1800;
 constexpr double busyWidth = 0.3;
 
 }
 
 ProgressBar::ProgressBar(QWidget *parent)
     : QProgressBar(parent)
-    , m_busyTimer(new QTimer(this))
+    , m_busyTurn(busyTurnMilliseconds)
 {
     setRange(0, steps);
     setTextVisible(false);
-    m_busyTimer->setInterval(busyFrameMilliseconds);
-    connect(m_busyTimer, &QTimer::timeout, this, [this] {
-        m_busyStep = (m_busyStep + 1) % busyFrames;
-        update();
-    });
+    m_busyTurn.setLoopCount(0);
+    m_busyTurn.setEasingCurve(QEasingCurve::Linear);
+    connect(&m_busyTurn, &QTimeLine::valueChanged, this, qOverload<>(&QWidget::update));
 }
 
 void ProgressBar::setFraction(double fraction)
@@ -33,10 +29,9 @@ void ProgressBar::setFraction(double fraction)
     const bool busy = fraction < 0;
     if (busy != isBusy()) {
         setRange(0, busy ? 0 : steps);
-        busy ? m_busyTimer->start() : m_busyTimer->stop();
+        busy ? m_busyTurn.start() : m_busyTurn.stop();
     }
-    m_fraction = std::clamp(fraction, 0.0, 1.0);
-    setValue(static_cast<int>(m_fraction * steps));
+    setValue(static_cast<int>(std::max(fraction, 0.0) * steps));
     // The base class would wait for a whole chunk of its style.
     update();
 }
@@ -59,12 +54,12 @@ void ProgressBar::paintEvent(QPaintEvent *)
     painter.setBrush(palette().color(QPalette::Link));
     QRectF filled = groove;
     if (isBusy()) {
-        const double position = double(m_busyStep) / busyFrames;
         filled.setWidth(groove.width() * busyWidth);
-        filled.moveLeft((groove.width() + filled.width()) * position - filled.width());
+        filled.moveLeft(
+            (groove.width() + filled.width()) * m_busyTurn.currentValue() - filled.width());
         filled = filled.intersected(groove);
     } else {
-        filled.setWidth(groove.width() * m_fraction);
+        filled.setWidth(groove.width() * value() / steps);
     }
     if (filled.width() < 1)
         return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QProgressBar>
+#include <QTimeLine>
 
 /// A slim bar over a fraction of 0 to 1; busy while that is unknown.
 class ProgressBar : public QProgressBar {
@@ -22,7 +23,5 @@ protected:
 private:
     [[nodiscard]] bool isBusy() const { return maximum() == 0; }
 
-    double m_fraction = 0;
-    QTimer *m_busyTimer;
-    int m_busyStep = 0;
+    QTimeLine m_busyTurn;
 };

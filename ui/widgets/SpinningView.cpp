@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/widgets/SpinningView.h"
 
-#include <QEvent>
 #include <QPainter>
-#include <QTimerEvent>
 
 #include <algorithm>
 
@@ -18,6 +16,11 @@ SpinningView::SpinningView(QWidget *parent)
     : QWidget(parent)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_timer.setInterval(stepMilliseconds);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        m_step = (m_step + 1) % finCount;
+        update();
+    });
 }
 
 void SpinningView::setSpinning(bool spinning)
@@ -44,27 +47,9 @@ QSize SpinningView::sizeHint() const
     return { side, side };
 }
 
-bool SpinningView::event(QEvent *event)
-{
-    if (event->type() == QEvent::Polish)
-        awakeFromNib();
-    return QWidget::event(event);
-}
-
 void SpinningView::animate()
 {
-    if (m_spinning && m_awake)
-        m_timer.start(stepMilliseconds, this);
-    else
-        m_timer.stop();
-    update();
-}
-
-void SpinningView::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != m_timer.timerId())
-        return QWidget::timerEvent(event);
-    m_step = (m_step + 1) % finCount;
+    m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
     update();
 }
 
@@ -84,9 +69,7 @@ void SpinningView::paintEvent(QPaintEvent *)
         const int age = (m_step - index + finCount) % finCount;
         color.setAlphaF(std::max(0.12F, 1.0F - static_cast<float>(age) / finCount));
         painter.setBrush(color);
-        painter.save();
-        painter.rotate(index * 360.0 / finCount);
         painter.drawRoundedRect(fin, thickness / 2, thickness / 2);
-        painter.restore();
+        painter.rotate(360.0 / finCount);
     }
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QBasicTimer>
 #include <QColor>
+#include <QTimer>
 #include <QWidget>
 
 /// Shows that work of unknown length goes on. Paints nothing while it does not spin.
@@ -23,14 +23,13 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
-    bool event(QEvent *event) override;
-    void timerEvent(QTimerEvent *event) override;
+    void showEvent(QShowEvent *) override { awakeFromNib(); }
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void animate();
 
-    QBasicTimer m_timer;
+    QTimer m_timer;
     QColor m_spinColor = Qt::black;
     int m_step = 0;
     bool m_spinning = false;

@@ -5,9 +5,8 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,12 +17,8 @@ constexpr auto cursorKey = "_cursor";
 /// A name may hold line breaks and other controls; it still takes one line.
 QString onOneLine(QString text)
 {
-    const auto breaksLine = [](QChar character) {
-        return character.category() == QChar::Other_Control || character == QChar::LineSeparator
-            || character == QChar::ParagraphSeparator;
-    };
-    std::ranges::replace_if(text, breaksLine, u' ');
-    return text;
+    static const QRegularExpression lineBreaks(uR"([\p{Cc}\p{Zl}\p{Zp}])"_s);
+    return text.replace(lineBreaks, u" "_s);
 }
 
 }
@@ -32,12 +27,7 @@ TextField::TextField(QWidget *parent)
     : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-}
-
-void TextField::setDimmed(bool dimmed)
-{
-    m_dimmed = dimmed;
-    setForegroundRole(dimmed ? QPalette::PlaceholderText : QPalette::WindowText);
+    setAttribute(Qt::WA_Hover);
 }
 
 void TextField::resetCursorRects()

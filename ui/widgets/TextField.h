@@ -8,12 +8,9 @@
 class TextField : public QLabel {
     Q_OBJECT
     Q_PROPERTY(bool elided MEMBER m_elided)
-    Q_PROPERTY(bool dimmed MEMBER m_dimmed WRITE setDimmed)
 
 public:
     explicit TextField(QWidget *parent = nullptr);
-
-    void setDimmed(bool dimmed);
 
     void resetCursorRects();
 
@@ -28,5 +25,4 @@ protected:
 
 private:
     bool m_elided = false;
-    bool m_dimmed = false;
 };

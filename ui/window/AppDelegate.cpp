@@ -3,7 +3,6 @@
 
 #include "analytics/Analytics.h"
 #include "engine/Outcome.h"
-#include "planning/VideoConstraints.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
 #include "support/Localized.h"
@@ -13,10 +12,7 @@
 #include "support/dialogs/Sheets.h"
 #include "support/dialogs/Static.h"
 #include "ui/widgets/Announcement.h"
-#include "ui/widgets/Clickable.h"
-#include "ui/window/ConversionFlow.h"
 #include "ui/window/ConversionStatus.h"
-#include "ui/window/FileIntake.h"
 #include "ui/window/FormatEntries.h"
 #include "ui/window/StateNotes.h"
 #include "ui/window/VideoWords.h"
@@ -25,27 +21,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileOpenEvent>
-#include <QMimeData>
 #include <QScreen>
-
-#include <algorithm>
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString placeKey = u"WindowPlace"_s;
-
-/// What is hidden keeps its place, so that nothing jumps when the state changes.
-void keepPlaces(const Ui::MainWindow &outlets)
-{
-    for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
-        QSizePolicy policy = view->sizePolicy();
-        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
-        view->setSizePolicy(policy);
-    }
-}
 
 void enlarge(QLabel *label, double factor)
 {
@@ -57,41 +39,38 @@ void enlarge(QLabel *label, double factor)
 
 void dress(const Ui::MainWindow &outlets, int line)
 {
-    keepPlaces(outlets);
+    // What is hidden keeps its place, so that nothing jumps when the state changes.
+    for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
+        QSizePolicy policy = view->sizePolicy();
+        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
+        view->setSizePolicy(policy);
+    }
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
-    outlets.refusalLabel->setForegroundRole(QPalette::PlaceholderText);
-    QFont headingFont = outlets.formatMenu->font();
-    headingFont.setBold(true);
-    for (QAction *heading :
-        { outlets.devicesHeading, outlets.formatsHeading, outlets.mp4QualityHeading })
-        heading->setFont(headingFont);
+    for (QLabel *dimmed : std::initializer_list<QLabel *>{ outlets.refusalLabel,
+             outlets.movieDurationLabel, outlets.factsLabel, outlets.workLabel })
+        dimmed->setForegroundRole(QPalette::PlaceholderText);
     for (QPushButton *button : { outlets.startOverButton, outlets.openResultButton })
         button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
     for (TextField *link : { outlets.openFromFolderLabel, outlets.againLabel,
              outlets.anotherFormatLabel, outlets.logLabel, outlets.copyCommandLabel }) {
         link->setForegroundRole(QPalette::Link);
-        Clickable::enable(link);
         // Room for the ring around the text.
         link->setContentsMargins(line / 3, 0, line / 3, 0);
     }
     outlets.openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
-    Clickable::enable(outlets.openFolderImageView);
 }
 
 }
 
 AppDelegate::AppDelegate()
     : m_outlets(std::make_unique<Ui::MainWindow>())
+    , m_announcement(new Announcement(&m_window))
 {
     // A static library's resources are not there by themselves.
     Q_INIT_RESOURCE(artwork);
-    Clickable::installAccessibility();
     m_outlets->setupUi(&m_window);
-    m_announcement = new Announcement(&m_window);
     m_status = std::make_unique<ConversionStatus>(&m_window, m_outlets->workLabel);
-    m_intake = std::make_unique<FileIntake>(&m_window);
-    m_conversion = std::make_unique<ConversionFlow>(m_window, *m_intake);
     const int line = m_window.fontMetrics().height();
     dress(*m_outlets, line);
     FormatEntries::prepare(*m_outlets->formatMenu);
@@ -99,7 +78,7 @@ AppDelegate::AppDelegate()
         QSize(line * 36, line * 33).boundedTo(m_window.screen()->availableSize() * 0.9));
     m_window.restoreGeometry(Defaults::value(placeKey).toByteArray());
     m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
-    m_notes = std::make_unique<StateNotes>(*m_outlets, *m_intake, *m_conversion);
+    m_notes = std::make_unique<StateNotes>(*m_outlets, m_intake, m_conversion);
     connectControls();
     connectWork();
     m_window.installEventFilter(this);
@@ -110,18 +89,12 @@ AppDelegate::~AppDelegate() { Defaults::setValue(placeKey, m_window.saveGeometry
 
 QString AppDelegate::selectedFileExt() const { return Path::pathExtension(processingFilePath()); }
 
-QString AppDelegate::processingFilePath() const { return m_intake->processingFilePath(); }
-
-QString AppDelegate::resultFilePath() const { return m_conversion->resultFilePath(); }
-
-QByteArray AppDelegate::lastToolOutput() const { return m_conversion->lastToolOutput(); }
-
 void AppDelegate::setUiState(WindowUIState state)
 {
     const WindowUIState former = m_uiState;
     m_uiState = state;
     applyWindowUIState(*m_outlets, state);
-    m_intake->setOpen(allowDragDrop(m_outlets->dropAcceptor));
+    m_intake.setOpen(allowDragDrop(m_outlets->dropAcceptor));
     m_notes->stateChanged(state);
     showIntake();
     showStateInMenus();
@@ -137,7 +110,7 @@ void AppDelegate::setUiState(WindowUIState state)
 
 void AppDelegate::showIntake()
 {
-    const QString kept = Path::lastPathComponent(m_intake->keptPath());
+    const QString kept = Path::lastPathComponent(m_intake.keptPath());
     if (!kept.isEmpty())
         m_outlets->keptLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
@@ -146,8 +119,7 @@ void AppDelegate::showIntake()
     m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
     // A result stays to be looked at until the user starts over.
     if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
-        QMetaObject::invokeMethod(
-            m_intake.get(), [this] { m_intake->takeKept(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&m_intake, &FileIntake::takeKept, Qt::QueuedConnection);
 }
 
 void AppDelegate::showStateInMenus()
@@ -171,37 +143,30 @@ void AppDelegate::showStateInMenus()
 void AppDelegate::connectControls()
 {
     const Ui::MainWindow &outlets = *m_outlets;
-    const auto onTrigger = [](const QAction *action, auto *receiver, auto slot) {
-        connect(action, &QAction::triggered, receiver, slot);
-    };
-    onTrigger(
-        outlets.repeatAction, this, [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
-    onTrigger(outlets.openAction, m_intake.get(), &FileIntake::buttonPress);
-    onTrigger(outlets.pasteAction, m_intake.get(), &FileIntake::paste);
-    onTrigger(outlets.cancelAction, this, &AppDelegate::cancelProgressPressed);
-    onTrigger(outlets.revealAction, m_conversion.get(), &ConversionFlow::openFolder);
-    onTrigger(outlets.startOverAction, this, &AppDelegate::startOverButtonPressed);
-    onTrigger(outlets.quitAction, &m_window, &QWidget::close);
-    onTrigger(outlets.aboutAction, this, &AppDelegate::showAboutWindow);
+    connect(outlets.repeatAction, &QAction::triggered, this,
+        [&outlets] { outlets.formatMenu->defaultAction()->trigger(); });
+    connect(outlets.openAction, &QAction::triggered, &m_intake, &FileIntake::buttonPress);
+    connect(outlets.pasteAction, &QAction::triggered, &m_intake, &FileIntake::paste);
+    connect(outlets.cancelAction, &QAction::triggered, this, &AppDelegate::cancelProgressPressed);
+    connect(outlets.revealAction, &QAction::triggered, &m_conversion, &ConversionFlow::openFolder);
+    connect(outlets.startOverAction, &QAction::triggered, this, [this] {
+        Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
+        setUiState(WindowUIState::InitialState);
+    });
+    connect(outlets.aboutAction, &QAction::triggered, this, [] {
+        QDialog &about = Static::aboutWindow();
+        about.show();
+        about.raise();
+        about.activateWindow();
+    });
     outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
-
-    const auto onClick = []<class View>(const View *view, QAction *action) {
-        connect(view, &View::clicked, action, &QAction::trigger);
-    };
-    onClick(outlets.openFromFolderLabel, outlets.openAction);
-    onClick(outlets.stopExaminingButton, outlets.cancelAction);
-    onClick(outlets.cancelProgressButton, outlets.cancelAction);
-    onClick(outlets.cancelProgressImageView, outlets.cancelAction);
-    onClick(outlets.openFolderImageView, outlets.revealAction);
-    onClick(outlets.showInFolderLabel, outlets.revealAction);
-    onClick(outlets.startOverButton, outlets.startOverAction);
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
-    connect(outlets.dropAcceptor, &DropBox::performDragOperation, m_intake.get(),
+    connect(outlets.dropAcceptor, &DropBox::performDragOperation, &m_intake,
         &FileIntake::performDragOperation);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
         if (m_uiState == WindowUIState::ConversionIsDone)
-            m_conversion->openFolder();
+            m_conversion.openFolder();
         else
             applicationShouldHandleReopen(m_window.isVisible());
     });
@@ -209,29 +174,30 @@ void AppDelegate::connectControls()
 
 void AppDelegate::connectWork()
 {
-    connect(m_intake.get(), &FileIntake::started, this, [this](const QString &path) {
+    connect(&m_intake, &FileIntake::started, this, [this](const QString &path) {
         m_outlets->examiningLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
                 { Path::lastPathComponent(path) }));
-        m_conversion->stayOpen();
+        m_conversion.stayOpen();
         setUiState(WindowUIState::WaitingForCover);
     });
-    connect(m_intake.get(), &FileIntake::cancelled, this,
-        [this] { setUiState(WindowUIState::InitialState); });
-    connect(m_intake.get(), &FileIntake::kept, this, [this] {
+    connect(&m_intake, &FileIntake::kept, this, [this] {
         showIntake();
         m_announcement->say(m_outlets->keptLabel);
     });
-    connect(m_intake.get(), &FileIntake::examined, this, &AppDelegate::fileWasExamined);
-    connect(m_intake.get(), &FileIntake::refused, this, [this](const Outcome &refusal) {
-        failWithUnsupported();
+    connect(
+        &m_intake, &FileIntake::examined, this, [this] { setUiState(WindowUIState::CoverIsSet); });
+    connect(&m_intake, &FileIntake::refused, this, [this](const Outcome &refusal) {
+        setUiState(WindowUIState::InitialState);
+        displayError(localized(QT_TRANSLATE_NOOP3(
+            "Localizable", "Video not supported", "Error message 'Video not supported'")));
         showRefusal(refusal);
         showIntake();
     });
-    connect(m_conversion.get(), &ConversionFlow::workChanged, m_status.get(),
+    connect(&m_conversion, &ConversionFlow::workChanged, m_status.get(),
         [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
-    connect(m_conversion.get(), &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
-    connect(m_conversion.get(), &ConversionFlow::finished, this, [this] {
+    connect(&m_conversion, &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
+    connect(&m_conversion, &ConversionFlow::finished, this, [this] {
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
             Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
@@ -240,18 +206,18 @@ void AppDelegate::connectWork()
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
-    connect(m_conversion.get(), &ConversionFlow::failed, this,
+    connect(&m_conversion, &ConversionFlow::failed, this,
         [this](const Outcome &outcome, const QString &message) {
             if (kindOf(outcome) != OutcomeKind::Incomplete)
                 setUiState(WindowUIState::InitialState);
             m_status->notify(m_window.windowTitle(), message);
         });
-    connect(m_conversion.get(), &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
+    connect(&m_conversion, &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
         setUiState(WindowUIState::InitialState);
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
             showRefusal(outcome);
     });
-    connect(m_conversion.get(), &ConversionFlow::ended, this, &AppDelegate::showIntake);
+    connect(&m_conversion, &ConversionFlow::ended, this, &AppDelegate::showIntake);
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -268,7 +234,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
-    m_conversion->stayOpen();
+    m_conversion.stayOpen();
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     if (!hasVisibleWindows)
@@ -279,7 +245,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion->mayCloseNow()) {
+    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion.mayCloseNow()) {
         event->ignore();
         return true;
     }
@@ -292,40 +258,19 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void AppDelegate::takeFiles(const QStringList &paths) { m_intake->takeFiles(paths); }
-
-void AppDelegate::fileWasExamined(const QImage &cover, const QString &duration)
-{
-    const QString &path = m_intake->processingFilePath();
-    setUiState(WindowUIState::CoverIsSet);
-    m_outlets->movieCoverImageView->setImage(cover);
-    m_outlets->movieNameLabel->setText(Path::lastPathComponent(path));
-    // A tool tip guesses whether it is mark-up; a file's name is none.
-    m_outlets->movieNameLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
-    m_outlets->movieNameLabel->setAccessibleDescription(path);
-    m_outlets->movieDurationLabel->setText(duration);
-}
-
-void AppDelegate::failWithUnsupported()
-{
-    setUiState(WindowUIState::InitialState);
-    displayError(localized(QT_TRANSLATE_NOOP3(
-        "Localizable", "Video not supported", "Error message 'Video not supported'")));
-}
-
 void AppDelegate::showRefusal(const Outcome &refusal)
 {
     if (m_uiState != WindowUIState::InitialState)
         return;
     m_outlets->refusalLabel->setText(sentenceOf(refusal));
-    applyWindowUIState(*m_outlets, m_uiState);
+    m_outlets->refusalLabel->show();
     m_announcement->say(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)
 {
     m_chosenEntry = item;
-    m_conversion->choose(FormatEntries::constraintsOf(*m_outlets, item));
+    m_conversion.choose(FormatEntries::constraintsOf(*m_outlets, item));
 }
 
 void AppDelegate::updateProgress(double fraction, qint64 seconds)
@@ -340,22 +285,10 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
 
 void AppDelegate::cancelProgressPressed()
 {
-    if (m_uiState == WindowUIState::WaitingForCover)
-        m_intake->cancel();
-    else
-        std::ignore = m_conversion->cancelIfConfirmed();
-}
-
-void AppDelegate::startOverButtonPressed()
-{
-    Analytics::send(QString(), u"convert"_s, u"convert_another"_s, true);
-    setUiState(WindowUIState::InitialState);
-}
-
-void AppDelegate::showAboutWindow()
-{
-    QDialog &about = Static::aboutWindow();
-    about.show();
-    about.raise();
-    about.activateWindow();
+    if (m_uiState != WindowUIState::WaitingForCover) {
+        m_conversion.cancelIfConfirmed();
+    } else {
+        m_intake.cancel();
+        setUiState(WindowUIState::InitialState);
+    }
 }

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ui/window/ConversionFlow.h"
+#include "ui/window/FileIntake.h"
 #include "ui/window/WindowUIState.h"
 
-#include <QImage>
-#include <QMainWindow>
-
-#include <memory>
-
 class Announcement;
-class ConversionFlow;
 class ConversionStatus;
-class FileIntake;
 class QAction;
 class StateNotes;
-struct Outcome;
 
 namespace Ui {
 class MainWindow;
@@ -34,14 +28,14 @@ public:
     [[nodiscard]] WindowUIState uiState() const { return m_uiState; }
     void setUiState(WindowUIState state);
     [[nodiscard]] QString selectedFileExt() const;
-    [[nodiscard]] QString processingFilePath() const;
-    [[nodiscard]] QString resultFilePath() const;
-    [[nodiscard]] QByteArray lastToolOutput() const;
+    [[nodiscard]] QString processingFilePath() const { return m_intake.processingFilePath(); }
+    [[nodiscard]] QString resultFilePath() const { return m_conversion.resultFilePath(); }
+    [[nodiscard]] QByteArray lastToolOutput() const { return m_conversion.lastToolOutput(); }
 
     void applicationDidFinishLaunching();
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
     /// Files from anywhere but the open panel; taken only while drops are. Only the first counts.
-    void takeFiles(const QStringList &paths);
+    void takeFiles(const QStringList &paths) { m_intake.takeFiles(paths); }
     void rawFormatMenuItemPressed(QAction *item);
 
 protected:
@@ -52,20 +46,16 @@ private:
     void connectWork();
     void showIntake();
     void showStateInMenus();
-    void fileWasExamined(const QImage &cover, const QString &duration);
-    void failWithUnsupported();
     void showRefusal(const Outcome &refusal);
     void updateProgress(double fraction, qint64 seconds);
     void cancelProgressPressed();
-    void startOverButtonPressed();
-    void showAboutWindow();
 
     QMainWindow m_window;
     std::unique_ptr<Ui::MainWindow> m_outlets;
-    Announcement *m_announcement = nullptr;
+    Announcement *m_announcement;
     std::unique_ptr<ConversionStatus> m_status;
-    std::unique_ptr<FileIntake> m_intake;
-    std::unique_ptr<ConversionFlow> m_conversion;
+    FileIntake m_intake{ &m_window };
+    ConversionFlow m_conversion{ m_window, m_intake };
     std::unique_ptr<StateNotes> m_notes;
     QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;

@@ -18,10 +18,8 @@
 #include "ui/window/VideoWords.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QPointer>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -106,52 +104,35 @@ void ConversionFlow::startConversion(const QString &destPath, const VideoConstra
 
 void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
 {
-    const Progress::Context context = &m_convertObservationContext;
     if (m_progress) {
         for (const Progress::Key key : overalProgressObservedKeys)
-            m_progress->removeObserver(key, context);
+            m_progress->removeObserver(key, this);
     }
     m_progress = std::move(progress);
     if (!m_progress)
         return;
-    const std::weak_ptr<Progress> object = m_progress;
-    const QPointer<ConversionFlow> self(this);
-    // Both run on whatever thread changes the object, so they only pass the news on.
-    for (const Progress::Key key : overalProgressObservedKeys) {
-        m_progress->addObserver(key, context, [self, object](Progress::Key) {
-            MainQueue::post([self, object] {
-                if (self)
-                    self->observeValueForKeyPath(object);
-            });
+    // The news comes on any thread, and that of an object that is no longer attached may still wait
+    // in the queue.
+    const auto passOn = [self = QPointer(this), object = std::weak_ptr(m_progress)](auto news) {
+        MainQueue::post([self, object, news] {
+            if (self && self->m_progress && self->m_progress == object.lock())
+                (self.data()->*news)();
         });
-    }
-    const std::shared_ptr<Progress> attached = m_progress;
+    };
+    for (const Progress::Key key : overalProgressObservedKeys)
+        m_progress->addObserver(
+            key, this, [passOn](Progress::Key) { passOn(&ConversionFlow::updateProgress); });
+    m_progress->setCancellationHandler([passOn] { passOn(&ConversionFlow::progressWasCancelled); });
     updateProgress();
-    attached->setCancellationHandler([self, object] {
-        if (!MainQueue::isMainThread())
-            MainQueue::post([self, object] { self ? self->progressWasCancelled(object) : void(); });
-        else if (self)
-            self->progressWasCancelled(object);
-    });
-}
-
-void ConversionFlow::observeValueForKeyPath(const std::weak_ptr<Progress> &object)
-{
-    // News of an object that is no longer attached may still wait in the queue.
-    if (m_progress && object.lock() == m_progress)
-        updateProgress();
 }
 
 void ConversionFlow::updateProgress()
 {
-    if (!m_progress)
-        return;
     if (const Remedy remedy = m_progress->remedy(); remedy != m_remedy)
         announceWork(remedy);
     Q_EMIT progressed(m_progress->isIndeterminate() ? -1 : m_progress->fractionCompleted(),
         m_progress->completedUnitCount());
-    if (m_progress->completedUnitCount() != m_progress->totalUnitCount()
-        || !m_intake.processingInfo())
+    if (m_progress->completedUnitCount() != m_progress->totalUnitCount())
         return;
     const Outcome outcome = m_progress->outcome();
     setProgress(nullptr);
@@ -214,18 +195,18 @@ bool ConversionFlow::cancelIfConfirmed()
         return false;
     Analytics::send(QString(), u"convert"_s, u"abort"_s, true);
     // The conversion may have ended while the question stood.
-    if (const std::shared_ptr<Progress> progress = m_progress)
-        progress->cancel();
+    if (m_progress) {
+        m_progress->cancel();
+        progressWasCancelled();
+    }
     return true;
 }
 
-void ConversionFlow::progressWasCancelled(const std::weak_ptr<Progress> &object)
+void ConversionFlow::progressWasCancelled()
 {
-    const std::shared_ptr<Progress> sender = object.lock();
-    if (!sender || sender != m_progress)
-        return;
     QMetaObject::invokeMethod(
-        this, [this, sender] { Q_EMIT cancelled(sender->outcome()); }, Qt::QueuedConnection);
+        this, [this, sender = m_progress] { Q_EMIT cancelled(sender->outcome()); },
+        Qt::QueuedConnection);
     setProgress(nullptr);
 }
 
@@ -234,19 +215,13 @@ void ConversionFlow::openFolder() const
     if (QFileInfo::exists(m_resultFilePath))
         FileBrowser::reveal(m_resultFilePath);
     else
-        FileBrowser::openFolder(Path::stringByDeletingLastPathComponent(m_resultFilePath));
+        FileBrowser::open(Path::stringByDeletingLastPathComponent(m_resultFilePath));
 }
 
 void ConversionFlow::openResult() const
 {
-    const QFileInfo result(m_resultFilePath);
-    if (result.exists())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(result.absoluteFilePath()));
+    if (QFileInfo::exists(m_resultFilePath))
+        FileBrowser::open(m_resultFilePath);
     else
         openFolder();
-}
-
-QByteArray ConversionFlow::lastToolOutput() const
-{
-    return m_run ? m_run->toolOutput() : QByteArray();
 }

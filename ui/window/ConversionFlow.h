@@ -29,11 +29,13 @@ public:
     [[nodiscard]] bool mayCloseNow();
     void stayOpen();
     void openFolder() const;
-    /// In the program that the desktop has for it.
     void openResult() const;
 
     [[nodiscard]] const QString &resultFilePath() const { return m_resultFilePath; }
-    [[nodiscard]] QByteArray lastToolOutput() const;
+    [[nodiscard]] QByteArray lastToolOutput() const
+    {
+        return m_run ? m_run->toolOutput() : QByteArray();
+    }
 
 Q_SIGNALS:
     /// What the tool is started for; a second time where the first try could not work.
@@ -51,10 +53,9 @@ Q_SIGNALS:
 private:
     void startConversion(const QString &destPath, const VideoConstraints &constraints);
     void setProgress(std::shared_ptr<Progress> progress);
-    void observeValueForKeyPath(const std::weak_ptr<Progress> &object);
     void updateProgress();
     void announceWork(Remedy remedy);
-    void progressWasCancelled(const std::weak_ptr<Progress> &object);
+    void progressWasCancelled();
     void failWhileConverting(const std::optional<QString> &errmsg);
     void end();
     /// A tool runs, also while it writes its last bytes or its partial result is removed.
@@ -65,7 +66,6 @@ private:
     QString m_resultFilePath;
     std::optional<ConversionJob> m_job;
     Remedy m_remedy = Remedy::None;
-    int m_convertObservationContext = 0;
     static constexpr std::array overalProgressObservedKeys{ Progress::Key::FractionCompleted,
         Progress::Key::CompletedUnitCount };
     std::shared_ptr<Progress> m_progress;

@@ -3,6 +3,7 @@
 
 #include "support/DurationInfo.h"
 #include "support/Localized.h"
+#include "ui/desktop/KeepAwake.h"
 #include "ui/window/VideoWords.h"
 
 #include <QGuiApplication>
@@ -32,7 +33,7 @@ ConversionStatus::ConversionStatus(QWidget *window, QLabel *workLabel)
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
         [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive && !m_timer.isActive())
-                m_launcher.clear();
+                m_launcher.show({});
         });
 }
 
@@ -45,18 +46,18 @@ void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
         m_clock.start();
         m_timer.start();
         showWork();
-        m_keepAwake.start(localized(QT_TRANSLATE_NOOP3(
+        m_keepAwake = keepAwake(localized(QT_TRANSLATE_NOOP3(
             "Localizable", "Converting a video", "why the machine stays awake")));
     } else if (from == WindowUIState::Converting) {
         m_timer.stop();
-        m_keepAwake.stop();
-        m_launcher.clear();
+        m_keepAwake.reset();
+        m_launcher.show({});
         m_percent = -1;
         m_window->setWindowTitle(m_title);
         m_workLabel->clear();
     }
     if (to == WindowUIState::ConversionIsDone && !m_window->isActiveWindow())
-        m_launcher.finish();
+        m_launcher.show({}, true);
     if (to == WindowUIState::WaitingForCover || to == WindowUIState::Converting)
         m_notification.close();
 }
@@ -89,14 +90,12 @@ QString ConversionStatus::timeLeft()
                 : QString();
 }
 
-// Two digits and a point, or what is as wide.
 QString ConversionStatus::speed() const
 {
     const double speed = double(m_seconds) * 1000 / double(std::max<qint64>(m_clock.elapsed(), 1));
-    const QString number = speed < 9.95 ? QLocale().toString(speed, 'f', 1)
-        : speed < 99.5                  ? punctuationSpace + QLocale().toString(qRound(speed))
-                                        : QLocale().toString(qRound(speed));
-    return number + u'×';
+    const int decimals = speed < 9.95 ? 1 : 0;
+    const int spaces = decimals == 0 && speed < 99.5 ? 1 : 0;
+    return QString(spaces, punctuationSpace) + QLocale().toString(speed, 'f', decimals) + u'×';
 }
 
 void ConversionStatus::showWork()
@@ -121,8 +120,7 @@ void ConversionStatus::showWork()
             { titleParts.join(u" · "_s), m_title });
     }
     m_window->setWindowTitle(title);
-    if (const QString text = VideoWords::joined(parts); text != m_workLabel->text())
-        m_workLabel->setText(text);
+    m_workLabel->setText(VideoWords::joined(parts));
 }
 
 void ConversionStatus::notify(const QString &title, const QString &text)

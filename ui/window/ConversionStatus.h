@@ -3,7 +3,6 @@
 
 #include "engine/SteadyTime.h"
 #include "ui/desktop/DesktopNotification.h"
-#include "ui/desktop/KeepAwake.h"
 #include "ui/desktop/LauncherProgress.h"
 #include "ui/window/TimeLeft.h"
 #include "ui/window/WindowUIState.h"
@@ -11,6 +10,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+
+#include <memory>
 
 class QLabel;
 
@@ -22,7 +23,6 @@ public:
     ConversionStatus(QWidget *window, QLabel *workLabel);
 
     void stateChanged(WindowUIState from, WindowUIState to);
-    /// What the tool does, in words.
     void setWork(const QString &work);
     /// A fraction of 0 to 1, negative while the length is unknown; seconds of the video.
     void setProgress(double fraction, qint64 seconds);
@@ -48,7 +48,7 @@ private:
     double m_fraction = -1;
     qint64 m_seconds = 0;
     int m_percent = -1;
-    KeepAwake m_keepAwake;
+    std::shared_ptr<void> m_keepAwake;
     LauncherProgress m_launcher;
     DesktopNotification m_notification;
 };

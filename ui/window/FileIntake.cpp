@@ -9,17 +9,11 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QMimeData>
 #include <QPointer>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
-
-FileIntake::FileIntake(QWidget *window)
-    : m_window(window)
-{
-}
 
 bool FileIntake::isReady() const { return m_isOpen && !QApplication::activeModalWidget(); }
 
@@ -27,14 +21,13 @@ void FileIntake::takeFiles(const QStringList &paths)
 {
     if (paths.isEmpty())
         return;
-    m_kept.clear();
     if (isReady()) {
         processFile(paths.constFirst());
         m_leftOut = paths.sliced(1);
-        return;
+    } else {
+        m_kept = paths.constFirst();
+        Q_EMIT kept();
     }
-    m_kept = paths.constFirst();
-    Q_EMIT kept();
 }
 
 void FileIntake::takeKept()
@@ -43,10 +36,9 @@ void FileIntake::takeKept()
         processFile(std::exchange(m_kept, {}));
 }
 
-void FileIntake::performDragOperation(const QMimeData *data)
+void FileIntake::performDragOperation(const QStringList &paths)
 {
-    const QStringList paths = localFiles(data);
-    if (paths.isEmpty() || !isReady())
+    if (!isReady())
         return;
     Analytics::send(QString(), u"adding_video"_s, u"drag"_s, true);
     takeFiles(paths);
@@ -94,10 +86,4 @@ void FileIntake::takeAgain()
 {
     if (isReady() && m_processingInfo)
         Q_EMIT examined(m_cover, m_duration);
-}
-
-void FileIntake::cancel()
-{
-    ++m_count;
-    Q_EMIT cancelled();
 }

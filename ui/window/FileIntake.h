@@ -9,7 +9,6 @@
 
 #include <optional>
 
-class QMimeData;
 class QWidget;
 struct Outcome;
 
@@ -18,7 +17,10 @@ class FileIntake : public QObject {
     Q_OBJECT
 
 public:
-    explicit FileIntake(QWidget *window);
+    explicit FileIntake(QWidget *window)
+        : m_window(window)
+    {
+    }
 
     /// Files are taken only while this is set; further ones of several are left out.
     void setOpen(bool open) { m_isOpen = open; }
@@ -27,14 +29,14 @@ public:
     /// Takes what was kept, if it may be taken now.
     void takeKept();
     [[nodiscard]] const QString &keptPath() const { return m_kept; }
-    void performDragOperation(const QMimeData *data);
+    void performDragOperation(const QStringList &paths);
     void paste();
     void buttonPress();
     void processFile(const QString &path);
     /// Takes the file that was examined last without examining it again.
     void takeAgain();
     /// No answer comes about the file that is being examined.
-    void cancel();
+    void cancel() { ++m_count; }
 
     /// The file that was examined last, with what the tool says about it.
     [[nodiscard]] const QString &processingFilePath() const { return m_processingFilePath; }
@@ -45,7 +47,6 @@ public:
 Q_SIGNALS:
     void started(const QString &path);
     void kept();
-    void cancelled();
     void examined(const QImage &cover, const QString &duration);
     void refused(const Outcome &refusal);
 

@@ -9,7 +9,6 @@
 #include "ui_MainWindow.h"
 
 #include <QAccessibleObject>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -41,8 +40,8 @@ public:
     }
     QRect rect() const override
     {
-        const QRect place = menu() ? menu()->actionGeometry(entry()) : QRect();
-        return menu() ? QRect(menu()->mapToGlobal(place.topLeft()), place.size()) : place;
+        const QRect place = menu()->actionGeometry(entry());
+        return { menu()->mapToGlobal(place.topLeft()), place.size() };
     }
     QAccessible::Role role() const override { return QAccessible::MenuItem; }
     QAccessible::State state() const override
@@ -50,8 +49,8 @@ public:
         QAccessible::State state;
         state.focusable = true;
         state.disabled = !entry()->isEnabled();
-        state.invisible = !menu() || !menu()->isVisible();
-        state.focused = menu() && menu()->activeAction() == entry();
+        state.invisible = !menu()->isVisible();
+        state.focused = menu()->activeAction() == entry();
         state.hotTracked = state.focused;
         return state;
     }
@@ -73,11 +72,7 @@ private:
     [[nodiscard]] QAction *entry() const { return static_cast<QAction *>(object()); }
     [[nodiscard]] QMenu *menu() const
     {
-        for (QObject *place : entry()->associatedObjects()) {
-            if (auto *menu = qobject_cast<QMenu *>(place))
-                return menu;
-        }
-        return nullptr;
+        return qobject_cast<QMenu *>(entry()->associatedObjects().constFirst());
     }
 };
 
@@ -90,20 +85,10 @@ QAccessibleInterface *entryInterface(const QString &, QObject *object)
 /// Two arrow heads, as on the key that winds forward.
 QIcon quickMark(const QMenu &menu)
 {
-    const double side = menu.fontMetrics().height();
-    QPixmap pixmap((QSizeF(side, side) * menu.devicePixelRatioF()).toSize());
+    const double side = menu.fontMetrics().height() * menu.devicePixelRatioF();
+    QPixmap pixmap = tintedArtwork(u":/artwork/quick.svg"_s, QSizeF(side, side).toSize(),
+        menu.palette().color(QPalette::Text));
     pixmap.setDevicePixelRatio(menu.devicePixelRatioF());
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / 16, side / 16);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(menu.palette().color(QPalette::Text));
-    for (const double left : { 2.0, 8.0 }) {
-        const QPointF head[] = { { left, 3.5 }, { left + 6, 8 }, { left, 12.5 } };
-        painter.drawConvexPolygon(head, 3);
-    }
-    painter.end();
     QIcon mark;
     for (const QIcon::Mode mode : { QIcon::Normal, QIcon::Active, QIcon::Selected })
         mark.addPixmap(pixmap, mode);
@@ -125,7 +110,6 @@ QString reasonAgainst(const PlannedWork &work, const VideoConstraints &constrain
 
 void FormatEntries::prepare(QMenu &menu)
 {
-    menu.setToolTipsVisible(true);
     const QString last = Defaults::value(lastEntryKey).toString();
     for (QAction *entry : menu.actions()) {
         entry->setProperty(describedKey, !entry->isSeparator());

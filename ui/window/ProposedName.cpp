@@ -11,16 +11,14 @@ QString proposedName(const QString &sourcePath, const QString &folder, const QSt
 {
     constexpr int longest = 25;
     const QString source = Path::lastPathComponent(sourcePath);
-    QString name = Text::max(Path::stringByDeletingPathExtension(source), longest);
+    const QString base = Text::max(Path::stringByDeletingPathExtension(source), longest);
+    QString name = base;
     const auto pathOf = [&](const QString &candidate) {
         return Path::stringByAppendingPathComponent(folder, candidate + u'.' + ext);
     };
-    if (!FileIds{ sourcePath }.contains(pathOf(name)))
-        return name;
-    QString numbered;
-    int number = 2;
-    do {
-        numbered = name + u' ' + QString::number(number++);
-    } while (QFileInfo::exists(pathOf(numbered)));
-    return numbered;
+    if (FileIds{ sourcePath }.contains(pathOf(base))) {
+        for (int number = 2; QFileInfo::exists(pathOf(name)); ++number)
+            name = base + u' ' + QString::number(number);
+    }
+    return name;
 }

@@ -18,22 +18,32 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QDrag>
+#include <QFileInfo>
 #include <QGuiApplication>
-#include <QPlainTextEdit>
+#include <QMimeData>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A tool tip guesses whether it is mark-up; a file's name is none.
+QString toolTipOf(const QString &path) { return u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s; }
+
+}
 
 StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFlow &conversion)
     : m_outlets(outlets)
     , m_intake(intake)
     , m_conversion(conversion)
-    , m_drag(outlets.movieCoverImageView, outlets.dropAcceptor)
 {
     connect(m_outlets.againLabel, &TextField::clicked, &m_intake,
         [this] { m_intake.processFile(m_intake.processingFilePath()); });
     connect(m_outlets.anotherFormatLabel, &TextField::clicked, &m_intake, &FileIntake::takeAgain);
     connect(m_outlets.logLabel, &TextField::clicked, this, &StateNotes::showLog);
     connect(m_outlets.copyCommandLabel, &TextField::clicked, this, &StateNotes::copyCommand);
+    connect(m_outlets.movieCoverImageView, &ImageView::dragged, this, &StateNotes::dragResult);
     connect(m_outlets.openResultButton, &QPushButton::clicked, &m_conversion,
         &ConversionFlow::openResult);
     // The marks have the colours of the moment.
@@ -50,13 +60,23 @@ StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFl
 
 void StateNotes::stateChanged(WindowUIState state)
 {
-    m_drag.setPath(
-        state == WindowUIState::ConversionIsDone ? m_conversion.resultFilePath() : QString());
+    m_hasResult = state == WindowUIState::ConversionIsDone;
+    m_outlets.movieCoverImageView->setToolTip(m_hasResult
+            ? localized(QT_TRANSLATE_NOOP3("Localizable",
+                "Drag the result from here into a folder or a mail", "tool tip of the picture"))
+            : QString());
+    m_outlets.movieCoverImageView->setCursor(m_hasResult ? Qt::OpenHandCursor : Qt::ArrowCursor);
 }
 
-void StateNotes::videoWasExamined()
+void StateNotes::videoWasExamined(const QImage &cover, const QString &duration)
 {
     clearFailure();
+    const QString &path = m_intake.processingFilePath();
+    m_outlets.movieCoverImageView->setImage(cover);
+    m_outlets.movieNameLabel->setText(Path::lastPathComponent(path));
+    m_outlets.movieNameLabel->setToolTip(toolTipOf(path));
+    m_outlets.movieNameLabel->setAccessibleDescription(path);
+    m_outlets.movieDurationLabel->setText(duration);
     const JSON &info = *m_intake.processingInfo();
     FormatEntries::mark(m_outlets, info);
     // The note stands for sound only, not for a picture that can't be had.
@@ -67,18 +87,18 @@ void StateNotes::videoWasExamined()
     m_outlets.factsLabel->setToolTip(facts);
     m_outlets.againLabel->setText(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "Open “%@” again", "with the name of the last video"),
-        { Path::lastPathComponent(m_intake.processingFilePath()) }));
+        { Path::lastPathComponent(path) }));
     const qint64 others = m_intake.leftOut().size();
-    m_outlets.leftOutLabel->setText(others == 0
-            ? QString()
-            : formatted(QT_TRANSLATE_NOOP3("Localizable",
-                            "One video is converted at a time here. Left out: %d",
-                            "several videos were dropped, with the number of the others"),
-                { others }));
-    m_outlets.copyCommandLabel->setText(others == 0
-            ? QString()
-            : localized(QT_TRANSLATE_NOOP3("Localizable", "Copy command",
-                "copies a command line that converts several videos")));
+    m_outlets.leftOutLabel->clear();
+    m_outlets.copyCommandLabel->clear();
+    if (others == 0)
+        return;
+    m_outlets.leftOutLabel->setText(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "One video is converted at a time here. Left out: %d",
+            "several videos were dropped, with the number of the others"),
+        { others }));
+    m_outlets.copyCommandLabel->setText(localized(QT_TRANSLATE_NOOP3(
+        "Localizable", "Copy command", "copies a command line that converts several videos")));
 }
 
 void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
@@ -87,8 +107,7 @@ void StateNotes::workChanged(const PlannedWork &, bool isSecondTry)
             ? localized(QT_TRANSLATE_NOOP3("Localizable",
                 "Second try, in another way: the first one could not work.", "while converting"))
             : QString());
-    if (isSecondTry)
-        applyWindowUIState(m_outlets, WindowUIState::Converting);
+    m_outlets.secondTryLabel->setVisible(isSecondTry);
 }
 
 void StateNotes::resultIsThere(const Outcome &outcome)
@@ -102,7 +121,7 @@ void StateNotes::resultIsThere(const Outcome &outcome)
         : m_outlets.movieDurationLabel->text();
     const QString path = m_conversion.resultFilePath();
     m_outlets.resultLabel->setText(VideoWords::resultLine(path, length));
-    m_outlets.resultLabel->setToolTip(u"<span>"_s + path.toHtmlEscaped() + u"</span>"_s);
+    m_outlets.resultLabel->setToolTip(toolTipOf(path));
 }
 
 void StateNotes::conversionFailed(const Outcome &outcome)
@@ -144,4 +163,21 @@ void StateNotes::showLog()
         = makeLogWindow(window, m_outlets.movieNameLabel->text(), m_conversion.lastToolOutput());
     dialog->resize(window->size());
     dialog->open();
+}
+
+void StateNotes::dragResult() const
+{
+    const QFileInfo result(m_conversion.resultFilePath());
+    if (!m_hasResult || !result.exists())
+        return;
+    constexpr int thumbnailLines = 6;
+    ImageView *picture = m_outlets.movieCoverImageView;
+    auto *data = new QMimeData;
+    data->setUrls({ QUrl::fromLocalFile(result.absoluteFilePath()) });
+    auto *drag = new QDrag(picture);
+    drag->setMimeData(data);
+    if (!picture->image().isNull())
+        drag->setPixmap(QPixmap::fromImage(picture->image().scaledToHeight(
+            picture->fontMetrics().height() * thumbnailLines, Qt::SmoothTransformation)));
+    drag->exec(Qt::CopyAction);
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/window/ResultDrag.h"
 #include "ui/window/WindowUIState.h"
 
 #include <QObject>
 
 class ConversionFlow;
 class FileIntake;
+class QImage;
 struct Outcome;
 struct PlannedWork;
 
@@ -22,16 +22,17 @@ public:
     void stateChanged(WindowUIState state);
 
 private:
-    void videoWasExamined();
+    void videoWasExamined(const QImage &cover, const QString &duration);
     void workChanged(const PlannedWork &work, bool isSecondTry);
     void resultIsThere(const Outcome &outcome);
     void conversionFailed(const Outcome &outcome);
     void clearFailure();
     void copyCommand();
     void showLog();
+    void dragResult() const;
 
     Ui::MainWindow &m_outlets;
     FileIntake &m_intake;
     ConversionFlow &m_conversion;
-    ResultDrag m_drag;
+    bool m_hasResult = false;
 };

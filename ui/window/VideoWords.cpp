@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/window/VideoWords.h"
 
+#include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
 #include "support/Localized.h"
 #include "support/Path.h"
@@ -60,9 +61,9 @@ QString wordsIn(const Words &words, const PlannedWork &work)
                           : localized(words.at(index(work.picture)).at(index(work.sound)));
 }
 
-QString codecOf(const JSON &stream)
+QString codecOf(const std::optional<ChosenStream> &stream)
 {
-    const QString name = stream[u"codec_name"_s].stringValue();
+    const QString name = stream ? stream->item[u"codec_name"_s].stringValue() : QString();
     for (const auto &[start, known] : codecNames) {
         if (name.startsWith(start))
             return known;
@@ -104,22 +105,14 @@ QString VideoWords::factsOf(const JSON &info)
     QStringList facts;
     if (const qint64 size = info[u"format"_s][u"size"_s].intValue(); size > 0)
         facts << bytes(size);
-    QString sound;
-    QString picture;
-    for (const JSON &stream : info[u"streams"_s].array()) {
-        const QString kind = stream[u"codec_type"_s].stringValue();
-        const qint64 width = stream[u"width"_s].intValue();
-        const qint64 height = stream[u"height"_s].intValue();
-        if (kind == u"video" && picture.isEmpty() && width > 0 && height > 0)
-            facts << formatted(
-                QT_TRANSLATE_NOOP3("Localizable", "%d × %d", "width and height of a picture"),
-                { width, height });
-        if (kind == u"video" && picture.isEmpty())
-            picture = codecOf(stream);
-        if (kind == u"audio" && sound.isEmpty())
-            sound = codecOf(stream);
-    }
-    return joined(facts << picture << sound);
+    const auto picture = firstStream(info, "video"_L1);
+    const qint64 width = picture ? picture->item[u"width"_s].intValue() : 0;
+    const qint64 height = picture ? picture->item[u"height"_s].intValue() : 0;
+    if (width > 0 && height > 0)
+        facts << formatted(
+            QT_TRANSLATE_NOOP3("Localizable", "%d × %d", "width and height of a picture"),
+            { width, height });
+    return joined(facts << codecOf(picture) << codecOf(firstStream(info, "audio"_L1)));
 }
 
 QString VideoWords::resultLine(const QString &path, const QString &length)

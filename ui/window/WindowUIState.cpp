@@ -61,6 +61,7 @@ constexpr Row rows[] = {
     {enable,           OUTLET(convertToButton),               {no,   no,     yes,     yes,      yes}},
     {setAllowDragDrop, OUTLET(dropAcceptor),                  {yes,  no,     yes,     no,       yes}},
 
+    {show,             OUTLET(spinner),                       {no,   yes,    no,      no,       no}},
     {show,             OUTLET(examiningLabel),                {no,   yes,    no,      no,       no}},
     {show,             OUTLET(stopExaminingButton),           {no,   yes,    no,      no,       no}},
     {showWithText,     OUTLET(refusalLabel),                  {yes,  no,     no,      no,       no}},
