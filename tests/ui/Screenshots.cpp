@@ -135,8 +135,7 @@ int main(int argc, char *argv[])
         return 2;
     const QString &look = arguments[2];
     const Appearance appearance;
-    QApplication::setPalette(
-        Appearance::palette({ look.contains(u"dark"), look.contains(u"contrast") }));
+    Appearance::apply({ look.contains(u"dark"), look.contains(u"contrast") });
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * arguments[4].toDouble() / 100);
     QApplication::setFont(font);

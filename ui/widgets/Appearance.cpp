@@ -71,6 +71,16 @@ QPalette Appearance::palette(Look look)
     return palette;
 }
 
+void Appearance::apply(Look look)
+{
+    QPalette colors = palette(look);
+    QApplication::setPalette(colors);
+    // The style draws the border of a box to tick a little darker than what is around it.
+    if (look.isDark && look.hasHighContrast)
+        colors.setColor(QPalette::Base, QColor(0x59, 0x59, 0x59));
+    QApplication::setPalette(colors, "QCheckBox");
+}
+
 Appearance::Appearance()
 {
     // The style's own plain colours mean that no desktop has set any.
@@ -78,7 +88,7 @@ Appearance::Appearance()
     const QColor plain = style.standardPalette().color(QPalette::Window);
     if (style.name() != "fusion"_L1 || QApplication::palette().color(QPalette::Window) != plain)
         return;
-    QApplication::setPalette(palette(m_look));
+    apply(m_look);
 #ifdef Q_OS_LINUX
     const DesktopBus::Object settings{ u"org.freedesktop.portal.Desktop"_s,
         u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s };
@@ -109,6 +119,6 @@ void Appearance::settingChanged(const QString &space, const QString &key, const 
         m_look.hasHighContrast = isOne;
     else
         return;
-    QApplication::setPalette(palette(m_look));
+    apply(m_look);
 }
 #endif

@@ -19,6 +19,7 @@ public:
     Appearance();
 
     [[nodiscard]] static QPalette palette(Look look);
+    static void apply(Look look);
 
 #ifdef Q_OS_LINUX
 private Q_SLOTS:
