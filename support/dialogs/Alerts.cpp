@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -63,18 +64,28 @@ bool displayQuestion(const QString &question)
     return box.clickedButton() == yes;
 }
 
-QDialog *makeLogWindow(QWidget *parent, const QString &title, const QByteArray &output)
+void showLog(QWidget *window, const QByteArray &output)
 {
-    auto *dialog = new QDialog(parent);
+    const QString title = localized(
+        QT_TRANSLATE_NOOP3("Localizable", "Conversion Log", "title of the log's window"));
+    const QString name = u"log"_s;
+    for (QDialog *former : window->findChildren<QDialog *>(name))
+        former->close();
+    auto *dialog = new QDialog(window);
+    dialog->setObjectName(name);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(title);
     auto *text = new QPlainTextEdit(QString::fromUtf8(output).replace(u'\r', u'\n'));
     text->setReadOnly(true);
     text->setLayoutDirection(Qt::LeftToRight);
+    text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    text->setAccessibleName(title);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     auto *layout = new QVBoxLayout(dialog);
     layout->addWidget(text);
     layout->addWidget(buttons);
-    return dialog;
+    dialog->resize(720, 480);
+    dialog->show();
 }

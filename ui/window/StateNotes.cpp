@@ -17,7 +17,6 @@
 #include "ui_MainWindow.h"
 
 #include <QClipboard>
-#include <QDialog>
 #include <QDrag>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -41,7 +40,8 @@ StateNotes::StateNotes(Ui::MainWindow &outlets, FileIntake &intake, ConversionFl
     connect(m_outlets.againLabel, &TextField::clicked, &m_intake,
         [this] { m_intake.processFile(m_intake.processingFilePath()); });
     connect(m_outlets.anotherFormatLabel, &TextField::clicked, &m_intake, &FileIntake::takeAgain);
-    connect(m_outlets.logLabel, &TextField::clicked, this, &StateNotes::showLog);
+    connect(m_outlets.logLabel, &TextField::clicked, this,
+        [this] { showLog(m_outlets.logLabel->window(), m_conversion.lastToolOutput()); });
     connect(m_outlets.copyCommandLabel, &TextField::clicked, this, &StateNotes::copyCommand);
     connect(m_outlets.movieCoverImageView, &ImageView::dragged, this, &StateNotes::dragResult);
     connect(m_outlets.openResultButton, &QPushButton::clicked, &m_conversion,
@@ -154,15 +154,6 @@ void StateNotes::copyCommand()
     QGuiApplication::clipboard()->setText(Text::shellQuoted(words + m_intake.leftOut()));
     m_outlets.copyCommandLabel->setText(localized(
         QT_TRANSLATE_NOOP3("Localizable", "Copied", "a command line is on the clipboard now")));
-}
-
-void StateNotes::showLog()
-{
-    QWidget *window = m_outlets.dropAcceptor->window();
-    QDialog *dialog
-        = makeLogWindow(window, m_outlets.movieNameLabel->text(), m_conversion.lastToolOutput());
-    dialog->resize(window->size());
-    dialog->open();
 }
 
 void StateNotes::dragResult() const

@@ -28,7 +28,6 @@ private:
     void conversionFailed(const Outcome &outcome);
     void clearFailure();
     void copyCommand();
-    void showLog();
     void dragResult() const;
 
     Ui::MainWindow &m_outlets;
