@@ -6,7 +6,7 @@
 #include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
 #include "engine/Destination.h"
-#include "engine/Tool.h"
+#include "engine/Task.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/StandardInput.h"

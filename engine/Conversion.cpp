@@ -100,9 +100,8 @@ Outcome Conversion::ran(const ConversionJob &job)
     const auto ended = std::make_shared<std::binary_semaphore>(0);
     const std::shared_ptr<Progress> run = FFMPEG::convertFile(
         job.path, job.destPath, job.constraints, job.conversionInfo, [](const auto &) {});
-    for (const Progress::Key key :
-        { Progress::Key::FractionCompleted, Progress::Key::CompletedUnitCount })
-        run->addObserver(key, this, [this, raw = run.get()](Progress::Key) { follow(*raw); });
+    run->addObserver(Progress::Key::FractionCompleted, this,
+        [this, raw = run.get()](Progress::Key) { follow(*raw); });
     run->setEndHandler([ended] { ended->release(); });
     while (!ended->try_acquire_for(50ms)) {
         if (m_progress->isCancelled())

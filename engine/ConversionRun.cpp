@@ -6,7 +6,6 @@
 #include "engine/MovieProbe.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Console.h"
 #include "support/Text.h"
@@ -45,21 +44,14 @@ void ConversionRun::run()
         end(*refusal);
         postError(sentenceOf(*refusal));
     } else {
-        convert();
+        Task task;
+        if (launch(task)) {
+            follow(task);
+            judge(task);
+            finish(task);
+        }
     }
     m_progress->end();
-}
-
-void ConversionRun::convert()
-{
-    Task task;
-    if (!launch(task)) {
-        removeDestination();
-        return;
-    }
-    follow(task);
-    judge(task);
-    finish(task);
 }
 
 bool ConversionRun::launch(Task &task)
@@ -75,6 +67,7 @@ bool ConversionRun::launch(Task &task)
     Console::print(u"something bad happened: "_s + error.localizedDescription);
     end(missingTool(Tool::Ffmpeg));
     m_progress->cancel();
+    QFile::remove(m_job.destPath);
     return false;
 }
 
@@ -141,14 +134,13 @@ void ConversionRun::finish(Task &task)
     case OutcomeKind::Cancelled:
         // A tool that is stopped while it starts still creates its output: wait for its end first.
         task.terminate();
-        removeDestination();
+        QFile::remove(m_job.destPath);
         break;
     default:
         Console::print(u"error occured: "_s + Text::stringValue(m_output));
         postError(std::nullopt);
-        removeDestination();
+        QFile::remove(m_job.destPath);
     }
-    task.closeFile();
 }
 
 void ConversionRun::end(const Outcome &outcome) { m_progress->setOutcome(outcome, m_output); }
@@ -157,5 +149,3 @@ void ConversionRun::postError(const std::optional<QString> &errmsg) const
 {
     Async::async([handler = m_errorHandler, errmsg] { handler(errmsg); });
 }
-
-void ConversionRun::removeDestination() const { QFile::remove(m_job.destPath); }

@@ -29,7 +29,6 @@ public:
     void run();
 
 private:
-    void convert();
     bool launch(Task &task);
     void follow(Task &task);
     void readChunk(const QByteArray &chunk);
@@ -37,7 +36,6 @@ private:
     void finish(Task &task);
     void end(const Outcome &outcome);
     void postError(const std::optional<QString> &errmsg) const;
-    void removeDestination() const;
 
     ConversionJob m_job;
     std::shared_ptr<Progress> m_progress;

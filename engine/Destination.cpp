@@ -22,7 +22,7 @@ std::optional<Outcome> obstacleAt(const QString &path)
         return Outcome{ Reason::DestinationIsFolder };
     if (file.isSymbolicLink() && !file.exists())
         return Outcome{ Reason::DestinationLeadsNowhere };
-    if (file.exists() && !isRegularFile(path))
+    if (file.exists() && !file.isFile())
         return Outcome{ Reason::DestinationIsDevice };
     return std::nullopt;
 }

@@ -4,7 +4,6 @@
 #include "engine/Progress.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
 
 #include <QDateTime>
