@@ -7,41 +7,24 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// An expression that can't be compiled finds nothing.
-QRegularExpression expression(const QString &pattern, QRegularExpression::PatternOptions options)
-{
-    QRegularExpression compiled = Pattern::compiled(pattern, options);
-    return compiled.isValid() ? compiled : QRegularExpression();
-}
-
-// "2562047788:00:54.77" is the longest that the tool can print. More would not fit 64 bits.
-constexpr qsizetype longestTime = 20;
-
-}
-
 namespace ToolOutput {
 
 const QRegularExpression &regexprDuration()
 {
-    static const QRegularExpression regexp
-        = expression(u"Duration: (.*?), start:"_s, QRegularExpression::NoPatternOption);
+    static const QRegularExpression regexp = Pattern::compiled(u"Duration: (.*?), start:"_s);
     return regexp;
 }
 
 const QRegularExpression &regexprProgress()
 {
     static const QRegularExpression regexp
-        = expression(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
+        = Pattern::compiled(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
     return regexp;
 }
 
 std::optional<qint64> getFFMpegDuration(const QString &text)
 {
-    const QRegularExpression regexp = Pattern::compiled(uR"((\d+):(\d+):(\d+)(\.(\d+))?)"_s);
-    if (!regexp.isValid())
-        return std::nullopt;
+    static const QRegularExpression regexp = Pattern::compiled(uR"((\d+):(\d+):(\d+))"_s);
     const QRegularExpressionMatch match
         = regexp.match(Pattern::searchRange(text, Text::characterCount(text)));
     if (!match.hasMatch())
@@ -63,8 +46,6 @@ std::optional<qint64> lastReportedPosition(const QString &block)
     QRegularExpressionMatch last;
     for (auto matches = regexprProgress().globalMatch(block); matches.hasNext();)
         last = matches.next();
-    if (!last.hasMatch() || last.capturedLength(1) > longestTime)
-        return std::nullopt;
     return printedSeconds(Pattern::substringFromCheckingResult(last, 1));
 }
 
