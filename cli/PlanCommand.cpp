@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Examination.h"
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
@@ -61,13 +60,12 @@ ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption 
         = sourceRefusal({ .path = item.destPath, .sources = { item.input.path } }))
         return Output::failure(item.destPath, *refusal);
     // What lies beside the videos of a folder is left out without a word.
-    const auto result = examined(item.input.path, Cover::LeftOut, interruption);
-    const auto *refusal = std::get_if<Outcome>(&result);
-    if (refusal && item.input.isFound && kindOf(*refusal) == OutcomeKind::InputRefused)
+    const VideoDescription video = examined(item.input.path, Cover::LeftOut, interruption);
+    if (item.input.isFound && kindOf(video.refusal) == OutcomeKind::InputRefused)
         return ExitCode::Done;
-    if (refusal)
-        return Output::failure(item.input.name, *refusal);
-    print(line, &item, std::get<VideoDescription>(result).info);
+    if (!video.refusal.isDone())
+        return Output::failure(item.input.name, video.refusal);
+    print(line, &item, video.info);
     return ExitCode::Done;
 }
 
