@@ -338,11 +338,10 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
         if (const auto refusal = folderRefusal(absolutePath(line.folder)))
             return refused(line.folder, *refusal);
     }
-    const auto inputs = inputsOf(line);
-    if (const auto *refusal = std::get_if<InputRefusal>(&inputs))
-        return refused(refusal->name, refusal->outcome);
-    const auto &videos = std::get<std::vector<Input>>(inputs);
-    if (videos.empty())
+    const Inputs inputs = inputsOf(line);
+    if (!inputs.refusal.isDone())
+        return refused(inputs.refusedName, inputs.refusal);
+    if (inputs.videos.empty())
         return ExitCode::Done;
-    return Batch(line, conversionItems(line, videos), *reporter).run(interruption);
+    return Batch(line, conversionItems(line, inputs.videos), *reporter).run(interruption);
 }

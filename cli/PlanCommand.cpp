@@ -2,7 +2,6 @@
 #include "cli/Commands.h"
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
-#include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
 #include "engine/Destination.h"
 #include "engine/Task.h"
@@ -72,15 +71,14 @@ ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption 
 /// Videos into a folder: a line, or an object in a line, for each and each output.
 ExitCode planAll(const CommandLine &line, Interruption &interruption)
 {
-    const auto inputs = inputsOf(line);
-    if (const auto *refusal = std::get_if<InputRefusal>(&inputs))
-        return Output::failure(refusal->name, refusal->outcome);
+    const Inputs inputs = inputsOf(line);
+    if (!inputs.refusal.isDone())
+        return Output::failure(inputs.refusedName, inputs.refusal);
     ExitCode code = ExitCode::Done;
     for (const VideoConstraints &entry : line.entries) {
         CommandLine one = line;
         one.entries = { entry };
-        for (const ConversionItem &item :
-            conversionItems(one, std::get<std::vector<Input>>(inputs))) {
+        for (const ConversionItem &item : conversionItems(one, inputs.videos)) {
             const ExitCode end = plan(one, item, interruption);
             code = code == ExitCode::Done ? end : code;
             if (Interruption::signal() != 0)

@@ -32,8 +32,7 @@ QString streamText(const JSON &stream)
     QStringList parts{ stream[u"codec_type"_s].stringValue(),
         stream[u"codec_name"_s].stringValue() };
     if (const auto width = stream[u"width"_s].integer())
-        parts << QString::number(*width) + u" x "_s
-                + QString::number(stream[u"height"_s].intValue());
+        parts << u"%1 x %2"_s.arg(*width).arg(stream[u"height"_s].intValue());
     if (const QString rate = stream[u"sample_rate"_s].stringValue(); !rate.isEmpty())
         parts << rate + u" Hz"_s;
     if (const auto channels = stream[u"channels"_s].integer())

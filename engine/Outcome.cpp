@@ -5,7 +5,9 @@
 #include "support/Localized.h"
 #include "support/Path.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
 
 namespace {
 
@@ -80,15 +82,10 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
 });
 // clang-format on
 
-constexpr bool isInOrder()
-{
-    for (std::size_t i = 0; i < reasonRows.size(); ++i) {
-        if (reasonRows.at(i).reason != static_cast<Reason>(i))
-            return false;
-    }
-    return reasonRows.back().reason == Reason::Cancelled;
-}
-static_assert(isInOrder());
+// In the order of the reasons, none missing.
+static_assert(std::ranges::adjacent_find(reasonRows, std::greater_equal(), &ReasonRow::reason)
+        == reasonRows.end()
+    && reasonRows.size() == std::size_t(Reason::Cancelled) + 1);
 
 struct RemedyRow {
     QLatin1StringView name;

@@ -94,17 +94,14 @@ QByteArray OwnLines::in(QByteArray chunk)
 
 void DurationScanner::append(const QString &block)
 {
-    if (m_decided || block.isEmpty())
-        return;
-    m_tail += block;
-    m_searched = false;
+    if (!m_decided)
+        m_tail += block;
 }
 
 std::optional<qint64> DurationScanner::duration()
 {
-    if (m_decided || m_searched)
+    if (m_decided)
         return m_duration;
-    m_searched = true;
     // A search covers as many UTF-16 units as the whole text has characters.
     const qsizetype searchedEnd = std::max<qsizetype>(Text::characterCount(m_tail) - m_surplus, 0);
     const QStringView searched = Pattern::searchRange(m_tail, searchedEnd);
