@@ -9,6 +9,7 @@
 #include "engine/Destination.h"
 #include "engine/SteadyTime.h"
 #include "engine/Verdict.h"
+#include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Path.h"
@@ -41,12 +42,8 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
 bool isVideoOrMusic(const JSON &info)
 {
-    if (info[u"format"_s][u"format_name"_s].stringValue() == u"tty")
-        return false;
-    return std::ranges::any_of(info[u"streams"_s].array(), [](const JSON &stream) {
-        const QString kind = stream[u"codec_type"_s].stringValue();
-        return kind == u"video" || kind == u"audio";
-    });
+    return info[u"format"_s][u"format_name"_s].stringValue() != u"tty"
+        && (firstStream(info, "video"_L1) || firstStream(info, "audio"_L1));
 }
 
 Outcome outcomeOf(const Progress &progress)

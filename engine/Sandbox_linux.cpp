@@ -53,14 +53,8 @@ quint64 handledRights(long version)
 {
     if (version < 1)
         return 0;
-    quint64 rights = firstRights;
-    if (version >= 2)
-        rights |= LANDLOCK_ACCESS_FS_REFER;
-    if (version >= 3)
-        rights |= truncateFile;
-    if (version >= 5)
-        rights |= deviceControl;
-    return rights;
+    return firstRights | (version >= 2 ? LANDLOCK_ACCESS_FS_REFER : 0)
+        | (version >= 3 ? truncateFile : 0) | (version >= 5 ? deviceControl : 0);
 }
 
 void grant(int ruleset, const QString &path, quint64 rights)

@@ -51,18 +51,14 @@ std::optional<qint64> lastReportedPosition(const QString &block)
 
 QString decodedBlock(const QByteArray &block)
 {
-    QString text = Text::stringValue(block);
-    if (!text.isEmpty())
-        return text;
-    for (qsizetype start = 0; start < block.size();) {
-        qsizetype end = start;
-        while (end < block.size() && block[end] != '\n' && block[end] != '\r')
-            ++end;
-        end = std::min(end + 1, block.size());
-        text += Text::stringValue(block.sliced(start, end - start));
-        start = end;
+    QString text;
+    QByteArray line;
+    for (const char byte : block) {
+        line += byte;
+        if (byte == '\n' || byte == '\r')
+            text += Text::stringValue(std::exchange(line, {}));
     }
-    return text;
+    return text + Text::stringValue(line);
 }
 
 OwnLines::OwnLines(const QStringList &paths)

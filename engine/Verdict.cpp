@@ -64,10 +64,9 @@ bool isCover(const JSON &stream, const JSON &info)
     if (stream[u"disposition"_s][u"attached_pic"_s].intValue() == 1
         || stream[u"nb_frames"_s].stringValue() == u"1")
         return true;
-    const std::vector<JSON> all = info[u"streams"_s].array();
-    return isImageFormat(stream) && std::any_of(all.begin(), all.end(), [](const JSON &each) {
-        return isPicture(each) && !isImageFormat(each);
-    });
+    return isImageFormat(stream)
+        && std::ranges::any_of(info[u"streams"_s].array(),
+            [](const JSON &each) { return isPicture(each) && !isImageFormat(each); });
 }
 
 // Raw streams have no header that says how long they play: the tool's guess says nothing.
