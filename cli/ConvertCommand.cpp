@@ -7,6 +7,7 @@
 #include "engine/Async.h"
 #include "engine/Conversion.h"
 #include "engine/Destination.h"
+#include "engine/Remedy.h"
 #include "engine/SteadyTime.h"
 #include "engine/Verdict.h"
 #include "planning/ConversionDescriptor.h"

@@ -126,7 +126,7 @@ std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString
     progress->setKind(Progress::Kind::File);
     Async::background([job = ConversionJob{ path, destPath, constraints, conversionInfo }, progress,
                           errorHandler = std::move(errorHandler)] {
-        ConversionRun(job, progress, errorHandler).run();
+        runConversion(job, progress, errorHandler);
     });
     return progress;
 }
