@@ -7,8 +7,10 @@
 #include "engine/Async.h"
 #include "engine/Conversion.h"
 #include "engine/Destination.h"
+#include "engine/Remedy.h"
 #include "engine/SteadyTime.h"
 #include "engine/Verdict.h"
+#include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Path.h"
@@ -41,12 +43,8 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
 /// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
 bool isVideoOrMusic(const JSON &info)
 {
-    if (info[u"format"_s][u"format_name"_s].stringValue() == u"tty")
-        return false;
-    return std::ranges::any_of(info[u"streams"_s].array(), [](const JSON &stream) {
-        const QString kind = stream[u"codec_type"_s].stringValue();
-        return kind == u"video" || kind == u"audio";
-    });
+    return info[u"format"_s][u"format_name"_s].stringValue() != u"tty"
+        && (firstStream(info, "video"_L1) || firstStream(info, "audio"_L1));
 }
 
 Outcome outcomeOf(const Progress &progress)
@@ -338,11 +336,10 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
         if (const auto refusal = folderRefusal(absolutePath(line.folder)))
             return refused(line.folder, *refusal);
     }
-    const auto inputs = inputsOf(line);
-    if (const auto *refusal = std::get_if<InputRefusal>(&inputs))
-        return refused(refusal->name, refusal->outcome);
-    const auto &videos = std::get<std::vector<Input>>(inputs);
-    if (videos.empty())
+    const Inputs inputs = inputsOf(line);
+    if (!inputs.refusal.isDone())
+        return refused(inputs.refusedName, inputs.refusal);
+    if (inputs.videos.empty())
         return ExitCode::Done;
-    return Batch(line, conversionItems(line, videos), *reporter).run(interruption);
+    return Batch(line, conversionItems(line, inputs.videos), *reporter).run(interruption);
 }

@@ -80,13 +80,13 @@ std::vector<Input> inputsIn(const CommandLine &line)
 
 }
 
-std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
+Inputs inputsOf(const CommandLine &line)
 {
     QStringList names = line.inputs;
     if (!line.list.isEmpty()) {
         const auto list = StandardInput::contentsOf(line.list, listLimit);
         if (!list)
-            return InputRefusal{ line.list, { Reason::ListNotReadable } };
+            return { .refusedName = line.list, .refusal = { Reason::ListNotReadable } };
         for (const QByteArray &name : list->split(line.listIsNullSeparated ? '\0' : '\n')) {
             if (!name.isEmpty())
                 names << QFile::decodeName(name);
@@ -98,13 +98,13 @@ std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line)
     if (!line.tree.isEmpty()) {
         const QDir tree(line.tree);
         if (!tree.exists() || !tree.isReadable())
-            return InputRefusal{ line.tree, { Reason::TreeNotReadable } };
+            return { .refusedName = line.tree, .refusal = { Reason::TreeNotReadable } };
         const std::vector<Input> found = inputsIn(line);
         inputs.insert(inputs.end(), found.begin(), found.end());
     }
     std::set<QString> known;
     std::erase_if(inputs, [&](const Input &input) { return !known.insert(input.path).second; });
-    return inputs;
+    return { .videos = inputs };
 }
 
 std::vector<ConversionItem> conversionItems(

@@ -4,7 +4,6 @@
 #include "cli/arguments/CommandLine.h"
 #include "engine/Outcome.h"
 
-#include <variant>
 #include <vector>
 
 struct Input {
@@ -21,15 +20,16 @@ struct ConversionItem {
     QString destPath;
 };
 
-/// Why a list or a folder of inputs can't be read.
-struct InputRefusal {
-    QString name;
-    Outcome outcome;
+/// The videos of a command line, or its list or folder that can't be read, and why.
+struct Inputs {
+    std::vector<Input> videos = {};
+    QString refusedName = {};
+    Outcome refusal = {};
 };
 
 /// The videos of a command line, each once, with those of a folder and a list. Hidden files and
 /// what an earlier run made beside a video are left out. No file is opened. Thread: main.
-[[nodiscard]] std::variant<std::vector<Input>, InputRefusal> inputsOf(const CommandLine &line);
+[[nodiscard]] Inputs inputsOf(const CommandLine &line);
 
 /// The inputs with their destinations, in the inputs' order. In a folder each result gets its
 /// input's name with the output's extension, and a number where two bear the same name. Who gets

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Examination.h"
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
-#include "cli/report/ShownText.h"
 #include "engine/ConversionRun.h"
 #include "engine/Destination.h"
-#include "engine/Tool.h"
+#include "engine/Task.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/StandardInput.h"
@@ -61,28 +59,26 @@ ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption 
         = sourceRefusal({ .path = item.destPath, .sources = { item.input.path } }))
         return Output::failure(item.destPath, *refusal);
     // What lies beside the videos of a folder is left out without a word.
-    const auto result = examined(item.input.path, Cover::LeftOut, interruption);
-    const auto *refusal = std::get_if<Outcome>(&result);
-    if (refusal && item.input.isFound && kindOf(*refusal) == OutcomeKind::InputRefused)
+    const VideoDescription video = examined(item.input.path, Cover::LeftOut, interruption);
+    if (item.input.isFound && kindOf(video.refusal) == OutcomeKind::InputRefused)
         return ExitCode::Done;
-    if (refusal)
-        return Output::failure(item.input.name, *refusal);
-    print(line, &item, std::get<VideoDescription>(result).info);
+    if (!video.refusal.isDone())
+        return Output::failure(item.input.name, video.refusal);
+    print(line, &item, video.info);
     return ExitCode::Done;
 }
 
 /// Videos into a folder: a line, or an object in a line, for each and each output.
 ExitCode planAll(const CommandLine &line, Interruption &interruption)
 {
-    const auto inputs = inputsOf(line);
-    if (const auto *refusal = std::get_if<InputRefusal>(&inputs))
-        return Output::failure(refusal->name, refusal->outcome);
+    const Inputs inputs = inputsOf(line);
+    if (!inputs.refusal.isDone())
+        return Output::failure(inputs.refusedName, inputs.refusal);
     ExitCode code = ExitCode::Done;
     for (const VideoConstraints &entry : line.entries) {
         CommandLine one = line;
         one.entries = { entry };
-        for (const ConversionItem &item :
-            conversionItems(one, std::get<std::vector<Input>>(inputs))) {
+        for (const ConversionItem &item : conversionItems(one, inputs.videos)) {
             const ExitCode end = plan(one, item, interruption);
             code = code == ExitCode::Done ? end : code;
             if (Interruption::signal() != 0)

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/Examination.h"
 #include "cli/Inputs.h"
 #include "cli/report/Output.h"
 #include "cli/report/ShownText.h"
 #include "support/Interruption.h"
 #include "support/Localized.h"
 
+#include <QEventLoop>
 #include <QJsonObject>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -31,8 +32,7 @@ QString streamText(const JSON &stream)
     QStringList parts{ stream[u"codec_type"_s].stringValue(),
         stream[u"codec_name"_s].stringValue() };
     if (const auto width = stream[u"width"_s].integer())
-        parts << QString::number(*width) + u" x "_s
-                + QString::number(stream[u"height"_s].intValue());
+        parts << u"%1 x %2"_s.arg(*width).arg(stream[u"height"_s].intValue());
     if (const QString rate = stream[u"sample_rate"_s].stringValue(); !rate.isEmpty())
         parts << rate + u" Hz"_s;
     if (const auto channels = stream[u"channels"_s].integer())
@@ -66,20 +66,44 @@ void printText(const VideoDescription &video)
 
 }
 
+VideoDescription examined(const QString &path, Cover cover, Interruption &interruption)
+{
+    QEventLoop loop;
+    QObject::connect(&interruption, &Interruption::arrived, &loop, &QEventLoop::quit);
+    // The description may arrive after an interruption ended the wait.
+    const auto result = std::make_shared<VideoDescription>();
+    const auto finish = [result, waiting = QPointer(&loop)](const VideoDescription &value) {
+        *result = value;
+        if (waiting)
+            waiting->quit();
+    };
+    FFMPEG::collectMovieInfo(
+        path, [finish](const Outcome &refusal) { finish({ .refusal = refusal }); },
+        [finish](const JSON &info, const QImage &image, const QString &duration) {
+            finish({ .info = info, .duration = duration, .cover = image.size() });
+        },
+        cover);
+    if (Interruption::signal() == 0)
+        loop.exec();
+    // The same Ctrl-C may have stopped the tool: its refusal says nothing about the video.
+    if (Interruption::signal() != 0)
+        result->refusal = { Reason::Cancelled };
+    return *result;
+}
+
 ExitCode probeVideos(const CommandLine &line, Interruption &interruption)
 {
     const bool isOne = line.inputs.size() == 1;
     ExitCode code = ExitCode::Done;
     for (const QString &name : line.inputs) {
-        const auto result = examined(absolutePath(name), Cover::Taken, interruption);
-        if (const auto *refusal = std::get_if<Outcome>(&result)) {
-            const ExitCode failure = Output::failure(name, *refusal);
+        const VideoDescription video = examined(absolutePath(name), Cover::Taken, interruption);
+        if (!video.refusal.isDone()) {
+            const ExitCode failure = Output::failure(name, video.refusal);
             code = code == ExitCode::Done ? failure : code;
             if (Interruption::signal() != 0)
                 break;
             continue;
         }
-        const auto &video = std::get<VideoDescription>(result);
         if (line.json) {
             Output::json(QJsonDocument(jsonOf(absolutePath(name), video)),
                 isOne ? QJsonDocument::Indented : QJsonDocument::Compact);

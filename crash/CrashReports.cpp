@@ -28,15 +28,11 @@ bool isConfigured() { return !Configuration::crashUrl().isEmpty() && !Configurat
 
 bool mayAlwaysSend() { return Defaults::value(alwaysSendKey).toBool(); }
 
-/// Paths, newest first.
-QStringList reports(const QString &pattern)
+/// Newest first.
+QFileInfoList reports(const QString &pattern)
 {
-    const QDir folder(
-        CrashReporter::folder(), pattern, QDir::Time | QDir::Name, QDir::Files | QDir::NoSymLinks);
-    QStringList paths;
-    for (const QString &name : folder.entryList())
-        paths.append(folder.filePath(name));
-    return paths;
+    return QDir(CrashReporter::folder())
+        .entryInfoList({ pattern }, QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
 }
 
 QByteArray contents(const QString &path)
@@ -45,11 +41,10 @@ QByteArray contents(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.read(reportLimit) : QByteArray();
 }
 
-QString marked(const QString &path, const QString &state)
+QFileInfo marked(const QFileInfo &file, const QString &state)
 {
-    const QFileInfo file(path);
     const QString newPath = u"%1/%2.%3.txt"_s.arg(file.path(), file.baseName(), state);
-    return QFile::rename(path, newPath) ? newPath : path;
+    return QFile::rename(file.filePath(), newPath) ? QFileInfo(newPath) : file;
 }
 
 QString notePath() { return CrashReporter::folder() + u"/session"_s; }
@@ -65,29 +60,29 @@ void note(const QString &session, const QString &state)
 
 void CrashReports::uploadPending(const Question &ask)
 {
-    QStringList pending = reports(u"crash-*.txt"_s);
+    QFileInfoList pending = reports(u"crash-*.txt"_s);
     while (pending.size() > keptReports)
-        QFile::remove(pending.takeLast());
-    pending.removeIf(
-        [](const QString &path) { return QFileInfo(path).completeSuffix() != u"txt"; });
+        QFile::remove(pending.takeLast().filePath());
+    pending.removeIf([](const QFileInfo &file) { return file.completeSuffix() != u"txt"; });
     if (!isConfigured())
         return;
     const QPointer<QObject> alive(&m_network);
-    QStringList agreed = reports(u"crash-*.agreed.txt"_s);
-    for (const QString &path : pending) {
-        const SendReport answer
-            = mayAlwaysSend() ? SendReport::Always : ask(QString::fromUtf8(contents(path)));
+    QFileInfoList agreed = reports(u"crash-*.agreed.txt"_s);
+    for (const QFileInfo &file : pending) {
+        const SendReport answer = mayAlwaysSend()
+            ? SendReport::Always
+            : ask(QString::fromUtf8(contents(file.filePath())));
         if (!alive)
             return; // The question is a window; the program may have ended under it.
         if (answer == SendReport::Always)
             Defaults::setValue(alwaysSendKey, true);
         if (answer == SendReport::No)
-            marked(path, u"refused"_s);
+            marked(file, u"refused"_s);
         else
-            agreed.append(marked(path, u"agreed"_s));
+            agreed.append(marked(file, u"agreed"_s));
     }
-    for (const QString &path : agreed)
-        post(contents(path), [path] { marked(path, u"sent"_s); });
+    for (const QFileInfo &file : agreed)
+        post(contents(file.filePath()), [file] { marked(file, u"sent"_s); });
 }
 
 void CrashReports::beginSession()

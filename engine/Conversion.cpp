@@ -3,7 +3,9 @@
 
 #include "engine/Async.h"
 #include "engine/Destination.h"
+#include "engine/Remedy.h"
 #include "engine/RunReport.h"
+#include "engine/StagedFile.h"
 #include "engine/Verdict.h"
 #include "support/FileSystem.h"
 
@@ -26,6 +28,114 @@ qint64 probedLength(const ConversionJob &job)
     return seconds >= 1 && seconds < 1e9 ? static_cast<qint64>(seconds) : -1;
 }
 
+// One conversion: its tries, and what they came to.
+struct Tries {
+    ConversionJob wanted;
+    bool overwrite;
+    std::shared_ptr<Progress> progress;
+    QByteArray output = {};
+
+    [[nodiscard]] Outcome converted()
+    {
+        // Where the user keeps a link, what it leads to is replaced.
+        wanted.destPath = linkTarget(wanted.destPath);
+        if (const auto refusal = refusalOf(
+                { .path = wanted.destPath, .sources = { wanted.path }, .overwrite = overwrite }))
+            return *refusal;
+        StagedFile staged(wanted.destPath);
+        ConversionJob job = wanted;
+        Outcome outcome = tried(job, staged);
+        QList<Remedy> remedies;
+        // Music may come with a cover and with a sample rate that the output can't hold: one more
+        // try for each cause.
+        for (Remedy remedy = remedyFor(outcome, output, job);
+             remedy != Remedy::None && !remedies.contains(remedy) && !progress->isCancelled();
+             remedy = remedyFor(outcome, output, job)) {
+            remedies << remedy;
+            progress->setRemedy(remedy);
+            job = remedied(job, remedy);
+            outcome = tried(job, staged);
+        }
+        outcome.remedies = remedies;
+        return placed(staged, outcome);
+    }
+
+    [[nodiscard]] Outcome tried(const ConversionJob &job, StagedFile &staged)
+    {
+        if (const auto refusal = staged.create())
+            return *refusal;
+        ConversionJob stagedJob = job;
+        stagedJob.destPath = staged.path();
+        const Outcome run = ran(stagedJob);
+        return isGood(run) ? verdictOn(stagedJob, run) : run;
+    }
+
+    [[nodiscard]] Outcome ran(const ConversionJob &job)
+    {
+        const auto ended = std::make_shared<std::binary_semaphore>(0);
+        const std::shared_ptr<Progress> run = FFMPEG::convertFile(
+            job.path, job.destPath, job.constraints, job.conversionInfo, [](const auto &) {});
+        run->addObserver(Progress::Key::FractionCompleted, this,
+            [this, raw = run.get()](Progress::Key) { follow(*raw); });
+        run->setEndHandler([ended] { ended->release(); });
+        while (!ended->try_acquire_for(50ms)) {
+            if (progress->isCancelled())
+                run->cancel();
+            if (run->isIndeterminate() && run->position() > 0)
+                follow(*run);
+        }
+        output = run->toolOutput();
+        return run->outcome();
+    }
+
+    // The last step is left for the result's move into place.
+    void follow(const Progress &run) const
+    {
+        // Of some sound files the tool prints no length, but the probe knows it.
+        const bool isUnknown = run.isIndeterminate();
+        const qint64 total = isUnknown ? probedLength(wanted) : run.totalUnitCount();
+        const qint64 position = isUnknown ? run.position() : run.completedUnitCount();
+        if (total != progress->totalUnitCount())
+            progress->setTotalUnitCount(total);
+        const qint64 completed = std::min(position, total - 1);
+        if (total > 0 && completed >= 0 && completed != progress->completedUnitCount())
+            progress->setCompletedUnitCount(completed);
+    }
+
+    [[nodiscard]] Outcome verdictOn(const ConversionJob &job, const Outcome &run) const
+    {
+        const RunReport report = reportOf(output, { job.path, job.destPath });
+        Lengths expected = expectedOf(job);
+        const SourceData data = dataOf(job.path);
+        expected.isGuessed = report.lengthIsGuessed && data.claim <= 1;
+        for (std::optional<double> *length : { &expected.picture, &expected.sound }) {
+            if (*length)
+                **length *= data.claim;
+        }
+        // A copy has all packets, whatever is in them.
+        const bool copiesHole = data.hasHole && conversionArguments(job).contains(u"copy");
+        Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
+        if (outcome.isDone() && (copiesHole || isInDoubt(run, report, expected)))
+            outcome = inspected(
+                job, expected, copiesHole ? Reading::Frames : Reading::Packets, *progress)
+                          .value_or(run);
+        outcome.damagedPlaces = report.damagedPlaces;
+        outcome.firstDamage = report.firstDamage;
+        return outcome;
+    }
+
+    [[nodiscard]] Outcome placed(StagedFile &staged, Outcome outcome) const
+    {
+        if (!isGood(outcome))
+            return outcome;
+        if (progress->isCancelled())
+            return { Reason::Cancelled };
+        const auto refusal
+            = staged.moveIntoPlace(overwrite, outcome.isDone() ? nullptr : &outcome.olderPath);
+        return refusal ? *refusal : outcome;
+    }
+};
+
 }
 
 std::shared_ptr<Progress> Conversion::start(
@@ -35,9 +145,9 @@ std::shared_ptr<Progress> Conversion::start(
     progress->setKind(Progress::Kind::File);
     Async::background(
         [job = std::move(job), olderFile, progress, errorHandler = std::move(errorHandler)] {
-            Conversion conversion(job, olderFile, progress);
-            const Outcome outcome = conversion.converted();
-            progress->setOutcome(outcome, conversion.m_output);
+            Tries tries{ job, olderFile == OlderFile::Replaced, progress };
+            const Outcome outcome = tries.converted();
+            progress->setOutcome(outcome, tries.output);
             const OutcomeKind kind = kindOf(outcome);
             if (kind == OutcomeKind::ToolMissing)
                 progress->cancel();
@@ -51,112 +161,4 @@ std::shared_ptr<Progress> Conversion::start(
             progress->end();
         });
     return progress;
-}
-
-Conversion::Conversion(ConversionJob job, OlderFile olderFile, std::shared_ptr<Progress> progress)
-    : m_job(std::move(job))
-    , m_overwrite(olderFile == OlderFile::Replaced)
-    , m_progress(std::move(progress))
-{
-}
-
-Outcome Conversion::converted()
-{
-    // Where the user keeps a link, what it leads to is replaced.
-    m_job.destPath = linkTarget(m_job.destPath);
-    if (const auto refusal = refusalOf(
-            { .path = m_job.destPath, .sources = { m_job.path }, .overwrite = m_overwrite }))
-        return *refusal;
-    StagedFile staged(m_job.destPath);
-    ConversionJob job = m_job;
-    Outcome outcome = tried(job, staged);
-    QList<Remedy> remedies;
-    // Music may come with a cover and with a sample rate that the output can't hold: one more try
-    // for each cause.
-    for (Remedy remedy = remedyFor(outcome, m_output, job);
-         remedy != Remedy::None && !remedies.contains(remedy) && !m_progress->isCancelled();
-         remedy = remedyFor(outcome, m_output, job)) {
-        remedies << remedy;
-        m_progress->setRemedy(remedy);
-        job = remedied(job, remedy);
-        outcome = tried(job, staged);
-    }
-    outcome.remedies = remedies;
-    return placed(staged, outcome);
-}
-
-Outcome Conversion::tried(const ConversionJob &job, StagedFile &staged)
-{
-    if (const auto refusal = staged.create())
-        return *refusal;
-    ConversionJob stagedJob = job;
-    stagedJob.destPath = staged.path();
-    const Outcome run = ran(stagedJob);
-    return isGood(run) ? verdictOn(stagedJob, run) : run;
-}
-
-Outcome Conversion::ran(const ConversionJob &job)
-{
-    const auto ended = std::make_shared<std::binary_semaphore>(0);
-    const std::shared_ptr<Progress> run = FFMPEG::convertFile(
-        job.path, job.destPath, job.constraints, job.conversionInfo, [](const auto &) {});
-    for (const Progress::Key key :
-        { Progress::Key::FractionCompleted, Progress::Key::CompletedUnitCount })
-        run->addObserver(key, this, [this, raw = run.get()](Progress::Key) { follow(*raw); });
-    run->setEndHandler([ended] { ended->release(); });
-    while (!ended->try_acquire_for(50ms)) {
-        if (m_progress->isCancelled())
-            run->cancel();
-        if (run->isIndeterminate() && run->position() > 0)
-            follow(*run);
-    }
-    m_output = run->toolOutput();
-    return run->outcome();
-}
-
-// The last step is left for the result's move into place.
-void Conversion::follow(const Progress &run) const
-{
-    // Of some sound files the tool prints no length, but the probe knows it.
-    const bool isUnknown = run.isIndeterminate();
-    const qint64 total = isUnknown ? probedLength(m_job) : run.totalUnitCount();
-    const qint64 position = isUnknown ? run.position() : run.completedUnitCount();
-    if (total != m_progress->totalUnitCount())
-        m_progress->setTotalUnitCount(total);
-    const qint64 completed = std::min(position, total - 1);
-    if (total > 0 && completed >= 0 && completed != m_progress->completedUnitCount())
-        m_progress->setCompletedUnitCount(completed);
-}
-
-Outcome Conversion::verdictOn(const ConversionJob &job, const Outcome &run) const
-{
-    const RunReport report = reportOf(m_output, { job.path, job.destPath });
-    Lengths expected = expectedOf(job);
-    const SourceData data = dataOf(job.path);
-    expected.isGuessed = report.lengthIsGuessed && data.claim <= 1;
-    for (std::optional<double> *length : { &expected.picture, &expected.sound }) {
-        if (*length)
-            **length *= data.claim;
-    }
-    // A copy has all packets, whatever is in them.
-    const bool copiesHole = data.hasHole && conversionArguments(job).contains(u"copy");
-    Outcome outcome = takesCoverForPicture(job) ? Outcome{ Reason::PictureMissing } : Outcome{};
-    if (outcome.isDone() && (copiesHole || isInDoubt(run, report, expected)))
-        outcome
-            = inspected(job, expected, copiesHole ? Reading::Frames : Reading::Packets, *m_progress)
-                  .value_or(run);
-    outcome.damagedPlaces = report.damagedPlaces;
-    outcome.firstDamage = report.firstDamage;
-    return outcome;
-}
-
-Outcome Conversion::placed(StagedFile &staged, Outcome outcome) const
-{
-    if (!isGood(outcome))
-        return outcome;
-    if (m_progress->isCancelled())
-        return { Reason::Cancelled };
-    const auto refusal
-        = staged.moveIntoPlace(m_overwrite, outcome.isDone() ? nullptr : &outcome.olderPath);
-    return refusal ? *refusal : outcome;
 }

@@ -6,7 +6,7 @@
 #include "engine/MovieProbe.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
+#include "engine/ToolOutput.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Console.h"
 #include "support/Text.h"
@@ -16,6 +16,135 @@
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Run {
+    ConversionJob job;
+    std::shared_ptr<Progress> progress;
+    FFMPEG::ConversionErrorHandler errorHandler;
+    QByteArray output = {};
+    ToolOutput::OwnLines ownLines{ { job.path, job.destPath } };
+    DurationScanner scanner = {};
+    qint64 lastDelta = 0;
+
+    void run()
+    {
+        // The tool would empty a source that is its own destination, and the clean-up would remove
+        // it.
+        if (const auto refusal
+            = refusalOf({ .path = job.destPath, .sources = { job.path }, .overwrite = true })) {
+            end(*refusal);
+            postError(sentenceOf(*refusal));
+        } else {
+            Task task;
+            if (launch(task)) {
+                follow(task);
+                judge(task);
+                finish(task);
+            }
+        }
+        progress->end();
+    }
+
+    bool launch(Task &task)
+    {
+        task.setLaunchPath(toolPath(Tool::Ffmpeg));
+        task.setArguments(conversionArguments(job));
+        // The tool may write this file, but create none.
+        QFile(job.destPath).open(QIODevice::ReadWrite);
+        task.setAccess({ MovieProbe::readPaths(job.path), { job.destPath } });
+        LaunchError error;
+        if (task.tryLaunch(&error))
+            return true;
+        Console::print(u"something bad happened: "_s + error.localizedDescription);
+        end(missingTool(Tool::Ffmpeg));
+        progress->cancel();
+        QFile::remove(job.destPath);
+        return false;
+    }
+
+    void follow(Task &task)
+    {
+        while (task.isRunning() && !progress->isCancelled()) {
+            readChunk(task.availableData());
+            if (task.isSilentForTooLong())
+                task.terminate();
+        }
+        Console::print(u"last delta: "_s + QString::number(lastDelta) + u", last pos: "_s
+            + QString::number(progress->totalUnitCount() - progress->completedUnitCount()));
+    }
+
+    void readChunk(const QByteArray &chunk)
+    {
+        output += chunk;
+        const QString text = ToolOutput::decodedBlock(ownLines.in(chunk));
+        if (progress->totalUnitCount() < 0) {
+            scanner.append(text);
+            if (const std::optional<qint64> duration = scanner.duration())
+                progress->setTotalUnitCount(*duration);
+        }
+        const auto position = ToolOutput::lastReportedPosition(text);
+        if (!position)
+            return;
+        progress->setPosition(*position);
+        const qint64 total = progress->totalUnitCount();
+        if (total <= 0)
+            return;
+        const qint64 completed = std::min(*position, total);
+        lastDelta = progress->completedUnitCount() - completed;
+        progress->setCompletedUnitCount(completed);
+    }
+
+    // A tool that ends well but leaves more than its last progress step can explain stopped short.
+    void judge(const Task &task)
+    {
+        if (progress->isCancelled())
+            return end({ Reason::Cancelled });
+        if (task.isSilentForTooLong())
+            return end({ Reason::ToolSilent });
+        if (task.terminationStatus() != 0 || reportsLostOutput(output, { job.path, job.destPath }))
+            return end(toolFailure(output));
+        const qint64 completed = progress->completedUnitCount();
+        const qint64 remaining = progress->totalUnitCount() - completed;
+        const qint64 step = std::abs(lastDelta);
+        if (static_cast<double>(step) * 2.2 >= static_cast<double>(remaining))
+            return end({});
+        Console::print(u"conversion of bad file, not all length has been processed"_s);
+        end({ .reason = Reason::Incomplete, .seconds = completed });
+    }
+
+    void finish(Task &task)
+    {
+        switch (kindOf(progress->outcome())) {
+        case OutcomeKind::Incomplete:
+            postError(sentenceOf(progress->outcome()));
+            [[fallthrough]];
+        case OutcomeKind::Done:
+            progress->setCompletedUnitCount(progress->totalUnitCount());
+            break;
+        case OutcomeKind::Cancelled:
+            // A tool that is stopped while it starts still creates its output: wait for its end
+            // first.
+            task.terminate();
+            QFile::remove(job.destPath);
+            break;
+        default:
+            Console::print(u"error occured: "_s + Text::stringValue(output));
+            postError(std::nullopt);
+            QFile::remove(job.destPath);
+        }
+    }
+
+    void end(const Outcome &outcome) { progress->setOutcome(outcome, output); }
+
+    void postError(const std::optional<QString> &errmsg) const
+    {
+        Async::async([handler = errorHandler, errmsg] { handler(errmsg); });
+    }
+};
+
+}
 
 QStringList conversionArguments(const ConversionJob &job)
 {
@@ -28,134 +157,8 @@ QStringList conversionArguments(const ConversionJob &job)
     return arguments;
 }
 
-ConversionRun::ConversionRun(ConversionJob job, std::shared_ptr<Progress> progress,
-    FFMPEG::ConversionErrorHandler errorHandler)
-    : m_job(std::move(job))
-    , m_progress(std::move(progress))
-    , m_errorHandler(std::move(errorHandler))
-    , m_ownLines({ m_job.path, m_job.destPath })
+void runConversion(const ConversionJob &job, const std::shared_ptr<Progress> &progress,
+    const FFMPEG::ConversionErrorHandler &errorHandler)
 {
+    Run{ job, progress, errorHandler }.run();
 }
-
-void ConversionRun::run()
-{
-    // The tool would empty a source that is its own destination, and the clean-up would remove it.
-    if (const auto refusal
-        = refusalOf({ .path = m_job.destPath, .sources = { m_job.path }, .overwrite = true })) {
-        end(*refusal);
-        postError(sentenceOf(*refusal));
-    } else {
-        convert();
-    }
-    m_progress->end();
-}
-
-void ConversionRun::convert()
-{
-    Task task;
-    if (!launch(task)) {
-        removeDestination();
-        return;
-    }
-    follow(task);
-    judge(task);
-    finish(task);
-}
-
-bool ConversionRun::launch(Task &task)
-{
-    task.setLaunchPath(toolPath(Tool::Ffmpeg));
-    task.setArguments(conversionArguments(m_job));
-    // The tool may write this file, but create none.
-    QFile(m_job.destPath).open(QIODevice::ReadWrite);
-    task.setAccess({ MovieProbe::readPaths(m_job.path), { m_job.destPath } });
-    LaunchError error;
-    if (task.tryLaunch(&error))
-        return true;
-    Console::print(u"something bad happened: "_s + error.localizedDescription);
-    end(missingTool(Tool::Ffmpeg));
-    m_progress->cancel();
-    return false;
-}
-
-void ConversionRun::follow(Task &task)
-{
-    while (task.isRunning() && !m_progress->isCancelled()) {
-        readChunk(task.availableData());
-        if (task.isSilentForTooLong())
-            task.terminate();
-    }
-    Console::print(u"last delta: "_s + QString::number(m_lastDelta) + u", last pos: "_s
-        + QString::number(m_progress->totalUnitCount() - m_progress->completedUnitCount()));
-}
-
-void ConversionRun::readChunk(const QByteArray &chunk)
-{
-    m_output += chunk;
-    const QString text = ToolOutput::decodedBlock(m_ownLines.in(chunk));
-    if (m_progress->totalUnitCount() < 0) {
-        m_scanner.append(text);
-        if (const std::optional<qint64> duration = m_scanner.duration())
-            m_progress->setTotalUnitCount(*duration);
-    }
-    const auto position = ToolOutput::lastReportedPosition(text);
-    if (!position)
-        return;
-    m_progress->setPosition(*position);
-    const qint64 total = m_progress->totalUnitCount();
-    if (total <= 0)
-        return;
-    const qint64 completed = std::min(*position, total);
-    m_lastDelta = m_progress->completedUnitCount() - completed;
-    m_progress->setCompletedUnitCount(completed);
-}
-
-// A tool that ends well but leaves more than its last progress step can explain stopped short.
-void ConversionRun::judge(const Task &task)
-{
-    if (m_progress->isCancelled())
-        return end({ Reason::Cancelled });
-    if (task.isSilentForTooLong())
-        return end({ Reason::ToolSilent });
-    if (task.terminationStatus() != 0
-        || reportsLostOutput(m_output, { m_job.path, m_job.destPath }))
-        return end(toolFailure(m_output));
-    const qint64 completed = m_progress->completedUnitCount();
-    const qint64 remaining = m_progress->totalUnitCount() - completed;
-    const qint64 step = std::abs(m_lastDelta);
-    if (static_cast<double>(step) * 2.2 >= static_cast<double>(remaining))
-        return end({});
-    Console::print(u"conversion of bad file, not all length has been processed"_s);
-    end({ .reason = Reason::Incomplete, .seconds = completed });
-}
-
-void ConversionRun::finish(Task &task)
-{
-    switch (kindOf(m_progress->outcome())) {
-    case OutcomeKind::Incomplete:
-        postError(sentenceOf(m_progress->outcome()));
-        [[fallthrough]];
-    case OutcomeKind::Done:
-        m_progress->setCompletedUnitCount(m_progress->totalUnitCount());
-        break;
-    case OutcomeKind::Cancelled:
-        // A tool that is stopped while it starts still creates its output: wait for its end first.
-        task.terminate();
-        removeDestination();
-        break;
-    default:
-        Console::print(u"error occured: "_s + Text::stringValue(m_output));
-        postError(std::nullopt);
-        removeDestination();
-    }
-    task.closeFile();
-}
-
-void ConversionRun::end(const Outcome &outcome) { m_progress->setOutcome(outcome, m_output); }
-
-void ConversionRun::postError(const std::optional<QString> &errmsg) const
-{
-    Async::async([handler = m_errorHandler, errmsg] { handler(errmsg); });
-}
-
-void ConversionRun::removeDestination() const { QFile::remove(m_job.destPath); }

@@ -15,18 +15,6 @@ bool mayWrite(const QString &path, int mode)
     return ::access(QFile::encodeName(path).constData(), mode) == 0;
 }
 
-std::optional<Outcome> obstacleAt(const QString &path)
-{
-    const QFileInfo file(path);
-    if (file.isDir() || path.endsWith(u'/'))
-        return Outcome{ Reason::DestinationIsFolder };
-    if (file.isSymbolicLink() && !file.exists())
-        return Outcome{ Reason::DestinationLeadsNowhere };
-    if (file.exists() && !isRegularFile(path))
-        return Outcome{ Reason::DestinationIsDevice };
-    return std::nullopt;
-}
-
 // Results have names of their own: only a link leads from one to another.
 bool isOtherResult(const Destination &destination)
 {
@@ -44,10 +32,15 @@ std::optional<Outcome> refusalOf(const Destination &destination)
     const QString &path = destination.path;
     if (auto refusal = sourceRefusal(destination))
         return refusal;
-    if (auto obstacle = obstacleAt(path))
-        return obstacle;
-    if (!QFileInfo::exists(path))
+    const QFileInfo file(path);
+    if (file.isDir() || path.endsWith(u'/'))
+        return Outcome{ Reason::DestinationIsFolder };
+    if (file.isSymbolicLink() && !file.exists())
+        return Outcome{ Reason::DestinationLeadsNowhere };
+    if (!file.exists())
         return folderRefusal(Path::stringByDeletingLastPathComponent(path));
+    if (!file.isFile())
+        return Outcome{ Reason::DestinationIsDevice };
     if (isOtherResult(destination))
         return Outcome{ Reason::DestinationIsOtherResult };
     if (!destination.overwrite)

@@ -8,13 +8,11 @@
 #include "engine/Progress.h"
 #include "engine/StagedFile.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
 #include "support/Console.h"
-#include "support/FileSystem.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
 using namespace Qt::StringLiterals;
@@ -37,13 +35,44 @@ std::optional<QByteArray> toolOutput(
     task.setArguments(arguments);
     task.setAccess(access);
     LaunchError error;
-    std::optional<QByteArray> output;
     if (task.tryLaunch(&error))
-        output = task.readDataToEndOfFile();
-    else
-        Console::print(u"something bad happened: "_s + error.localizedDescription);
-    task.closeFile();
-    return output;
+        return task.readDataToEndOfFile();
+    Console::print(u"something bad happened: "_s + error.localizedDescription);
+    return std::nullopt;
+}
+
+void getFFProbeOutput(
+    const QString &path, std::function<void(const std::optional<JSON> &json)> completionHandler)
+{
+    Async::background([path, completionHandler = std::move(completionHandler)] {
+        const QStringList arguments{ u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s,
+            u"-show_format"_s, u"-show_streams"_s, path };
+        const std::optional<QByteArray> output
+            = toolOutput(Tool::Ffprobe, arguments, { MovieProbe::readPaths(path), {} });
+        const std::optional<JSON> json
+            = output ? std::optional(MovieProbe::description(*output)) : std::nullopt;
+        Async::async([json, completionHandler] { completionHandler(json); });
+    });
+}
+
+void getFFmpegMovieCover(const QString &path, const QString &offset,
+    std::function<void(const QImage &cover)> completionHandler)
+{
+    Async::background([path, offset, completionHandler = std::move(completionHandler)] {
+        QImage cover;
+        StagedFile image(QDir::tempPath() + u"/cover.jpg"_s);
+        // A picture of someone's video is nobody else's business.
+        if (!image.create() && QFile::setPermissions(image.path(), ownerOnly)) {
+            const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, image.path(),
+                u"-y"_s };
+            const ToolAccess access{ MovieProbe::readPaths(path), { image.path() } };
+            if (const auto output = toolOutput(Tool::Ffmpeg, arguments, access)) {
+                Console::print(QString::fromUtf8(*output));
+                cover.load(image.path());
+            }
+        }
+        Async::async([cover, completionHandler] { completionHandler(cover); });
+    });
 }
 
 }
@@ -69,7 +98,8 @@ void FFMPEG::collectMovieInfo(const QString &path,
             errorHandler(missingTool(Tool::Ffprobe));
             return;
         }
-        const auto result = MovieProbe::checked(*json, fileSize(path));
+        const auto result
+            = MovieProbe::checked(*json, static_cast<quint64>(QFileInfo(path).size()));
         if (const auto *refusal = std::get_if<Outcome>(&result)) {
             errorHandler(*refusal);
             return;
@@ -96,7 +126,7 @@ std::shared_ptr<Progress> FFMPEG::convertFile(const QString &path, const QString
     progress->setKind(Progress::Kind::File);
     Async::background([job = ConversionJob{ path, destPath, constraints, conversionInfo }, progress,
                           errorHandler = std::move(errorHandler)] {
-        ConversionRun(job, progress, errorHandler).run();
+        runConversion(job, progress, errorHandler);
     });
     return progress;
 }
@@ -105,38 +135,4 @@ void FFMPEG::shutDown()
 {
     Task::stopReading();
     SerialQueue::waitForAll();
-}
-
-void FFMPEG::getFFProbeOutput(
-    const QString &path, std::function<void(const std::optional<JSON> &json)> completionHandler)
-{
-    Async::background([path, completionHandler = std::move(completionHandler)] {
-        const QStringList arguments{ u"-v"_s, u"quiet"_s, u"-print_format"_s, u"json"_s,
-            u"-show_format"_s, u"-show_streams"_s, path };
-        const std::optional<QByteArray> output
-            = toolOutput(Tool::Ffprobe, arguments, { MovieProbe::readPaths(path), {} });
-        const std::optional<JSON> json
-            = output ? std::optional(MovieProbe::description(*output)) : std::nullopt;
-        Async::async([json, completionHandler] { completionHandler(json); });
-    });
-}
-
-void FFMPEG::getFFmpegMovieCover(const QString &path, const QString &offset,
-    std::function<void(const QImage &cover)> completionHandler)
-{
-    Async::background([path, offset, completionHandler = std::move(completionHandler)] {
-        QImage cover;
-        StagedFile image(QDir::tempPath() + u"/cover.jpg"_s);
-        // A picture of someone's video is nobody else's business.
-        if (!image.create() && QFile::setPermissions(image.path(), ownerOnly)) {
-            const QStringList arguments{ u"-an"_s, u"-ss"_s, offset, u"-i"_s, path, image.path(),
-                u"-y"_s };
-            const ToolAccess access{ MovieProbe::readPaths(path), { image.path() } };
-            if (const auto output = toolOutput(Tool::Ffmpeg, arguments, access)) {
-                Console::print(QString::fromUtf8(*output));
-                cover.load(image.path());
-            }
-        }
-        Async::async([cover, completionHandler] { completionHandler(cover); });
-    });
 }

@@ -45,10 +45,4 @@ public:
         ConversionErrorHandler errorHandler);
     /// Ends probes and waits for conversions. Called once, before the program ends.
     static void shutDown();
-
-private:
-    static void getFFProbeOutput(const QString &path,
-        std::function<void(const std::optional<JSON> &json)> completionHandler);
-    static void getFFmpegMovieCover(const QString &path, const QString &offset,
-        std::function<void(const QImage &cover)> completionHandler);
 };

@@ -1,48 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "engine/MovieProbe.h"
 
-#include "support/FileSystem.h"
-
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QRegularExpression>
 
-#include <array>
 #include <cerrno>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct OffsetRow {
-    qint64 (DurationInfo::*field)() const;
-    qint64 atLeast;
-    QStringView offset;
-};
-
-constexpr std::array offsetRows{
-    OffsetRow{ &DurationInfo::hours, 1, u"00:40:00" },
-    OffsetRow{ &DurationInfo::minutes, 1, u"00:00:40" },
-    OffsetRow{ &DurationInfo::seconds, 10, u"00:00:20" },
-    OffsetRow{ &DurationInfo::seconds, 1, u"00:00:02" },
-};
-
-struct BucketRow {
-    qint64 firstMinute;
-    qint64 endMinute;
-    QStringView label;
-};
-
-constexpr std::array bucketRows{
-    BucketRow{ 0, 1, u"0-1" },
-    BucketRow{ 1, 5, u"1-5" },
-    BucketRow{ 5, 10, u"5-10" },
-    BucketRow{ 10, 20, u"10-20" },
-    BucketRow{ 20, 40, u"20-40" },
-};
-
-}
 
 namespace MovieProbe {
 
@@ -57,7 +24,7 @@ std::optional<Outcome> fileRefusal(const QString &path)
         return Outcome{ Reason::IsFolder };
     if (!readable)
         return Outcome{ Reason::PermissionDenied };
-    if (!isRegularFile(path))
+    if (!file.isFile())
         return Outcome{ Reason::NotRegularFile };
     if (file.size() == 0)
         return Outcome{ Reason::EmptyFile };
@@ -100,11 +67,8 @@ std::variant<qint64, Outcome> checked(const JSON &info, quint64 sizeOnDisk)
     const JSON format = info[u"format"_s];
     if (format.value().isNull())
         return Outcome{ Reason::NotMedia };
-    const std::optional<QString> durationText = format[u"duration"_s].string();
-    if (!durationText)
-        return Outcome{ Reason::NoDuration };
     bool isNumber = false;
-    const double duration = durationText->toDouble(&isNumber);
+    const double duration = format[u"duration"_s].string().value_or(u""_s).toDouble(&isNumber);
     if (!isNumber)
         return Outcome{ Reason::NoDuration };
     const std::optional<QString> sizeText = format[u"size"_s].string();
@@ -113,29 +77,29 @@ std::variant<qint64, Outcome> checked(const JSON &info, quint64 sizeOnDisk)
     const auto seconds = static_cast<qint64>(duration);
     if (seconds == 0)
         return Outcome{ Reason::TooShort };
-    const quint64 size = sizeText->toULongLong(&isNumber);
-    if (!isNumber || size != sizeOnDisk)
+    if (*sizeText != QString::number(sizeOnDisk))
         return Outcome{ Reason::SizeDiffers };
     return seconds;
 }
 
 QString coverOffset(const DurationInfo &duration)
 {
-    for (const OffsetRow &row : offsetRows) {
-        if ((duration.*row.field)() >= row.atLeast)
-            return row.offset.toString();
-    }
-    return u"00:00:00"_s;
+    if (duration.hours() >= 1)
+        return u"00:40:00"_s;
+    if (duration.minutes() >= 1)
+        return u"00:00:40"_s;
+    if (duration.seconds() >= 10)
+        return u"00:00:20"_s;
+    return duration.seconds() >= 1 ? u"00:00:02"_s : u"00:00:00"_s;
 }
 
 QString lengthBucket(qint64 seconds)
 {
-    const qint64 minute = seconds / 60;
-    for (const BucketRow &row : bucketRows) {
-        if (minute >= row.firstMinute && minute < row.endMinute)
-            return row.label.toString();
-    }
-    return u">40"_s;
+    // By the minute that each ends before.
+    static const QMap<qint64, QString> buckets{ { 0, u">40"_s }, { 1, u"0-1"_s }, { 5, u"1-5"_s },
+        { 10, u"5-10"_s }, { 20, u"10-20"_s }, { 40, u"20-40"_s } };
+    const auto found = buckets.upperBound(seconds / 60);
+    return found == buckets.end() ? u">40"_s : *found;
 }
 
 }

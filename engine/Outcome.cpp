@@ -5,7 +5,9 @@
 #include "support/Localized.h"
 #include "support/Path.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
 
 namespace {
 
@@ -80,17 +82,13 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
 });
 // clang-format on
 
-constexpr bool isInOrder()
-{
-    for (std::size_t i = 0; i < reasonRows.size(); ++i) {
-        if (reasonRows.at(i).reason != static_cast<Reason>(i))
-            return false;
-    }
-    return reasonRows.back().reason == Reason::Cancelled;
-}
-static_assert(isInOrder());
+// In the order of the reasons, none missing.
+static_assert(std::ranges::adjacent_find(reasonRows, std::greater_equal(), &ReasonRow::reason)
+        == reasonRows.end()
+    && reasonRows.size() == std::size_t(Reason::Cancelled) + 1);
 
 struct RemedyRow {
+    QLatin1StringView name;
     LocalizedText cause;
     LocalizedText remark;
 };
@@ -98,14 +96,14 @@ struct RemedyRow {
 // In the order of the remedies.
 // clang-format off
 constexpr std::array remedyRows{
-    RemedyRow { { "", "" }, { "", "" } },
-    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the cover picture.", "Why a conversion failed"),
+    RemedyRow { ""_L1, { "", "" }, { "", "" } },
+    RemedyRow { "cover-left-out"_L1, QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the cover picture.", "Why a conversion failed"),
                 QT_TRANSLATE_NOOP3("Localizable", "The cover picture was left out, because this output can't show it.", "What was done to make a conversion work") },
-    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold a picture of odd width or height.", "Why a conversion failed"),
+    RemedyRow { "size-made-even"_L1, QT_TRANSLATE_NOOP3("Localizable", "This output can't hold a picture of odd width or height.", "Why a conversion failed"),
                 QT_TRANSLATE_NOOP3("Localizable", "The picture was made a little smaller, because this output needs even sizes.", "What was done to make a conversion work") },
-    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's sound.", "Why a conversion failed"),
+    RemedyRow { "sound-encoded"_L1, QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's sound.", "Why a conversion failed"),
                 QT_TRANSLATE_NOOP3("Localizable", "The sound was encoded anew, because this output can't take it as it is.", "What was done to make a conversion work") },
-    RemedyRow { QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's picture.", "Why a conversion failed"),
+    RemedyRow { "picture-encoded"_L1, QT_TRANSLATE_NOOP3("Localizable", "This output can't hold the video's picture.", "Why a conversion failed"),
                 QT_TRANSLATE_NOOP3("Localizable", "The picture was encoded anew, because this output can't take it as it is.", "What was done to make a conversion work") },
 };
 // clang-format on
@@ -122,6 +120,8 @@ const ReasonRow &rowOf(const Outcome &outcome)
 OutcomeKind kindOf(const Outcome &outcome) { return rowOf(outcome).kind; }
 
 QLatin1StringView nameOf(const Outcome &outcome) { return rowOf(outcome).name; }
+
+QLatin1StringView nameOf(Remedy remedy) { return rowOf(remedy).name; }
 
 bool mayBeTheVideos(const Outcome &failure)
 {

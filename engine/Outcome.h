@@ -99,6 +99,7 @@ struct Outcome {
 [[nodiscard]] OutcomeKind kindOf(const Outcome &outcome);
 /// The reason as a word for programs, such as "destination-exists". Such words never change.
 [[nodiscard]] QLatin1StringView nameOf(const Outcome &outcome);
+[[nodiscard]] QLatin1StringView nameOf(Remedy remedy);
 /// A failure that the video's own streams may have caused, not the computer.
 [[nodiscard]] bool mayBeTheVideos(const Outcome &failure);
 /// One sentence for the user, the same in the window and the command; empty when done.

@@ -127,21 +127,9 @@ Remedy remedyFor(const Outcome &failure, const QByteArray &output, const Convers
 
 ConversionJob remedied(ConversionJob job, Remedy remedy)
 {
-    switch (remedy) {
-    case Remedy::None:
-        break;
-    case Remedy::CoverLeftOut:
-        leaveCoverOut(job);
-        break;
-    case Remedy::SizeMadeEven:
-        makeSizeEven(job);
-        break;
-    case Remedy::SoundEncoded:
-        makeRateUsual(job);
-        break;
-    case Remedy::PictureEncoded:
-        hideCodec(job, u"video"_s);
-        break;
-    }
+    // In the order of the remedies.
+    constexpr std::array<void (*)(ConversionJob &), 5> edits{ [](ConversionJob &) {}, leaveCoverOut,
+        makeSizeEven, makeRateUsual, [](ConversionJob &edited) { hideCodec(edited, u"video"_s); } };
+    edits.at(static_cast<std::size_t>(remedy))(job);
     return job;
 }

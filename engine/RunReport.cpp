@@ -98,13 +98,11 @@ RunReport reportOf(const QByteArray &output, const QStringList &paths)
             report.position = position;
         const bool isDamaged = damage().match(line).hasMatch();
         // One place often takes several lines to tell.
-        if (isDamaged && !wasDamaged && report.damagedPlaces++ == 0)
-            report.firstDamage = report.position.value_or(0) >= 1
-                ? std::optional(static_cast<qint64>(*report.position))
-                : std::nullopt;
+        if (isDamaged && !wasDamaged && report.damagedPlaces++ == 0
+            && report.position.value_or(0) >= 1)
+            report.firstDamage = static_cast<qint64>(*report.position);
         wasDamaged = isDamaged;
-        if (line.contains(u"Estimating duration from bitrate"))
-            report.lengthIsGuessed = true;
+        report.lengthIsGuessed |= line.contains(u"Estimating duration from bitrate");
         if (const auto match = summary.match(line); match.hasMatch()) {
             report.pictureBytes = match.captured(1).toLongLong();
             report.soundBytes = match.captured(2).toLongLong();

@@ -41,45 +41,20 @@ constexpr quint64 readTree = readFile | LANDLOCK_ACCESS_FS_READ_DIR | LANDLOCK_A
 constexpr quint64 writeFile = LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile;
 constexpr quint64 firstRights = (1ULL << 13) - 1;
 
-struct SystemRow {
-    QStringView path;
-    quint64 rights;
-};
-
-constexpr std::array systemRows{
-    SystemRow{ u"/usr", readTree },
-    SystemRow{ u"/lib", readTree },
-    SystemRow{ u"/lib64", readTree },
-    SystemRow{ u"/opt", readTree },
-    SystemRow{ u"/nix/store", readTree },
-    SystemRow{ u"/gnu/store", readTree },
-    SystemRow{ u"/home/linuxbrew/.linuxbrew", readTree },
-    SystemRow{ u"/etc/ld.so.cache", readFile },
-    SystemRow{ u"/etc/ld.so.preload", readFile },
-    SystemRow{ u"/etc/localtime", readFile },
-    SystemRow{ u"/etc/fonts", readTree },
-    SystemRow{ u"/var/cache/fontconfig", readTree },
-    SystemRow{ u"/proc/cpuinfo", readFile },
-    SystemRow{ u"/proc/meminfo", readFile },
-    SystemRow{ u"/sys/devices/system", readTree },
-    SystemRow{ u"/dev/null", readFile | LANDLOCK_ACCESS_FS_WRITE_FILE },
-    SystemRow{ u"/dev/zero", readFile },
-    SystemRow{ u"/dev/urandom", readFile },
-};
+constexpr auto systemTrees = std::to_array<QStringView>({ u"/usr", u"/lib", u"/lib64", u"/opt",
+    u"/nix/store", u"/gnu/store", u"/home/linuxbrew/.linuxbrew", u"/etc/fonts",
+    u"/var/cache/fontconfig", u"/sys/devices/system" });
+constexpr auto systemFiles
+    = std::to_array<QStringView>({ u"/etc/ld.so.cache", u"/etc/ld.so.preload", u"/etc/localtime",
+        u"/proc/cpuinfo", u"/proc/meminfo", u"/dev/zero", u"/dev/urandom" });
 
 // Rights that the running kernel can restrict; 0 when it has none.
 quint64 handledRights(long version)
 {
     if (version < 1)
         return 0;
-    quint64 rights = firstRights;
-    if (version >= 2)
-        rights |= LANDLOCK_ACCESS_FS_REFER;
-    if (version >= 3)
-        rights |= truncateFile;
-    if (version >= 5)
-        rights |= deviceControl;
-    return rights;
+    return firstRights | (version >= 2 ? LANDLOCK_ACCESS_FS_REFER : 0)
+        | (version >= 3 ? truncateFile : 0) | (version >= 5 ? deviceControl : 0);
 }
 
 void grant(int ruleset, const QString &path, quint64 rights)
@@ -248,8 +223,11 @@ Sandbox::Sandbox(const QString &toolPath, const ToolAccess &access)
     m_ruleset = static_cast<int>(::syscall(SYS_landlock_create_ruleset, &attributes, known, 0));
     if (m_ruleset < 0)
         return;
-    for (const SystemRow &row : systemRows)
-        grant(m_ruleset, row.path.toString(), row.rights & handled);
+    for (const QStringView tree : systemTrees)
+        grant(m_ruleset, tree.toString(), readTree & handled);
+    for (const QStringView file : systemFiles)
+        grant(m_ruleset, file.toString(), readFile & handled);
+    grant(m_ruleset, u"/dev/null"_s, readFile | LANDLOCK_ACCESS_FS_WRITE_FILE);
     grant(m_ruleset, Bundle::main().bundlePath(), readTree & handled);
     const QString toolFolder = QFileInfo(QFileInfo(toolPath).canonicalFilePath()).path();
     for (const QString &path : libraryPaths(toolFolder) + access.readable)

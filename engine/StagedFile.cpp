@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QUuid>
 
 #include <cerrno>
@@ -34,22 +35,11 @@ QString hiddenName(const QString &destPath)
 
 Outcome refusalFor(int error)
 {
-    switch (error) {
-    case ENOSPC:
-        return { Reason::NoSpace };
-    case EDQUOT:
-        return { Reason::QuotaExceeded };
-    case EROFS:
-        return { Reason::ReadOnlyDisk };
-    case ENAMETOOLONG:
-        return { Reason::NameTooLong };
-    case ENOENT:
-        return { Reason::FolderMissing };
-    case EIO:
-        return { Reason::DiskError };
-    default:
-        return { Reason::FolderNotWritable };
-    }
+    static const QHash<int, Reason> reasons{ { ENOSPC, Reason::NoSpace },
+        { EDQUOT, Reason::QuotaExceeded }, { EROFS, Reason::ReadOnlyDisk },
+        { ENAMETOOLONG, Reason::NameTooLong }, { ENOENT, Reason::FolderMissing },
+        { EIO, Reason::DiskError } };
+    return { reasons.value(error, Reason::FolderNotWritable) };
 }
 
 // In one step, and only if nothing stands there. File systems differ in the ways that they know.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Task.h"
 
+#include "support/Bundle.h"
 #include "support/Console.h"
-#include "support/FileSystem.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <atomic>
 #include <csignal>
@@ -35,6 +35,17 @@ void dieWithParent([[maybe_unused]] pid_t parent)
 
 }
 
+QString toolPath(Tool tool)
+{
+    return Bundle::main().bundlePath()
+        + (tool == Tool::Ffmpeg ? u"/Contents/ffmpeg/ffmpeg"_s : u"/Contents/ffmpeg/ffprobe"_s);
+}
+
+Outcome missingTool(Tool tool)
+{
+    return { .reason = Reason::ToolMissing, .detail = toolPath(tool) };
+}
+
 const QString Task::invalidArgument = u"NSInvalidArgumentException"_s;
 
 Task::Task()
@@ -44,12 +55,6 @@ Task::Task()
 }
 
 Task::~Task() { terminate(); }
-
-void Task::setLaunchPath(const QString &path) { m_launchPath = path; }
-
-void Task::setArguments(const QStringList &arguments) { m_arguments = arguments; }
-
-void Task::setAccess(const ToolAccess &access) { m_access = access; }
 
 void Task::launch()
 {
@@ -115,7 +120,7 @@ QByteArray Task::work() const
         work = fields.mid(fields.lastIndexOf(')') + 2).split(' ').mid(11, 4).join(' ');
     }
     for (const QString &path : m_access.writable)
-        work += ' ' + QByteArray::number(fileSize(path));
+        work += ' ' + QByteArray::number(QFileInfo(path).size());
     return work;
 }
 
@@ -162,14 +167,8 @@ void Task::terminate()
 
 int Task::terminationStatus() const
 {
-    if (m_process.exitStatus() == QProcess::CrashExit)
-        return std::max(m_process.exitCode(), 1);
-    return m_process.exitCode();
+    return std::max(m_process.exitCode(), int{ m_process.exitStatus() == QProcess::CrashExit });
 }
-
-void Task::closeFile() { m_process.closeReadChannel(QProcess::StandardOutput); }
-
-bool Task::isSilentForTooLong() const { return m_silence > silenceLimit(); }
 
 void Task::setSilenceLimit(std::chrono::seconds limit) { silenceSeconds = limit.count(); }
 

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "engine/Outcome.h"
 #include "engine/Sandbox.h"
 
 #include <QByteArray>
 #include <QProcess>
-#include <QString>
 #include <QStringList>
 
 #include <chrono>
+
+enum class Tool { Ffmpeg, Ffprobe };
+
+[[nodiscard]] QString toolPath(Tool tool);
+[[nodiscard]] Outcome missingTool(Tool tool);
 
 struct LaunchException {
     QString name;
@@ -32,9 +37,9 @@ public:
     virtual ~Task();
     Q_DISABLE_COPY_MOVE(Task)
 
-    void setLaunchPath(const QString &path);
-    void setArguments(const QStringList &arguments);
-    void setAccess(const ToolAccess &access);
+    void setLaunchPath(const QString &path) { m_launchPath = path; }
+    void setArguments(const QStringList &arguments) { m_arguments = arguments; }
+    void setAccess(const ToolAccess &access) { m_access = access; }
 
     virtual void launch();
     /// Launches under a guard. False exactly for the exception named invalidArgument, which becomes
@@ -51,10 +56,10 @@ public:
     void terminate();
     /// Never 0 for a tool that died by a signal.
     [[nodiscard]] int terminationStatus() const;
-    void closeFile();
+    void closeFile() { m_process.closeReadChannel(QProcess::StandardOutput); }
 
     /// Neither prints, nor uses processor time, nor writes.
-    [[nodiscard]] bool isSilentForTooLong() const;
+    [[nodiscard]] bool isSilentForTooLong() const { return m_silence > silenceLimit(); }
     /// Units: seconds a tool may be silent and idle; process-wide, 300 at first.
     static void setSilenceLimit(std::chrono::seconds limit);
     [[nodiscard]] static std::chrono::seconds silenceLimit();

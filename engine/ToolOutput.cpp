@@ -7,41 +7,24 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// An expression that can't be compiled finds nothing.
-QRegularExpression expression(const QString &pattern, QRegularExpression::PatternOptions options)
-{
-    QRegularExpression compiled = Pattern::compiled(pattern, options);
-    return compiled.isValid() ? compiled : QRegularExpression();
-}
-
-// "2562047788:00:54.77" is the longest that the tool can print. More would not fit 64 bits.
-constexpr qsizetype longestTime = 20;
-
-}
-
 namespace ToolOutput {
 
 const QRegularExpression &regexprDuration()
 {
-    static const QRegularExpression regexp
-        = expression(u"Duration: (.*?), start:"_s, QRegularExpression::NoPatternOption);
+    static const QRegularExpression regexp = Pattern::compiled(u"Duration: (.*?), start:"_s);
     return regexp;
 }
 
 const QRegularExpression &regexprProgress()
 {
     static const QRegularExpression regexp
-        = expression(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
+        = Pattern::compiled(uR"(time=([\d\:\.]*) bitrate)"_s, Pattern::lineOptions);
     return regexp;
 }
 
 std::optional<qint64> getFFMpegDuration(const QString &text)
 {
-    const QRegularExpression regexp = Pattern::compiled(uR"((\d+):(\d+):(\d+)(\.(\d+))?)"_s);
-    if (!regexp.isValid())
-        return std::nullopt;
+    static const QRegularExpression regexp = Pattern::compiled(uR"((\d+):(\d+):(\d+))"_s);
     const QRegularExpressionMatch match
         = regexp.match(Pattern::searchRange(text, Text::characterCount(text)));
     if (!match.hasMatch())
@@ -63,25 +46,19 @@ std::optional<qint64> lastReportedPosition(const QString &block)
     QRegularExpressionMatch last;
     for (auto matches = regexprProgress().globalMatch(block); matches.hasNext();)
         last = matches.next();
-    if (!last.hasMatch() || last.capturedLength(1) > longestTime)
-        return std::nullopt;
     return printedSeconds(Pattern::substringFromCheckingResult(last, 1));
 }
 
 QString decodedBlock(const QByteArray &block)
 {
-    QString text = Text::stringValue(block);
-    if (!text.isEmpty())
-        return text;
-    for (qsizetype start = 0; start < block.size();) {
-        qsizetype end = start;
-        while (end < block.size() && block[end] != '\n' && block[end] != '\r')
-            ++end;
-        end = std::min(end + 1, block.size());
-        text += Text::stringValue(block.sliced(start, end - start));
-        start = end;
+    QString text;
+    QByteArray line;
+    for (const char byte : block) {
+        line += byte;
+        if (byte == '\n' || byte == '\r')
+            text += Text::stringValue(std::exchange(line, {}));
     }
-    return text;
+    return text + Text::stringValue(line);
 }
 
 OwnLines::OwnLines(const QStringList &paths)
@@ -113,17 +90,14 @@ QByteArray OwnLines::in(QByteArray chunk)
 
 void DurationScanner::append(const QString &block)
 {
-    if (m_decided || block.isEmpty())
-        return;
-    m_tail += block;
-    m_searched = false;
+    if (!m_decided)
+        m_tail += block;
 }
 
 std::optional<qint64> DurationScanner::duration()
 {
-    if (m_decided || m_searched)
+    if (m_decided)
         return m_duration;
-    m_searched = true;
     // A search covers as many UTF-16 units as the whole text has characters.
     const qsizetype searchedEnd = std::max<qsizetype>(Text::characterCount(m_tail) - m_surplus, 0);
     const QStringView searched = Pattern::searchRange(m_tail, searchedEnd);

@@ -58,7 +58,6 @@ private:
     // UTF-16 units minus characters of the dropped text: that many units at the end stay
     // unsearched.
     qsizetype m_surplus = 0;
-    bool m_searched = false;
     bool m_decided = false;
     std::optional<qint64> m_duration;
 };

@@ -4,7 +4,6 @@
 #include "engine/Progress.h"
 #include "engine/RunReport.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
 #include "planning/ConversionDescriptor.h"
 
 #include <QDateTime>
@@ -20,17 +19,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // "10.023000", or as Matroska's tags have it "00:00:10.023000000"
-double secondsIn(const QString &text)
-{
-    double seconds = 0;
-    for (const QString &part : text.split(u':'))
-        seconds = seconds * 60 + part.toDouble();
-    return std::isfinite(seconds) ? std::max(seconds, 0.0) : 0;
-}
-
 double secondsOf(const JSON &object, const QString &key)
 {
-    return secondsIn(object[key].stringValue());
+    double seconds = 0;
+    for (const QString &part : object[key].stringValue().split(u':'))
+        seconds = seconds * 60 + part.toDouble();
+    return std::isfinite(seconds) ? std::max(seconds, 0.0) : 0;
 }
 
 // What the stream itself says; the tag tells where it ends. 0 where it says nothing.
@@ -70,10 +64,9 @@ bool isCover(const JSON &stream, const JSON &info)
     if (stream[u"disposition"_s][u"attached_pic"_s].intValue() == 1
         || stream[u"nb_frames"_s].stringValue() == u"1")
         return true;
-    const std::vector<JSON> all = info[u"streams"_s].array();
-    return isImageFormat(stream) && std::any_of(all.begin(), all.end(), [](const JSON &each) {
-        return isPicture(each) && !isImageFormat(each);
-    });
+    return isImageFormat(stream)
+        && std::ranges::any_of(info[u"streams"_s].array(),
+            [](const JSON &each) { return isPicture(each) && !isImageFormat(each); });
 }
 
 // Raw streams have no header that says how long they play: the tool's guess says nothing.
@@ -100,9 +93,43 @@ bool claimsMoreThanItsStreams(const JSON &info)
     return last > 0 && last < whole - tolerance(whole);
 }
 
-bool isShort(const std::optional<double> &length, const std::optional<double> &expected)
+// What the tool can't read has no length.
+std::optional<Lengths> measured(const QString &path, const Progress &progress, Reading reading)
 {
-    return length && expected && *length < *expected - tolerance(*expected);
+    const QString entries = reading == Reading::Packets
+        ? u"packet=codec_type,stream_index,pts_time,dts_time,duration_time"_s
+        : u"frame=media_type,stream_index,pts_time,pkt_dts_time,pkt_duration_time"_s;
+    Task task;
+    task.setLaunchPath(toolPath(Tool::Ffprobe));
+    task.setArguments(
+        { u"-v"_s, u"quiet"_s, u"-show_entries"_s, entries, u"-of"_s, u"csv=p=0"_s, path });
+    task.setAccess({ { path }, {} });
+    if (!task.tryLaunch())
+        return std::nullopt;
+    PacketReader reader;
+    while (task.isRunning() && !task.isSilentForTooLong() && !progress.isCancelled())
+        reader.append(task.availableData());
+    const bool wasStopped = task.isRunning();
+    task.terminate();
+    return wasStopped ? std::nullopt : std::optional(reader.lengths());
+}
+
+// What can be expected once the source was read as well: its streams may end before its length,
+// but not all of them.
+Lengths corrected(const Lengths &expected, const Lengths &source)
+{
+    Lengths lengths = expected;
+    if (!source.picture)
+        lengths.picture.reset();
+    const double whole = expected.longest();
+    if (!expected.isOfAllStreams
+        || (!expected.isGuessed && source.whole < whole - tolerance(whole)))
+        return lengths;
+    if (lengths.picture)
+        lengths.picture = std::min(*lengths.picture, *source.picture);
+    if (lengths.sound)
+        lengths.sound = std::min(*lengths.sound, source.sound.value_or(0));
+    return lengths;
 }
 
 }
@@ -199,17 +226,16 @@ void PacketReader::readLine(const QByteArray &line)
         return;
     Stream &stream = m_streams[cells[1].toInt()];
     stream.kind = cells[0];
-    const double end = time + cells[4].toDouble();
-    const bool isFirst = stream.packets++ == 0;
-    stream.start = isFirst ? time : std::min(stream.start, time);
-    stream.end = isFirst ? end : std::max(stream.end, end);
+    ++stream.packets;
+    stream.start = std::min(stream.start, time);
+    stream.end = std::max(stream.end, time + cells[4].toDouble());
 }
 
 Lengths PacketReader::lengths() const
 {
     Lengths lengths;
-    double first = m_streams.isEmpty() ? 0 : m_streams.first().start;
-    double last = first;
+    double first = qInf();
+    double last = -qInf();
     for (const Stream &stream : m_streams) {
         first = std::min(first, stream.start);
         last = std::max(last, stream.end);
@@ -219,28 +245,8 @@ Lengths PacketReader::lengths() const
         else if (stream.kind == "audio")
             lengths.sound = std::max(lengths.sound.value_or(0), length);
     }
-    lengths.whole = last - first;
+    lengths.whole = std::max(last - first, 0.0);
     return lengths;
-}
-
-std::optional<Lengths> measured(const QString &path, const Progress &job, Reading reading)
-{
-    const QString entries = reading == Reading::Packets
-        ? u"packet=codec_type,stream_index,pts_time,dts_time,duration_time"_s
-        : u"frame=media_type,stream_index,pts_time,pkt_dts_time,pkt_duration_time"_s;
-    Task task;
-    task.setLaunchPath(toolPath(Tool::Ffprobe));
-    task.setArguments(
-        { u"-v"_s, u"quiet"_s, u"-show_entries"_s, entries, u"-of"_s, u"csv=p=0"_s, path });
-    task.setAccess({ { path }, {} });
-    if (!task.tryLaunch())
-        return std::nullopt;
-    PacketReader reader;
-    while (task.isRunning() && !task.isSilentForTooLong() && !job.isCancelled())
-        reader.append(task.availableData());
-    const bool wasStopped = task.isRunning();
-    task.terminate();
-    return wasStopped ? std::nullopt : std::optional(reader.lengths());
 }
 
 Outcome judged(const Lengths &result, const Lengths &expected)
@@ -249,30 +255,15 @@ Outcome judged(const Lengths &result, const Lengths &expected)
         return { Reason::PictureMissing };
     if (expected.sound && !result.sound)
         return { Reason::SoundMissing };
-    const bool shortPicture = isShort(result.picture, expected.picture);
-    const bool shortSound = isShort(result.sound, expected.sound);
-    if (!shortPicture && !shortSound)
+    std::optional<double> reached;
+    for (const auto &[length, wanted] :
+        { std::pair(result.picture, expected.picture), std::pair(result.sound, expected.sound) }) {
+        if (wanted && *length < *wanted - tolerance(*wanted))
+            reached = std::max(reached, length);
+    }
+    if (!reached)
         return {};
-    const double reached = shortPicture && shortSound ? std::max(*result.picture, *result.sound)
-        : shortPicture                                ? *result.picture
-                                                      : *result.sound;
-    return { .reason = Reason::Incomplete, .seconds = static_cast<qint64>(reached) };
-}
-
-Lengths corrected(const Lengths &expected, const Lengths &source)
-{
-    Lengths lengths = expected;
-    if (!source.picture)
-        lengths.picture.reset();
-    const double whole = expected.longest();
-    if (!expected.isOfAllStreams
-        || (!expected.isGuessed && source.whole < whole - tolerance(whole)))
-        return lengths;
-    if (lengths.picture)
-        lengths.picture = std::min(*lengths.picture, *source.picture);
-    if (lengths.sound)
-        lengths.sound = std::min(*lengths.sound, source.sound.value_or(0));
-    return lengths;
+    return { .reason = Reason::Incomplete, .seconds = static_cast<qint64>(*reached) };
 }
 
 std::optional<Outcome> inspected(
@@ -285,7 +276,7 @@ std::optional<Outcome> inspected(
     const bool hangsOnSource = expected.isOfAllStreams || outcome.reason == Reason::PictureMissing;
     if (outcome.isDone() || !hangsOnSource)
         return outcome;
-    const auto source = measured(job.path, progress);
+    const auto source = measured(job.path, progress, Reading::Packets);
     return source ? judged(*result, corrected(expected, *source)) : outcome;
 }
 

@@ -5,6 +5,7 @@
 #include "engine/Outcome.h"
 
 #include <QMap>
+#include <QtNumeric>
 
 #include <optional>
 
@@ -59,26 +60,20 @@ private:
     struct Stream {
         QByteArray kind;
         qint64 packets = 0;
-        double start = 0;
-        double end = 0;
+        double start = qInf();
+        double end = -qInf();
     };
     QByteArray m_rest;
     QMap<int, Stream> m_streams;
 };
 
-/// Frames have to be decoded, which takes long.
-enum class Reading { Packets, Frames };
-/// Reads a file packet by packet with the tool; what it can't read has no length. Thread: a run's
-/// own; blocks. Errors: absent when the tool can't be run, or the job is cancelled.
-[[nodiscard]] std::optional<Lengths> measured(
-    const QString &path, const Progress &job, Reading reading = Reading::Packets);
-
 /// Done, or what is missing. Thread: any.
 [[nodiscard]] Outcome judged(const Lengths &result, const Lengths &expected);
-/// What can be expected once the source was read as well: its streams may end before its length,
-/// but not all of them.
-[[nodiscard]] Lengths corrected(const Lengths &expected, const Lengths &source);
-/// Reads the result, and the source where the answer hangs on it. Thread and errors: as measured().
+
+/// Frames have to be decoded, which takes long.
+enum class Reading { Packets, Frames };
+/// Reads the result, and the source where the answer hangs on it. Thread: a run's own; blocks.
+/// Errors: absent when the tool can't be run, or the job is cancelled.
 [[nodiscard]] std::optional<Outcome> inspected(
     const ConversionJob &job, const Lengths &expected, Reading reading, const Progress &progress);
 /// The job's destination holds a whole result already: it is newer than the source, and its packets

@@ -4,7 +4,6 @@
 #include "planning/VideoConstraints.h"
 #include "support/JSON.h"
 
-#include <QString>
 #include <QStringList>
 
 #include <optional>

@@ -3,7 +3,6 @@
 
 #include "planning/ConversionFormat.h"
 
-#include <QString>
 #include <QStringList>
 
 #include <optional>

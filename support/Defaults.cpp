@@ -11,11 +11,7 @@ namespace {
 
 std::mutex registeredMutex;
 
-QVariantMap &registered()
-{
-    static QVariantMap map;
-    return map;
-}
+Q_GLOBAL_STATIC(QVariantMap, registered)
 
 QSettings store() { return QSettings(u"VideoConverter"_s, u"VideoConverter"_s); }
 
@@ -26,13 +22,13 @@ namespace Defaults {
 void registerDefaults(const QVariantMap &defaults)
 {
     const std::lock_guard lock(registeredMutex);
-    registered().insert(defaults);
+    registered->insert(defaults);
 }
 
 QVariant value(const QString &key)
 {
     const std::lock_guard lock(registeredMutex);
-    return store().value(key, registered().value(key));
+    return store().value(key, registered->value(key));
 }
 
 void setValue(const QString &key, const QVariant &value) { store().setValue(key, value); }

@@ -7,12 +7,15 @@
 /// days. Thread: any.
 class DurationInfo {
 public:
-    explicit DurationInfo(qint64 seconds);
+    explicit DurationInfo(qint64 seconds)
+        : m_all(seconds)
+    {
+    }
 
-    [[nodiscard]] qint64 days() const { return m_days; }
-    [[nodiscard]] qint64 hours() const { return m_hours; }
-    [[nodiscard]] qint64 minutes() const { return m_minutes; }
-    [[nodiscard]] qint64 seconds() const { return m_seconds; }
+    [[nodiscard]] qint64 days() const { return m_all / 86400; }
+    [[nodiscard]] qint64 hours() const { return m_all / 3600; }
+    [[nodiscard]] qint64 minutes() const { return m_all % 3600 / 60; }
+    [[nodiscard]] qint64 seconds() const { return m_all % 60; }
 
     /// Short text in the user's language, such as "1h 2m 3s".
     [[nodiscard]] QString toString() const;
@@ -20,8 +23,5 @@ public:
     bool operator==(const DurationInfo &) const = default;
 
 private:
-    qint64 m_days;
-    qint64 m_hours;
-    qint64 m_minutes;
-    qint64 m_seconds;
+    qint64 m_all;
 };

@@ -18,10 +18,6 @@ std::optional<std::pair<quint64, quint64>> idOf(const QString &path)
 
 }
 
-quint64 fileSize(const QString &path) { return static_cast<quint64>(QFileInfo(path).size()); }
-
-bool isRegularFile(const QString &path) { return QFileInfo(path).isFile(); }
-
 FileIds::FileIds(std::initializer_list<QString> paths)
 {
     for (const QString &path : paths)

@@ -8,9 +8,6 @@
 
 /// What the file system says of a path. Links are followed. Thread: any.
 
-[[nodiscard]] quint64 fileSize(const QString &path);
-/// A file of ordinary content: no folder, FIFO, socket or device.
-[[nodiscard]] bool isRegularFile(const QString &path);
 /// The files that some paths lead to now, through links, "..", or other letter case too.
 class FileIds {
 public:

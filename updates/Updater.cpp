@@ -60,8 +60,7 @@ void Updater::start()
     if (std::exchange(m_isChecking, true))
         return; // The check that runs answers.
     Defaults::setValue(lastCheckKey, QDateTime::currentDateTimeUtc());
-    m_feed.setData(QByteArray());
-    m_feed.open(QIODevice::WriteOnly);
+    m_feed.open(QIODevice::WriteOnly | QIODevice::Truncate);
     fetch(m_network, QUrl(m_delegate.feedURLStringForUpdater(this)), m_feed, m_settings.feedLimits,
         [this](bool complete) { finish(complete); });
 }

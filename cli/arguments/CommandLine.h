@@ -5,7 +5,6 @@
 #include "cli/arguments/Options.h"
 #include "planning/VideoConstraints.h"
 
-#include <QString>
 #include <QStringList>
 
 #include <variant>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report/Output.h"
 #include "cli/report/Reporter.h"
-#include "support/FileSystem.h"
 #include "support/Interruption.h"
 
+#include <QFileInfo>
 #include <QJsonObject>
 
 #include <array>
@@ -38,12 +38,9 @@ QString nameOf(StreamWork work)
 
 void addRemarks(QJsonObject &object, const Outcome &outcome)
 {
-    // In the order of the remedies.
-    constexpr std::array remedies{ ""_L1, "cover-left-out"_L1, "size-made-even"_L1,
-        "sound-encoded"_L1, "picture-encoded"_L1 };
     QStringList names;
     for (const Remedy remedy : outcome.remedies)
-        names << remedies.at(static_cast<std::size_t>(remedy));
+        names << nameOf(remedy);
     if (!names.isEmpty())
         object[u"remedy"_s] = names.join(u' ');
     if (outcome.damagedPlaces > 0)
@@ -89,7 +86,7 @@ public:
 
     void converted(const ConversionItem &item, const ConvertedVideo &video) override
     {
-        QJsonObject object{ { u"size"_s, static_cast<qint64>(fileSize(item.destPath)) },
+        QJsonObject object{ { u"size"_s, QFileInfo(item.destPath).size() },
             { u"seconds"_s, positiveOrNull(video.seconds) },
             { u"elapsed"_s, static_cast<double>(video.elapsed.count()) / 1000 },
             { u"kept"_s, true }, { u"picture"_s, nameOf(video.work.picture) },
@@ -112,7 +109,7 @@ public:
     {
         QJsonObject object = failureObject(outcome);
         if (kindOf(outcome) == OutcomeKind::Incomplete)
-            object[u"size"_s] = static_cast<qint64>(fileSize(item.destPath));
+            object[u"size"_s] = QFileInfo(item.destPath).size();
         const bool isCancelled = kindOf(outcome) == OutcomeKind::Cancelled;
         print(isCancelled ? u"cancelled"_s : u"failed"_s, item, object);
     }

@@ -3,6 +3,7 @@
 #include "engine/Conversion.h"
 #include "engine/Progress.h"
 #include "engine/RunReport.h"
+#include "engine/StagedFile.h"
 #include "engine/StagedList.h"
 #include "engine/Verdict.h"
 #include "support/Console.h"
