@@ -5,13 +5,13 @@
 #include "support/Bundle.h"
 #include "support/Console.h"
 #include "support/MainQueue.h"
+#include "tests/fixtures/Folder.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -51,18 +51,10 @@ public:
 
 }
 
-class TestConversion : public QObject {
+class TestConversion : public QObject, private Folder {
     Q_OBJECT
 
-    [[nodiscard]] QString path(const QString &name) const { return m_folder->filePath(name); }
-    [[nodiscard]] QByteArray source() const
-    {
-        QFile file(path(u"in.mov"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     const QString m_length = uR"(print:  Duration: 00:01:40.00, start: 0.000000\n)"_s;
-    std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -74,15 +66,14 @@ private Q_SLOTS:
 
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QFile file(path(u"in.mov"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("the video") == 9);
+        write(u"in.mov"_s, "the video");
         m_lines.clear();
     }
 
     void cleanup()
     {
-        QCOMPARE(source(), QByteArray("the video"));
+        QCOMPARE(contents(u"in.mov"_s), "the video");
+        QFile::remove(path(u"out.mp4"_s));
         QCOMPARE(Processes::children(), QStringList());
     }
 
@@ -208,7 +199,6 @@ private Q_SLOTS:
             qPrintable(QString::number(timer.elapsed())));
         QVERIFY(!QFile::exists(path(u"out.mp4"_s)));
         QCOMPARE(conversion.errors, QStringList());
-        QCOMPARE(Processes::children(), QStringList());
     }
 
     void destination_isRefused()
@@ -224,7 +214,7 @@ private Q_SLOTS:
                     path(u"dangling.mp4"_s), u"The destination is a link that leads nowhere."_s },
                 std::pair{ path(u"device.mp4"_s),
                     u"The destination is a pipe or a device, not a file."_s },
-                std::pair{ m_folder->path(), u"The destination is a folder, not a file."_s } }) {
+                std::pair{ path(), u"The destination is a folder, not a file."_s } }) {
             const Conversion conversion(path(u"in.mov"_s), destination);
             conversion.wait();
             QCOMPARE(conversion.errors, QStringList{ message });

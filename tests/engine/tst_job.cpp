@@ -6,6 +6,7 @@
 #include "engine/StagedList.h"
 #include "engine/Verdict.h"
 #include "support/Console.h"
+#include "tests/fixtures/Folder.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
@@ -13,7 +14,6 @@
 
 #include <QDir>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <sys/wait.h>
@@ -22,10 +22,9 @@
 using namespace Qt::StringLiterals;
 
 /// Whole jobs: what they say of their result, and what becomes of an older file.
-class TestJob : public QObject {
+class TestJob : public QObject, private Folder {
     Q_OBJECT
 
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     [[nodiscard]] ConversionJob job(
         const QString &source, const QString &dest, const QString &entry)
     {
@@ -55,19 +54,9 @@ class TestJob : public QObject {
         outcome.firstDamage.reset();
         return (QStringList{ sentenceOf(outcome) } + remarksOn(outcome)).join(u'|');
     }
-    void write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
-    [[nodiscard]] QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     [[nodiscard]] QStringList results() const
     {
-        return QDir(m_folder.path()).entryList({ u"out*"_s, u".*"_s }, QDir::Files | QDir::Hidden);
+        return QDir(path()).entryList({ u"out*"_s, u".*"_s }, QDir::Files | QDir::Hidden);
     }
     [[nodiscard]] static QStringList entries()
     {
@@ -76,7 +65,6 @@ class TestJob : public QObject {
             .entryList(QDir::Files);
     }
 
-    QTemporaryDir m_folder;
     QStringList m_errors;
 
 private Q_SLOTS:
@@ -85,7 +73,7 @@ private Q_SLOTS:
         Console::setSink([](const QString &) {});
         const auto make = [this](const QString &arguments, const QString &name) {
             QStringList list = arguments.split(u' ');
-            list.replaceInStrings(u"PATH"_s, m_folder.path());
+            list.replaceInStrings(u"PATH"_s, path());
             Media::ffmpeg(list << path(name));
         };
         Media::video(path(u"whole.mp4"_s), 8, u"320x180"_s);
@@ -104,19 +92,21 @@ private Q_SLOTS:
             u"cover.mkv"_s);
         make(u"-f lavfi -i testsrc2=d=4 -i PATH/whole.mp4 -map 0 -map 1:a -c:v flv -c:a mp3"_s,
             u"short-picture.flv"_s);
+        make(u"-i PATH/whole.mp4 -t 2 -c copy"_s, u"small.mp4"_s);
+        make(u"-i PATH/whole.mp4 -t 2 -c:v mpeg4 -c:a libmp3lame -ac 1"_s, u"mono.mkv"_s);
         make(u"-i PATH/whole.mp4"_s, u"sound.wav"_s);
         for (const QString &name : { u"fast.mp4"_s, u"whole.mkv"_s, u"sound.wav"_s }) {
-            const QByteArray bytes = read(name);
+            const QByteArray bytes = contents(name);
             write(u"cut-"_s + name, bytes.first(bytes.size() / 2));
         }
         make(u"-i PATH/whole.mp4 -vn -c:a mp2 -f mpegts"_s, u"holed.ts"_s);
-        const QByteArray stream = read(u"holed.ts"_s);
+        const QByteArray stream = contents(u"holed.ts"_s);
         const qsizetype quarter = stream.size() / 4;
         write(u"holed.ts"_s,
             stream.first(quarter) + QByteArray(quarter, '\0') + stream.last(2 * quarter));
-        QByteArray holed = read(u"fast.mp4"_s);
+        QByteArray holed = contents(u"fast.mp4"_s);
         write(u"holed.mp4"_s, holed.first(holed.size() / 2).leftJustified(holed.size(), '\0'));
-        holed = read(u"whole.mp4"_s);
+        holed = contents(u"whole.mp4"_s);
         // The movie header's length, in milliseconds.
         holed.replace(holed.indexOf("mvhd") + 20, 4, QByteArray("\0\1\0\0", 4));
         write(u"boasting.mp4"_s, holed);
@@ -172,6 +162,40 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path(u"out"_s)));
     }
 
+    void everyFormat_isReallyMade_data()
+    {
+        using enum ConversionFormat;
+        addRows<ConversionFormat, Utf8, Utf8, Utf8>({ "format", "container", "video", "audio" },
+            {
+                { "FLV", flv, "flv", "h264", "mp3" },
+                { "MP4", mp4, "mov,mp4,m4a,3gp,3g2,mj2", "h264", "aac" },
+                { "MKV", mkv, "matroska,webm", "h264", "aac" },
+                { "MPEG-4", mov, "mov,mp4,m4a,3gp,3g2,mj2", "mpeg4", "aac" },
+                { "AVI", avi, "avi", "mpeg4", "mp3" },
+                { "MP3", mp3, "mp3", "", "mp3" },
+                { "MPEG-2", mpg, "mpeg", "mpeg2video", "ac3" },
+                { "GIF", gif, "gif", "gif", "" },
+                { "WebM", webm, "matroska,webm", "vp8", "vorbis" },
+            });
+    }
+    void everyFormat_isReallyMade()
+    {
+        QFETCH(const ConversionFormat, format);
+        const QString result = path(u"out"_s);
+        const auto length = [](const QString &file) {
+            return Media::formatEntry(file, u"duration"_s).toDouble();
+        };
+        for (const QString &source : { u"small.mp4"_s, u"mono.mkv"_s }) {
+            ConversionJob request = job(source, u"out"_s, u"MP4"_s);
+            request.constraints.format = format;
+            QCOMPARE(told(done(request)), QString());
+            QTEST(Media::formatEntry(result, u"format_name"_s), "container");
+            QTEST(Media::streamEntry(result, u"v:0"_s, u"codec_name"_s), "video");
+            QTEST(Media::streamEntry(result, u"a:0"_s, u"codec_name"_s), "audio");
+            QVERIFY(qAbs(length(result) - length(path(source))) < 0.3);
+        }
+    }
+
     void olderFile_outlivesEverythingButSuccess_data()
     {
         addRows<Utf8, Utf8, Utf8>({ "source", "script", "results" },
@@ -202,9 +226,9 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(progress->isEnded(), 20'000);
         QCOMPARE(this->results().join(u' '), results);
         const bool isReplaced = script.isEmpty();
-        QCOMPARE(read(u"out.mkv"_s) == "older", !isReplaced);
+        QCOMPARE(contents(u"out.mkv"_s) == "older", !isReplaced);
         if (results.contains(u"earlier"))
-            QCOMPARE(read(u"out (earlier).mkv"_s), "older");
+            QCOMPARE(contents(u"out (earlier).mkv"_s), "older");
         QCOMPARE(QFile::permissions(path(u"out.mkv"_s)) & QFile::Permissions(0x77),
             QFile::Permissions());
         QCOMPARE(done(request, OlderFile::Kept).reason, Reason::DestinationExists);
@@ -219,11 +243,11 @@ private Q_SLOTS:
             const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "output|exit:1");
             QCOMPARE(kindOf(done(request)), OutcomeKind::Failed);
             QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
-            QCOMPARE(read(u"out-target"_s), "older");
+            QCOMPARE(contents(u"out-target"_s), "older");
         }
         QCOMPARE(done(request), Outcome{});
         QVERIFY(QFileInfo(path(u"out.mkv"_s)).isSymbolicLink());
-        QVERIFY(read(u"out-target"_s).size() > 1000);
+        QVERIFY(contents(u"out-target"_s).size() > 1000);
     }
 
     void fileThatCameMeanwhile_isKept()
@@ -235,7 +259,7 @@ private Q_SLOTS:
         write(u"out.mkv"_s, "somebody's");
         QTRY_VERIFY(progress->isEnded());
         QCOMPARE(progress->outcome().reason, Reason::DestinationExists);
-        QCOMPARE(read(u"out.mkv"_s), "somebody's");
+        QCOMPARE(contents(u"out.mkv"_s), "somebody's");
         QTRY_COMPARE(m_errors.size(), 1);
     }
 
@@ -249,7 +273,7 @@ private Q_SLOTS:
         QVERIFY(progress->isCancelled());
         QCOMPARE(progress->outcome().reason, Reason::ToolMissing);
         QCOMPARE(m_errors, QStringList());
-        QCOMPARE(read(u"out.mkv"_s), "older");
+        QCOMPARE(contents(u"out.mkv"_s), "older");
     }
 
     void failureOfAllTries_namesTheFirstCause()

@@ -6,12 +6,12 @@
 #include "support/Console.h"
 #include "support/FileSystem.h"
 #include "support/MainQueue.h"
+#include "tests/fixtures/Folder.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -38,12 +38,9 @@ void probe(const QString &path, QStringList &answers)
 
 }
 
-class TestProbe : public QObject {
+class TestProbe : public QObject, private Folder {
     Q_OBJECT
 
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-
-    QTemporaryDir m_folder;
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -164,20 +161,19 @@ private Q_SLOTS:
     void cover_isPrivateAndRemoved()
     {
         // The last test: what shutDown() ends does not begin again.
-        const QTemporaryDir temporary;
+        const Folder temporary;
         qputenv("TMPDIR", QFile::encodeName(temporary.path()));
-        const auto covers
-            = [&] { return QDir(temporary.path()).entryInfoList(QDir::Files | QDir::Hidden); };
         QStringList answers;
         {
             const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments|sleep:500");
             probe(path(u"five.mp4"_s), answers);
-            QTRY_COMPARE(covers().size(), 1);
-            QTRY_COMPARE(covers().constFirst().permissions() & QFile::Permissions(0x0077),
+            QTRY_VERIFY(!temporary.files().isEmpty());
+            QTRY_COMPARE(
+                QFile::permissions(temporary.path(temporary.files())) & QFile::Permissions(0x0077),
                 QFile::Permissions());
             QTRY_COMPARE(answers.size(), 1);
         }
-        QTRY_VERIFY(covers().isEmpty());
+        QTRY_COMPARE(temporary.files(), QString());
         QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
         const QString image = std::exchange(arguments[5], u"IMAGE.jpg"_s);
         QCOMPARE(arguments.join(u' '),
