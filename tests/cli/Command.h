@@ -21,17 +21,10 @@ struct Finished {
     {
         return QString::number(exitCode) + QStringLiteral(": ") + err;
     }
-    /// The JSON object that was printed, and those in a line each.
+    /// The JSON object that was printed.
     [[nodiscard]] QJsonObject object() const
     {
         return QJsonDocument::fromJson(out.toUtf8()).object();
-    }
-    [[nodiscard]] QList<QJsonObject> objects() const
-    {
-        QList<QJsonObject> objects;
-        for (const QString &line : out.split(u'\n', Qt::SkipEmptyParts))
-            objects << QJsonDocument::fromJson(line.toUtf8()).object();
-        return objects;
     }
 };
 

@@ -71,7 +71,6 @@ private Q_SLOTS:
         addRows<int, Utf8, Utf8>({ "status", "reason", "function" },
             { { "segv", 128 + SIGSEGV, "SIGSEGV", "crashSegv()" },
                 { "trap", 128 + SIGILL, "SIGILL (trap stop)", "crashTrap()" },
-                { "fpe", 128 + SIGFPE, "SIGFPE", "main" },
                 { "exception", 128 + SIGABRT, "SIGABRT", "crashException()" },
                 { "stack", 128 + SIGSEGV, "SIGSEGV", "crashDeep(int)" },
                 { "threads", 128 + SIGSEGV, "SIGSEGV", "crashSegv()" },
