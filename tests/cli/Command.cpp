@@ -4,7 +4,7 @@
 #include "support/Bundle.h"
 #include "tests/fixtures/Media.h"
 
-#include <QDir>
+#include <QFile>
 
 #include <csignal>
 #include <unistd.h>
@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 Command::Command()
 {
-    if (!m_folder.isValid())
-        qFatal("No temporary folder");
     // The texts are compared in English.
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("LANGUAGE");
@@ -37,24 +35,6 @@ QStringList Command::listing() const
     return shell(u"find . -type f -printf '%p %s\\n' -o -printf '%p\\n' | sort"_s).split(u'\n');
 }
 
-QString Command::files(const QString &folder) const
-{
-    return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u'|');
-}
-
-QByteArray Command::contents(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void Command::write(const QString &name, const QByteArray &bytes) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s can't be written", qPrintable(file.fileName()));
-}
-
 QString Command::shell(const QString &script) const
 {
     return QString::fromUtf8(Media::run(u"sh"_s, { u"-ec"_s, u"cd \"$0\"\n"_s + script, path() }));
@@ -64,7 +44,7 @@ bool Command::dropPrivileges()
 {
     if (::geteuid() != 0)
         return true;
-    QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7755));
+    QFile::setPermissions(path(), QFile::Permissions(0x7755));
     m_wrapper
         = QStringList{ u"setpriv"_s, u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s };
     return run(u"--version"_s).exitCode == 0;
@@ -74,7 +54,7 @@ std::unique_ptr<QProcess> Command::start(
     const QString &line, const QStringList &further, const std::function<void()> &inChild) const
 {
     auto process = std::make_unique<QProcess>();
-    process->setWorkingDirectory(m_folder.path());
+    process->setWorkingDirectory(path());
     process->setChildProcessModifier([inChild] {
         // A test run in the background of a script has them ignored.
         ::signal(SIGINT, SIG_DFL);

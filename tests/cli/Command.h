@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/fixtures/Folder.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
@@ -20,35 +21,22 @@ struct Finished {
     {
         return QString::number(exitCode) + QStringLiteral(": ") + err;
     }
-    /// The JSON object that was printed, and those in a line each.
+    /// The JSON object that was printed.
     [[nodiscard]] QJsonObject object() const
     {
         return QJsonDocument::fromJson(out.toUtf8()).object();
-    }
-    [[nodiscard]] QList<QJsonObject> objects() const
-    {
-        QList<QJsonObject> objects;
-        for (const QString &line : out.split(u'\n', Qt::SkipEmptyParts))
-            objects << QJsonDocument::fromJson(line.toUtf8()).object();
-        return objects;
     }
 };
 
 /// Runs the real program as a child process in a folder of its own. The program is a copy in the
 /// test's bundle, so a tool that a test exchanges there is the one that it uses.
-class Command {
+class Command : public Folder {
 public:
     Command();
 
     [[nodiscard]] static QString program();
-    /// A path in the folder.
-    [[nodiscard]] QString path(const QString &name = {}) const { return m_folder.filePath(name); }
     /// Names of all that is in the folder and below, with the sizes of files; links not followed.
     [[nodiscard]] QStringList listing() const;
-    /// The files in a sub-folder, hidden ones too, separated by "|".
-    [[nodiscard]] QString files(const QString &folder = {}) const;
-    [[nodiscard]] QByteArray contents(const QString &name) const;
-    void write(const QString &name, const QByteArray &bytes) const;
     /// Runs a script in the folder and gives what it prints.
     QString shell(const QString &script) const;
 
@@ -64,7 +52,6 @@ public:
     [[nodiscard]] static Finished wait(QProcess &process);
 
 private:
-    QTemporaryDir m_folder;
     /// Program and options that run the words behind them.
     QStringList m_wrapper;
 };

@@ -131,27 +131,24 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(m_command->path(u"link.mp4"_s)).isSymLink());
     }
 
-    void strangeName_isConverted_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const QString &name : { u"-i.mp4"_s, u"100%d.mp4"_s, u" a'b\"c\n$HOME `id`;\\.mp4"_s,
-                 u"🎬 фильм.mp4"_s, u"concat:x.mp4"_s, u"-"_s, u".mov"_s, u"e\u0301.mp4"_s,
-                 QString(240, u'x') + u".mp4"_s })
-            QTest::addRow("%s", qPrintable(name.left(20))) << name;
-    }
     void strangeName_isConverted()
     {
-        QFETCH(const QString, name);
-        m_command->write(name, m_video);
-        const Finished converted = m_command->run(u"convert --to MKV -d folder --"_s, { name });
-        QCOMPARE(converted.end(), u"0: "_s);
-        const QString last = converted.out.chopped(1).section(u'\n', -1);
-        QVERIFY2(last.contains(u": converted to /"_s), qPrintable(converted.out));
-        const QString result = (name.endsWith(u".mp4"_s) ? name.chopped(4) : name) + u".mkv"_s;
-        QCOMPARE(m_command->files(u"folder"_s), result);
-        // The result can be a video and a destination in its turn.
-        QCOMPARE(m_command->run(u"convert --to MP4 -o -o.mp4"_s, { u"folder/"_s + result }).end(),
-            u"0: "_s);
+        for (const QString &name : { u"-i.mp4"_s, u"100%d.mp4"_s, u" a'b\"c\n$HOME `id`;\\.mp4"_s,
+                 u"🎬 фильм.mp4"_s, u"concat:x.mp4"_s, u"-"_s, u".mov"_s, u"e\u0301.mp4"_s,
+                 QString(240, u'x') + u".mp4"_s }) {
+            init();
+            m_command->write(name, m_video);
+            const Finished converted = m_command->run(u"convert --to MKV -d folder --"_s, { name });
+            QCOMPARE(converted.end(), u"0: "_s);
+            const QString last = converted.out.chopped(1).section(u'\n', -1);
+            QVERIFY2(last.contains(u": converted to /"_s), qPrintable(converted.out));
+            const QString result = (name.endsWith(u".mp4"_s) ? name.chopped(4) : name) + u".mkv"_s;
+            QCOMPARE(m_command->files(u"folder"_s), result);
+            // The result can be a video and a destination in its turn.
+            QCOMPARE(
+                m_command->run(u"convert --to MP4 -o -o.mp4"_s, { u"folder/"_s + result }).end(),
+                u"0: "_s);
+        }
     }
 };
 

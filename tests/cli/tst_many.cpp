@@ -3,7 +3,6 @@
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/ToolSwap.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -31,7 +30,9 @@ class TestMany : public QObject {
 
     QList<QJsonObject> eventsOf(const QString &line)
     {
-        const QList<QJsonObject> events = m_command.run(line).objects();
+        QList<QJsonObject> events;
+        for (const QString &each : m_command.run(line).out.split(u'\n', Qt::SkipEmptyParts))
+            events << QJsonDocument::fromJson(each.toUtf8()).object();
         m_events += events;
         return events;
     }
@@ -158,7 +159,6 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString page = QString::fromUtf8(file.readAll());
         const QString common = u"`event` `input` `output` "_s;
-        const QString reasons = page.section(u"## Reasons"_s, 1);
         QSet<QString> seen;
         for (const QJsonObject &event : std::as_const(m_events)) {
             const QString name = event[u"event"_s].toString();
@@ -173,8 +173,6 @@ private Q_SLOTS:
             const QByteArray text = QJsonDocument(event).toJson();
             QVERIFY2(given.contains(required), text.constData());
             QVERIFY2(wordsIn(common + fields).contains(given), text.constData());
-            if (event.contains(u"reason"_s))
-                QVERIFY(wordsIn(reasons).contains(event[u"reason"_s].toString()));
             seen << name;
         }
         QCOMPARE(seen.size(), 7);

@@ -146,24 +146,23 @@ private Q_SLOTS:
         }
     }
 
-    void answer_isThatOfTheButton_data()
-    {
-        addRows<Utf8, SendReport>({ "button", "answer" },
-            { { "send", "Send", SendReport::Yes }, { "always", "Always Send", SendReport::Always },
-                { "don't", "Don't Send", SendReport::No }, { "escape", "", SendReport::No } });
-    }
     void answer_isThatOfTheButton()
     {
-        QFETCH(QString, button);
-        QTimer::singleShot(0, this, [button] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            for (QAbstractButton *each : box->buttons()) {
-                if (each->text() == button)
-                    return each->click();
-            }
-            QTest::keyClick(box, Qt::Key_Escape);
-        });
-        QTEST(askToSendReport(nullptr, u"Reason: SIGSEGV\nStack:\n  0 program+0x1\n"_s), "answer");
+        const std::pair<QString, SendReport> answers[]{ { u"Send"_s, SendReport::Yes },
+            { u"Always Send"_s, SendReport::Always }, { u"Don't Send"_s, SendReport::No },
+            { u"Escape"_s, SendReport::No } };
+        for (const auto &[button, answer] : answers) {
+            QTimer::singleShot(0, this, [button = button] {
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                for (QAbstractButton *each : box->buttons()) {
+                    if (each->text() == button)
+                        return each->click();
+                }
+                QTest::keyClick(box, Qt::Key_Escape);
+            });
+            QCOMPARE(
+                askToSendReport(nullptr, u"Reason: SIGSEGV\nStack:\n  0 program+0x1\n"_s), answer);
+        }
     }
 };
 

@@ -5,15 +5,14 @@
 #include "engine/Task.h"
 #include "support/Console.h"
 #include "support/MainQueue.h"
+#include "tests/fixtures/Folder.h"
 #include "tests/fixtures/Media.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -38,12 +37,9 @@ void probe(const QString &path, QStringList &answers)
 
 }
 
-class TestProbe : public QObject {
+class TestProbe : public QObject, private Folder {
     Q_OBJECT
 
-    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-
-    QTemporaryDir m_folder;
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -67,8 +63,6 @@ private Q_SLOTS:
                 { "cover would lie behind the end", "fifteen.mkv", "", "15s, 0 x 0" },
                 { "large picture", "8k.mov", "", "3s, 8192 x 4320" },
                 { "sound alone", "sound.mp3", "", "5s, 0 x 0" },
-                { "missing", "nothing.mp4", "", "There is no such file." },
-                { "folder", ".", "", "This is a folder, not a video." },
                 { "FIFO", "fifo.mp4", "", "This is a pipe or a device, not a file." },
                 { "no ffprobe", "five.mp4", "ffprobe",
                     "The tool TOOL is missing or can't be run." },
@@ -95,89 +89,59 @@ private Q_SLOTS:
         QCOMPARE(m_lines.filter(u"something bad happened: "_s).size(), swap ? 1 : 0);
     }
 
-    void information_isChecked_data()
-    {
-        const auto accepted = Reason::Done;
-        addRows<Utf8, Reason>({ "format", "refusal" },
-            {
-                { "one second", R"("duration":"1.000000","size":"500")", accepted },
-                { "long", R"("duration":"83.450000","size":"500")", accepted },
-                { "half a second", R"("duration":"0.5","size":"500")", Reason::TooShort },
-                { "no duration", R"("size":"500")", Reason::NoDuration },
-                { "numeric duration", R"("duration":8,"size":"500")", Reason::NoDuration },
-                { "bad duration", R"("duration":"N/A","size":"500")", Reason::NoDuration },
-                { "no size", R"("duration":"83.4")", Reason::NoSize },
-                { "no size, too short", R"("duration":"0.4")", Reason::NoSize },
-                { "numeric size", R"("duration":"83.4","size":500)", Reason::NoSize },
-                { "growing", R"("duration":"83.4","size":"499")", Reason::SizeDiffers },
-                { "bad size", R"("duration":"83.4","size":"5e2")", Reason::SizeDiffers },
-            });
-    }
     void information_isChecked()
     {
-        QFETCH(const QString, format);
-        const JSON info = JSON::parse(R"({"format":{)" + format.toUtf8() + "}}");
-        const auto result = MovieProbe::checked(info, 500);
-        const auto *refusal = std::get_if<Outcome>(&result);
-        QTEST(refusal ? refusal->reason : Reason::Done, "refusal");
+        const std::pair<QByteArray, Reason> formats[]{
+            { R"("duration":"1.000000","size":"500")", Reason::Done },
+            { R"("duration":"0.5","size":"500")", Reason::TooShort },
+            { R"("size":"500")", Reason::NoDuration },
+            { R"("duration":"N/A","size":"500")", Reason::NoDuration },
+            { R"("duration":"0.4")", Reason::NoSize },
+            { R"("duration":"83.4","size":"499")", Reason::SizeDiffers },
+            { R"("duration":"83.4","size":"5e2")", Reason::SizeDiffers },
+        };
+        for (const auto &[format, reason] : formats) {
+            const auto result
+                = MovieProbe::checked(JSON::parse(R"({"format":{)" + format + "}}"), 500);
+            const auto *refusal = std::get_if<Outcome>(&result);
+            QVERIFY2((refusal ? refusal->reason : Reason::Done) == reason, format.constData());
+        }
     }
 
-    void length_choosesCoverAndBucket_data()
-    {
-        addRows<qint64, Utf8, Utf8>({ "seconds", "cover", "bucket" },
-            {
-                { "0 s", 0, "00:00:00", "0-1" },
-                { "9 s", 9, "00:00:02", "0-1" },
-                { "10 s", 10, "00:00:20", "0-1" },
-                { "59 s", 59, "00:00:20", "0-1" },
-                { "1 min", 60, "00:00:40", "1-5" },
-                { "4 min 59 s", 299, "00:00:40", "1-5" },
-                { "5 min", 300, "00:00:40", "5-10" },
-                { "10 min", 600, "00:00:40", "10-20" },
-                { "20 min", 1200, "00:00:40", "20-40" },
-                { "39 min 59 s", 2399, "00:00:40", "20-40" },
-                { "40 min", 2400, "00:00:40", ">40" },
-                { "59 min 59 s", 3599, "00:00:40", ">40" },
-                { "1 h", 3600, "00:40:00", ">40" },
-                { "negative", -120, "00:00:00", ">40" },
-            });
-    }
     void length_choosesCoverAndBucket()
     {
-        QFETCH(const qint64, seconds);
-        QTEST(MovieProbe::coverOffset(DurationInfo(seconds)), "cover");
-        QTEST(MovieProbe::lengthBucket(seconds), "bucket");
-    }
-
-    void cover_needsATemporaryFolder()
-    {
-        const QByteArray temporary = qgetenv("TMPDIR");
-        qputenv("TMPDIR", "/proc");
-        QStringList answers;
-        probe(path(u"five.mp4"_s), answers);
-        QTRY_COMPARE(answers, QStringList{ u"5s, 0 x 0"_s });
-        temporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
-        probe(path(u"five.mp4"_s), answers);
-        QTRY_COMPARE(answers.value(1), u"5s, 320 x 180"_s);
+        const std::pair<qint64, QString> lengths[]{ { 0, u"00:00:00 0-1"_s },
+            { 9, u"00:00:02 0-1"_s }, { 10, u"00:00:20 0-1"_s }, { 59, u"00:00:20 0-1"_s },
+            { 60, u"00:00:40 1-5"_s }, { 299, u"00:00:40 1-5"_s }, { 300, u"00:00:40 5-10"_s },
+            { 600, u"00:00:40 10-20"_s }, { 1200, u"00:00:40 20-40"_s },
+            { 2399, u"00:00:40 20-40"_s }, { 2400, u"00:00:40 >40"_s }, { 3599, u"00:00:40 >40"_s },
+            { 3600, u"00:40:00 >40"_s }, { -120, u"00:00:00 >40"_s } };
+        for (const auto &[seconds, expected] : lengths) {
+            const QString cover = MovieProbe::coverOffset(DurationInfo(seconds));
+            QCOMPARE(cover + u' ' + MovieProbe::lengthBucket(seconds), expected);
+        }
     }
 
     void cover_isPrivateAndRemoved()
     {
         // The last test: what shutDown() ends does not begin again.
-        const QTemporaryDir temporary;
-        qputenv("TMPDIR", QFile::encodeName(temporary.path()));
-        const auto covers
-            = [&] { return QDir(temporary.path()).entryInfoList(QDir::Files | QDir::Hidden); };
+        const Folder temporary;
         QStringList answers;
+        qputenv("TMPDIR", "/proc");
+        probe(path(u"five.mp4"_s), answers);
+        QTRY_COMPARE(answers, QStringList{ u"5s, 0 x 0"_s });
+        answers.clear();
+        qputenv("TMPDIR", QFile::encodeName(temporary.path()));
         {
             const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, "arguments|sleep:500");
             probe(path(u"five.mp4"_s), answers);
-            QTRY_COMPARE(covers().size(), 1);
-            QTRY_COMPARE(covers().constFirst().permissions() & QFile::Permissions(0x0077),
+            QTRY_VERIFY(!temporary.files().isEmpty());
+            QTRY_COMPARE(
+                QFile::permissions(temporary.path(temporary.files())) & QFile::Permissions(0x0077),
                 QFile::Permissions());
             QTRY_COMPARE(answers.size(), 1);
         }
-        QTRY_VERIFY(covers().isEmpty());
+        QTRY_COMPARE(temporary.files(), QString());
         QStringList arguments = m_lines.constLast().trimmed().split(u'\t').mid(1);
         const QString image = std::exchange(arguments[5], u"IMAGE.jpg"_s);
         QCOMPARE(arguments.join(u' '),

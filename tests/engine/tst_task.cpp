@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
+#include "engine/Async.h"
 #include "engine/Task.h"
-#include "support/Bundle.h"
+#include "engine/Tool.h"
+#include "support/MainQueue.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <latch>
 #include <sys/socket.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-QString toolPath() { return Bundle::main().bundlePath() + u"/Contents/ffmpeg/ffmpeg"_s; }
 
 class ThrowingTask : public Task {
 public:
@@ -29,7 +29,7 @@ QByteArray outputOf(const QByteArray &script, const ToolAccess &access = {})
 {
     const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, script);
     Task task;
-    task.setLaunchPath(toolPath());
+    task.setLaunchPath(toolPath(Tool::Ffmpeg));
     task.setAccess(access);
     task.launch();
     const QByteArray output = task.readDataToEndOfFile();
@@ -38,6 +38,7 @@ QByteArray outputOf(const QByteArray &script, const ToolAccess &access = {})
 
 }
 
+/// What goes on beside the main thread: tools and blocks.
 class TestTask : public QObject {
     Q_OBJECT
 
@@ -50,12 +51,12 @@ private Q_SLOTS:
         for (const With replacement : { With::Nothing, With::UnexecutableFile }) {
             const ToolSwap swap(u"ffmpeg"_s, replacement);
             Task task;
-            task.setLaunchPath(toolPath());
+            task.setLaunchPath(toolPath(Tool::Ffmpeg));
             LaunchError error;
             QVERIFY(!task.tryLaunch(&error));
             QCOMPARE(error.domain, u"NSInvalidArgumentException"_s);
             QCOMPARE(error.code, 0);
-            QVERIFY2(error.localizedDescription.contains(toolPath()),
+            QVERIFY2(error.localizedDescription.contains(toolPath(Tool::Ffmpeg)),
                 qPrintable(error.localizedDescription));
             QVERIFY(!task.isRunning() && !task.tryLaunch());
         }
@@ -79,7 +80,7 @@ private Q_SLOTS:
             u"ffmpeg"_s, ToolSwap::With::FakeTool, "flood:30720|print:the end|exit:0");
         for (int i = 0; i < 100; ++i) {
             Task task;
-            task.setLaunchPath(toolPath());
+            task.setLaunchPath(toolPath(Tool::Ffmpeg));
             task.launch();
             if (i % 2 == 0)
                 QThread::usleep(5000);
@@ -173,6 +174,39 @@ private Q_SLOTS:
         attempt.replace("HOME", QFile::encodeName(home.path()));
         attempt.replace("TEMP", QFile::encodeName(QDir::tempPath()));
         QTEST(outputOf(attempt, { { video }, { dest.filePath(u"result.mp4"_s) } }), "answer");
+    }
+
+    void background_jobsOverlapAndComeBack()
+    {
+        // Each waits for the other, so one after the other they would never end.
+        auto both = std::make_shared<std::latch>(2);
+        int ran = 0;
+        const auto run = [&ran] { ran += MainQueue::isMainThread() ? 1 : 1000; };
+        for (int i = 0; i < 2; ++i) {
+            Async::background([both, run] {
+                both->arrive_and_wait();
+                Async::async(run);
+            });
+        }
+        Async::async(run);
+        Async::delay(0, run);
+        QCOMPARE(ran, 0);
+        QTRY_COMPARE(ran, 4);
+        QCOMPARE(Async::backgroundSerialQueue()->label(), u"ext.serial.backgroundQueue"_s);
+    }
+
+    void queue_runsItsBlocksInOrder()
+    {
+        auto queue = Async::backgroundSerialQueue();
+        std::vector<int> order;
+        for (int i = 0; i < 100; ++i) {
+            Async::async(queue, [&order, i] { order.push_back(i); });
+        }
+        // The queue's last block runs although nobody holds the queue any more.
+        queue.reset();
+        SerialQueue::waitForAll();
+        QCOMPARE(order.size(), 100U);
+        QVERIFY(std::ranges::is_sorted(order));
     }
 };
 

@@ -68,12 +68,8 @@ private Q_SLOTS:
         const QByteArray aac = ',' + audio("aac", "48000", 2);
         const QByteArray huge = video("hevc", 8192, 4320) + aac;
         const std::pair<const char *, const char *> bounds[]{ { "iPhone 4, 4s", "960" },
-            { "iPhone 5, 5s, 5c", "1136" }, { "iPhone 6, 6s", "1334" },
-            { "iPhone 6s plus", "1920" }, { "iPad, iPad mini", "1024" },
-            { "iPad Air, Air 2, iPad mini 2, 3, 4", "2048" }, { "iPad Pro", "2732" },
-            { "AppleTV 1, 2", "1280" }, { "AppleTV 3", "1920" }, { "AppleTV 4", "1920" },
-            { "MP4 Low Quality", "480" }, { "MP4 Medium Quality", "640" }, { "MP4 HD 720", "1280" },
-            { "MP4 FullHD 1080", "1920" }, { "MP4 4k", "4096" } };
+            { "iPad, iPad mini", "1024" }, { "iPad Pro", "2732" }, { "AppleTV 1, 2", "1280" },
+            { "MP4 Low Quality", "480" }, { "MP4 Medium Quality", "640" }, { "MP4 4k", "4096" } };
         for (const auto &[name, side] : bounds)
             row(name, huge, bound(QString::fromLatin1(side) + u":-2"_s));
         for (const char *unbound : { "iMac, MacBook", "Linux", "MP4" })
@@ -147,8 +143,6 @@ private Q_SLOTS:
             u"-map 0:0 -acodec aac -ar 22050 -ac 6"_s + tail);
         row("WebM", sound + R"("sample_rate":{"a":1}})",
             u"-map 0:0 -acodec libvorbis -ar '' -ac 0 -f webm"_s);
-        row("FLV", sound + R"("sample_rate":22050})",
-            u"-map 0:0 -acodec libmp3lame -ar 22050 -ac 2 -f flv"_s);
     }
 
     void streams_giveArguments()
@@ -238,16 +232,11 @@ private Q_SLOTS:
         for (const QString &name : names)
             QCOMPARE(entry(name).destDevice, name);
         QCOMPARE(entryNames(MenuGroup::Devices), names.first(13));
-        QCOMPARE(names.first(), u"iPhone 4, 4s"_s);
-        QCOMPARE(names.at(12), u"Windows"_s);
-        QCOMPARE(entryNames(MenuGroup::Formats).join(u' '), u"audio GIF AVI FLV MKV WebM MP4"_s);
+        QCOMPARE(entryNames(MenuGroup::Formats), names.mid(13, 7));
         QCOMPARE(entryNames(MenuGroup::Mp4Quality), names.last(5));
         QCOMPARE(entry(u"AppleTV 3"_s).quality, VideoQualityConstraints::unchanged);
         for (int quality = 1; quality <= 5; ++quality)
             QCOMPARE(hashValue(entry(names.at(19 + quality)).quality), quality);
-        // The smaller numbers leave no trace in any argument.
-        QCOMPARE(entry(u"MP4 Low Quality"_s).dimension,
-            VideoDimensionsConstraints::maximum({ .width = 480, .height = 240 }));
     }
 };
 

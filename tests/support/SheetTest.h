@@ -4,10 +4,8 @@
 #include "Answering.h"
 #include "support/Defaults.h"
 #include "support/dialogs/Sheets.h"
+#include "tests/fixtures/Folder.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QWidget>
 
 #include <memory>
@@ -20,7 +18,7 @@ protected:
         Defaults::remove(QStringLiteral("LastSaveFolder"));
         Defaults::remove(QStringLiteral("LastOpenFolder"));
         paths.clear();
-        folder = std::make_unique<QTemporaryDir>();
+        folder = std::make_unique<Folder>();
         window = std::make_unique<QWidget>();
         window->show();
         window->activateWindow();
@@ -32,14 +30,9 @@ protected:
             window.get(), filename, QStringLiteral("mp4"),
             [this](const QString &given) { paths += given; }, folder->path());
     }
-    void write(const QString &name) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    [[nodiscard]] QString path(const QString &name) const { return folder->filePath(name); }
+    [[nodiscard]] QString path(const QString &name) const { return folder->path(name); }
 
-    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<Folder> folder;
     std::unique_ptr<QWidget> window;
     QStringList paths;
 };

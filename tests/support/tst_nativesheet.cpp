@@ -6,6 +6,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
+#include <QDir>
 #include <QLibraryInfo>
 #include <QThread>
 #include <QUrl>
@@ -67,7 +68,7 @@ private Q_SLOTS:
     void init()
     {
         setUp();
-        write(u"video.mp4"_s);
+        folder->write(u"video.mp4"_s, {});
         runSave(u"proposed"_s);
         awaitDialog(u"proposed.mp4"_s);
     }

@@ -2,6 +2,7 @@
 #include "SheetTest.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -83,7 +84,7 @@ private Q_SLOTS:
     {
         const QString typed = u"<b>x<b>%d"_s;
         const QString existing = typed + u".mp4"_s;
-        write(existing);
+        folder->write(existing, {});
         save(u"proposed"_s);
         const Answering refusal(Answering::no());
         type(typed);
@@ -138,7 +139,7 @@ private Q_SLOTS:
 
     void chooseSheet_givesWhatItIsFor()
     {
-        write(u"video.mp4"_s);
+        folder->write(u"video.mp4"_s, {});
         for (const bool files : { true, false }) {
             const QString chosen = path(files ? u"video.mp4"_s : u"sub"_s);
             const QString refused = path(files ? u"sub"_s : u"video.mp4"_s);

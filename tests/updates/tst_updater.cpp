@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LoopbackServer.h"
 #include "support/Defaults.h"
+#include "tests/fixtures/Folder.h"
 #include "tests/fixtures/Rows.h"
 #include "updates/Updater.h"
 #include "updates/dialog/UpdateDialogs.h"
@@ -12,7 +13,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sodium.h>
@@ -94,7 +94,7 @@ private:
 
     Keys m_keys;
     LoopbackServer m_server;
-    QTemporaryDir m_folder;
+    Folder m_folder;
     UpdaterSettings m_settings;
     std::unique_ptr<Updater> m_updater;
     std::unique_ptr<QSignalSpy> m_checks;
@@ -106,7 +106,7 @@ private Q_SLOTS:
         m_server.requests.clear();
         m_settings = { .version = u"1.5"_s,
             .publicKey = QString::fromLatin1(m_keys.publicKey.toBase64()),
-            .downloadFolder = m_folder.filePath(u"Downloads"_s) };
+            .downloadFolder = m_folder.path(u"Downloads"_s) };
         qputenv("VIDEO_CONVERTER_FEED_URL", m_server.address(u"/update.xml"_s).toLatin1());
         for (const QString &key :
             { u"LastUpdateCheck"_s, u"SkippedVersion"_s, u"ChecksForUpdates"_s })
@@ -227,8 +227,7 @@ private Q_SLOTS:
         m_server.answers["/new.deb"] = answer;
         m_server.answers["/moved"].body = package;
         const AppcastItem item = checkNow().item;
-        QDir folder(m_settings.downloadFolder);
-        folder.removeRecursively();
+        QDir(m_settings.downloadFolder).removeRecursively();
 
         // When the second file comes, the first one is the user's.
         QStringList files;
@@ -239,15 +238,12 @@ private Q_SLOTS:
             QTRY_COMPARE(ends.size(), 1);
             QCOMPARE(ends[0][0].value<UpdateDownload::End>(), end);
             const bool isSaved = end == UpdateDownload::End::Saved;
-            QCOMPARE(ends[0][1].toString(), isSaved ? folder.filePath(name) : QString());
-            if (isSaved) {
+            const QString path = isSaved ? u"Downloads/"_s + name : QString();
+            QCOMPARE(ends[0][1].toString(), isSaved ? m_folder.path(path) : QString());
+            QCOMPARE(m_folder.contents(path), isSaved ? package : "");
+            if (isSaved)
                 files.prepend(name);
-                QFile file(folder.filePath(name));
-                QVERIFY(file.open(QIODevice::ReadOnly));
-                QCOMPARE(file.readAll(), QByteArray(package));
-            }
-            folder.refresh();
-            QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), files);
+            QCOMPARE(m_folder.files(u"Downloads"_s), files.join(u'|'));
         }
     }
 
