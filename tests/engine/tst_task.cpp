@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Async.h"
 #include "engine/Task.h"
-#include "engine/Tool.h"
 #include "support/MainQueue.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"

@@ -68,8 +68,12 @@ private Q_SLOTS:
         const QByteArray aac = ',' + audio("aac", "48000", 2);
         const QByteArray huge = video("hevc", 8192, 4320) + aac;
         const std::pair<const char *, const char *> bounds[]{ { "iPhone 4, 4s", "960" },
-            { "iPad, iPad mini", "1024" }, { "iPad Pro", "2732" }, { "AppleTV 1, 2", "1280" },
-            { "MP4 Low Quality", "480" }, { "MP4 Medium Quality", "640" }, { "MP4 4k", "4096" } };
+            { "iPhone 5, 5s, 5c", "1136" }, { "iPhone 6, 6s", "1334" },
+            { "iPhone 6s plus", "1920" }, { "iPad, iPad mini", "1024" },
+            { "iPad Air, Air 2, iPad mini 2, 3, 4", "2048" }, { "iPad Pro", "2732" },
+            { "AppleTV 1, 2", "1280" }, { "AppleTV 3", "1920" }, { "AppleTV 4", "1920" },
+            { "MP4 Low Quality", "480" }, { "MP4 Medium Quality", "640" }, { "MP4 HD 720", "1280" },
+            { "MP4 FullHD 1080", "1920" }, { "MP4 4k", "4096" } };
         for (const auto &[name, side] : bounds)
             row(name, huge, bound(QString::fromLatin1(side) + u":-2"_s));
         for (const char *unbound : { "iMac, MacBook", "Linux", "MP4" })
