@@ -31,7 +31,11 @@ QVariant value(const QString &key)
     return store().value(key, registered->value(key));
 }
 
-void setValue(const QString &key, const QVariant &value) { store().setValue(key, value); }
+void setValue(const QString &key, const QVariant &value)
+{
+    QSettings settings = store();
+    settings.setValue(key, value);
+}
 
 void remove(const QString &key) { store().remove(key); }
 
