@@ -11,7 +11,11 @@ namespace {
 
 std::mutex registeredMutex;
 
-Q_GLOBAL_STATIC(QVariantMap, registered)
+QVariantMap &registered()
+{
+    static QVariantMap map;
+    return map;
+}
 
 QSettings store() { return QSettings(u"VideoConverter"_s, u"VideoConverter"_s); }
 
@@ -22,13 +26,13 @@ namespace Defaults {
 void registerDefaults(const QVariantMap &defaults)
 {
     const std::lock_guard lock(registeredMutex);
-    registered->insert(defaults);
+    registered().insert(defaults);
 }
 
 QVariant value(const QString &key)
 {
     const std::lock_guard lock(registeredMutex);
-    return store().value(key, registered->value(key));
+    return store().value(key, registered().value(key));
 }
 
 void setValue(const QString &key, const QVariant &value)
