@@ -29,10 +29,15 @@ bool isConfigured() { return !Configuration::crashUrl().isEmpty() && !Configurat
 bool mayAlwaysSend() { return Defaults::value(alwaysSendKey).toBool(); }
 
 /// Newest first.
-QFileInfoList reports(const QString &pattern)
+QFileInfoList reports(QLatin1StringView suffix)
 {
-    return QDir(CrashReporter::folder())
-        .entryInfoList({ pattern }, QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
+    QFileInfoList files
+        = QDir(CrashReporter::folder())
+              .entryInfoList(QDir::Files | QDir::NoSymLinks, QDir::Time | QDir::Name);
+    files.removeIf([&](const QFileInfo &file) {
+        return !file.fileName().startsWith("crash-"_L1) || !file.fileName().endsWith(suffix);
+    });
+    return files;
 }
 
 QByteArray contents(const QString &path)
@@ -60,14 +65,14 @@ void note(const QString &session, const QString &state)
 
 void CrashReports::uploadPending(const Question &ask)
 {
-    QFileInfoList pending = reports(u"crash-*.txt"_s);
+    QFileInfoList pending = reports(".txt"_L1);
     while (pending.size() > keptReports)
         QFile::remove(pending.takeLast().filePath());
     pending.removeIf([](const QFileInfo &file) { return file.completeSuffix() != u"txt"; });
     if (!isConfigured())
         return;
     const QPointer<QObject> alive(&m_network);
-    QFileInfoList agreed = reports(u"crash-*.agreed.txt"_s);
+    QFileInfoList agreed = reports(".agreed.txt"_L1);
     for (const QFileInfo &file : pending) {
         const SendReport answer = mayAlwaysSend()
             ? SendReport::Always

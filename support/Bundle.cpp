@@ -42,9 +42,14 @@ std::optional<QString> Bundle::infoString(const QString &key) const
 
 QStringList Bundle::localizations() const
 {
-    return QDir(m_bundlePath + "/Contents/Resources"_L1)
-        .entryList({ u"*.lproj"_s }, QDir::Dirs, QDir::Name)
-        .replaceInStrings(u".lproj"_s, QString());
+    // Patterns of names would load the expressions' library, at each start and for this alone.
+    QStringList languages;
+    for (const QString &name :
+        QDir(m_bundlePath + "/Contents/Resources"_L1).entryList(QDir::Dirs, QDir::Name)) {
+        if (name.endsWith(".lproj"_L1))
+            languages << name.chopped(6);
+    }
+    return languages;
 }
 
 QString Bundle::localizationPath(const QString &language) const

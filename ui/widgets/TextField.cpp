@@ -5,8 +5,9 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QStyle>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +18,14 @@ constexpr auto cursorKey = "_cursor";
 /// A name may hold line breaks and other controls; it still takes one line.
 QString onOneLine(QString text)
 {
-    static const QRegularExpression lineBreaks(uR"([\p{Cc}\p{Zl}\p{Zp}])"_s);
-    return text.replace(lineBreaks, u" "_s);
+    // No expression: its library would be the first thing that the window's start loads for
+    // nothing.
+    const auto breaksLine = [](QChar character) {
+        return character.category() == QChar::Other_Control || character == QChar::LineSeparator
+            || character == QChar::ParagraphSeparator;
+    };
+    std::ranges::replace_if(text, breaksLine, u' ');
+    return text;
 }
 
 }
