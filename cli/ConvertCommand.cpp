@@ -10,7 +10,6 @@
 #include "engine/Remedy.h"
 #include "engine/SteadyTime.h"
 #include "engine/Verdict.h"
-#include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
 #include "support/Path.h"
@@ -38,13 +37,6 @@ bool isLeftOut(const Input &input, const Outcome &outcome)
     static const QSet<Reason> reasons{ Reason::NotMedia, Reason::NoDuration, Reason::TooShort,
         Reason::EmptyFile, Reason::NotRegularFile };
     return input.isFound && reasons.contains(outcome.reason) && !isCalledMedia(input.name);
-}
-
-/// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
-bool isVideoOrMusic(const JSON &info)
-{
-    return info[u"format"_s][u"format_name"_s].stringValue() != u"tty"
-        && (firstStream(info, "video"_L1) || firstStream(info, "audio"_L1));
 }
 
 Outcome outcomeOf(const Progress &progress)

@@ -2,6 +2,7 @@
 #include "cli/Inputs.h"
 
 #include "cli/arguments/EntryName.h"
+#include "planning/ConversionDescriptor.h"
 #include "support/Path.h"
 #include "support/StandardInput.h"
 
@@ -145,6 +146,12 @@ bool isCalledMedia(const QString &name)
     static const QStringList lists{ u"audio/x-mpegurl"_s, u"audio/x-scpls"_s, u"audio/x-ms-asx"_s,
         u"audio/midi"_s };
     return (type.startsWith("video/"_L1) || type.startsWith("audio/"_L1)) && !lists.contains(type);
+}
+
+bool isVideoOrMusic(const JSON &info)
+{
+    return info[u"format"_s][u"format_name"_s].stringValue() != u"tty"
+        && (firstStream(info, "video"_L1) || firstStream(info, "audio"_L1));
 }
 
 QString absolutePath(const QString &path)

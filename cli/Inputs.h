@@ -3,6 +3,7 @@
 
 #include "cli/arguments/CommandLine.h"
 #include "engine/Outcome.h"
+#include "support/JSON.h"
 
 #include <vector>
 
@@ -40,6 +41,9 @@ struct Inputs {
 
 /// The name's extension is that of videos or music. Others may be both too.
 [[nodiscard]] bool isCalledMedia(const QString &name);
+
+/// Text files read as terminal art, and subtitles have a length but nothing to see or hear.
+[[nodiscard]] bool isVideoOrMusic(const JSON &info);
 
 /// Made absolute, because the tools take a dash for an option and a colon for a protocol. A ".."
 /// may lead through a link and stays.

@@ -64,6 +64,8 @@ ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption 
         return ExitCode::Done;
     if (!video.refusal.isDone())
         return Output::failure(item.input.name, video.refusal);
+    if (item.input.isFound && !isVideoOrMusic(video.info))
+        return ExitCode::Done;
     print(line, &item, video.info);
     return ExitCode::Done;
 }

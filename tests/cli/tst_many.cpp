@@ -62,7 +62,8 @@ private Q_SLOTS:
             u"mkdir -p in/sub in/.git out; cp video.mp4 in/sub/a.mov; cp video.mp4 in/b.mov;"
             "cp video.mp4 in/.git/c.mov; cp video.mp4 in/.d.mov; echo text > in/notes.txt;"
             "ln -s .. in/sub/circle; echo nothing > in/empty.srt; echo x > in/broken.mov;"
-            "echo x > in/b.jpg; echo x > in/b.info"_s);
+            "echo x > in/b.jpg; echo x > in/b.info;"
+            "yes 'Once upon a time.' | head -n 500 > in/tale.txt"_s);
     }
 
     void tree_isConvertedOnce()
@@ -71,7 +72,8 @@ private Q_SLOTS:
         QCOMPARE(ends(eventsOf(line)),
             (QStringList{ u"converted a.mkv"_s, u"converted b.mkv"_s,
                 u"failed broken.mkv not-media"_s, u"skipped  not-media"_s, u"skipped  not-media"_s,
-                u"skipped  not-media"_s, u"skipped  too-short"_s }));
+                u"skipped  not-media"_s, u"skipped  not-media"_s, u"skipped  too-short"_s }));
+        QCOMPARE(m_command.run(u"plan --to mkv -r in -d planned"_s).out.count(u'\n'), 2);
         QCOMPARE(m_command.listing().filter(u"out/"_s).filter(u".mkv"_s).size(), 2);
         QVERIFY(QFile::exists(m_command.path(u"out/sub/a.mkv"_s)));
 

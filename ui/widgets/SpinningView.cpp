@@ -49,7 +49,10 @@ QSize SpinningView::sizeHint() const
 
 void SpinningView::animate()
 {
-    m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
+    if (m_spinning && m_awake)
+        m_timer.start();
+    else
+        m_timer.stop();
     update();
 }
 

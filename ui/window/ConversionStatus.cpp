@@ -72,7 +72,8 @@ void ConversionStatus::setProgress(double fraction, qint64 seconds)
 {
     m_fraction = fraction;
     m_seconds = seconds;
-    const int percent = static_cast<int>(fraction * 100);
+    // A little more than nothing, as 0.29 times 100 is a little less than 29.
+    const int percent = static_cast<int>(fraction * 100 + 1e-6);
     if (fraction < 0 || !m_timer.isActive() || percent == m_percent)
         return;
     m_percent = percent;
