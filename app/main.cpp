@@ -14,6 +14,7 @@
 #include "support/Translation.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/widgets/Appearance.h"
+#include "ui/widgets/ImageView.h"
 #include "ui/window/AppDelegate.h"
 #include "updates/Updater.h"
 #include "updates/dialog/UpdateDialogs.h"
@@ -38,7 +39,11 @@ void describe()
     QApplication::setApplicationDisplayName(u"Video Converter"_s);
     QApplication::setApplicationVersion(Configuration::version());
     QApplication::setDesktopFileName(u"org.example.VideoConverter"_s);
-    QApplication::setWindowIcon(QIcon(u":/icons/video-converter.svg"_s));
+    // Not by its file name, for which Qt would load plugins that nothing else needs at the start.
+    QIcon icon;
+    for (const int side : { 16, 32, 64, 128 })
+        icon.addPixmap(drawnArtwork(u":/icons/video-converter.svg"_s, { side, side }));
+    QApplication::setWindowIcon(icon);
 }
 
 /// Ends the program when only help or the version is asked for.

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 #include <QPointer>
-#include <QStyle>
+#include <QProxyStyle>
 #ifdef Q_OS_LINUX
 #include "ui/desktop/DesktopBus.h"
 
@@ -43,6 +43,20 @@ constexpr Shade shades[] = {
     {QPalette::ToolTipText,     0xffffffff, 0xfff2f4fa},
 };
 // clang-format on
+
+/// The desktop's style. It leaves out what a menu bar draws where its menus find no room: the
+/// window is never so narrow, and Qt loads each of its image plugins for that arrow as soon as
+/// there is a menu bar.
+class Style : public QProxyStyle {
+public:
+    QIcon standardIcon(
+        StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const override
+    {
+        return icon == SP_ToolBarHorizontalExtensionButton
+            ? QIcon()
+            : QProxyStyle::standardIcon(icon, option, widget);
+    }
+};
 
 constexpr auto appearanceSpace = "org.freedesktop.appearance"_L1;
 constexpr auto schemeKey = "color-scheme"_L1;
@@ -86,7 +100,10 @@ Appearance::Appearance()
     // The style's own plain colours mean that no desktop has set any.
     const QStyle &style = *QApplication::style();
     const QColor plain = style.standardPalette().color(QPalette::Window);
-    if (style.name() != "fusion"_L1 || QApplication::palette().color(QPalette::Window) != plain)
+    const bool isPlain
+        = style.name() == "fusion"_L1 && QApplication::palette().color(QPalette::Window) == plain;
+    QApplication::setStyle(new Style);
+    if (!isPlain)
         return;
     apply(m_look);
 #ifdef Q_OS_LINUX

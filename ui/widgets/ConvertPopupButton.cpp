@@ -19,7 +19,6 @@ namespace {
 /// Long menus scroll instead of taking columns, and typing leads to an entry.
 class MenuStyle : public QProxyStyle {
 public:
-    using QProxyStyle::QProxyStyle;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
         QStyleHintReturn *data) const override
     {
@@ -82,7 +81,7 @@ void ConvertPopupButton::setMenu(QMenu *menu)
     QPushButton::setMenu(menu);
     disconnect(this, &QPushButton::pressed, this, nullptr);
     connect(this, &QPushButton::pressed, this, &ConvertPopupButton::openMenu);
-    auto *menuStyle = new MenuStyle(style()->name());
+    auto *menuStyle = new MenuStyle;
     menuStyle->setParent(menu);
     menu->setStyle(menuStyle);
     menu->installEventFilter(this);

@@ -22,12 +22,19 @@ QRectF centred(const QSizeF &size, const QRectF &area)
 
 }
 
+QPixmap drawnArtwork(const QString &resource, QSize size)
+{
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    QSvgRenderer(resource).render(&painter);
+    return drawn;
+}
+
 QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color)
 {
-    QPixmap tinted(size);
-    tinted.fill(Qt::transparent);
+    QPixmap tinted = drawnArtwork(resource, size);
     QPainter painter(&tinted);
-    QSvgRenderer(resource).render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(tinted.rect(), color);
     return tinted;

@@ -5,7 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// A drawing in one colour. Units: pixels of the device.
+/// An SVG drawing of the resources, in its own colours or in one. Units: pixels of the device.
+[[nodiscard]] QPixmap drawnArtwork(const QString &resource, QSize size);
 [[nodiscard]] QPixmap tintedArtwork(const QString &resource, QSize size, const QColor &color);
 
 /// Shows an image or a scalable drawing in proportion; a button where clicked() is listened to.
