@@ -88,7 +88,7 @@ public:
         // Those that stayed empty go; the others stay.
         for (const QString &folder : std::as_const(m_madeFolders))
             QDir().rmdir(folder);
-        if (m_sum.all > 1)
+        if (m_sum.all != 1 || m_line.hasList())
             m_reporter.summedUp(m_sum);
         return m_code;
     }
@@ -97,11 +97,11 @@ private:
     struct Video {
         const ConversionItem *item;
         JSON info;
-        bool replaces;
+        OlderFile olderFile;
         std::shared_ptr<Progress> progress = {};
         QElapsedTimer clock = {};
         SteadyTime steadyTime = {};
-        qint64 told = -1;
+        qint64 lastReported = -1;
     };
 
     void goOn()
@@ -114,7 +114,7 @@ private:
         }
         while (!m_isStopped && m_next < m_items.size() && m_examining + m_ready.size() < m_jobs)
             examine(m_items[m_next++]);
-        // Who was interrupted does not wait for examinations.
+        // After an interruption, examinations are not waited for.
         const bool isWaiting = m_examining > 0 || !m_ready.empty() || m_next < m_items.size();
         if (m_running.empty() && (m_isStopped || !isWaiting))
             m_loop.quit();
@@ -135,6 +135,8 @@ private:
 
     void examine(const ConversionItem &item)
     {
+        if (!item.input.refusal.isDone())
+            return settle(item, item.input.refusal);
         if (!item.input.isFound) {
             if (const auto refusal = refusalOfDestination(item))
                 return settle(item, *refusal);
@@ -168,7 +170,11 @@ private:
             if (const auto refusal = refusalOfDestination(item))
                 return settle(item, *refusal);
         }
-        const Video video{ &item, info, m_line.overwrite };
+        // Whatever else bears a result's name may be dear to the user.
+        const OlderFile olderFile = m_line.skipExisting ? OlderFile::SetAside
+            : m_line.overwrite                          ? OlderFile::Replaced
+                                                        : OlderFile::Kept;
+        const Video video{ &item, info, olderFile };
         if (m_line.skipExisting && QFileInfo::exists(item.destPath))
             checkExisting(video);
         else
@@ -196,7 +202,7 @@ private:
                     ++m_sum.skipped;
                     m_reporter.skipped(*video.item);
                 } else {
-                    m_ready.push_back({ video.item, video.info, true });
+                    m_ready.push_back(video);
                 }
                 goOn();
             });
@@ -207,8 +213,7 @@ private:
     {
         m_reporter.started(*video.item);
         video.clock.start();
-        video.progress = Conversion::start(jobOf(video),
-            video.replaces ? OlderFile::Replaced : OlderFile::Kept, [](const auto &) {});
+        video.progress = Conversion::start(jobOf(video), video.olderFile, [](const auto &) {});
         video.progress->setEndHandler(
             [this, item = video.item] { MainQueue::post([this, item] { hasEnded(*item); }); });
         m_running.emplace(video.item, std::move(video));
@@ -224,7 +229,7 @@ private:
                 .elapsed = std::chrono::milliseconds(video.clock.elapsed()) };
             sample.left = video.steadyTime.shown(sample.secondsLeft());
             fraction += video.progress->fractionCompleted();
-            samples.push_back({ *item, sample, video.told });
+            samples.push_back({ *item, sample, video.lastReported });
         }
         // What was skipped took no time and says nothing about the rest.
         constexpr qint64 parts = 1000;
@@ -331,7 +336,5 @@ ExitCode convertVideos(const CommandLine &line, Interruption &interruption)
     const Inputs inputs = inputsOf(line);
     if (!inputs.refusal.isDone())
         return refused(inputs.refusedName, inputs.refusal);
-    if (inputs.videos.empty())
-        return ExitCode::Done;
     return Batch(line, conversionItems(line, inputs.videos), *reporter).run(interruption);
 }

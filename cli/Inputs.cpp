@@ -8,18 +8,21 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QMimeDatabase>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtEndian>
 
 #include <algorithm>
+#include <filesystem>
 #include <numeric>
 #include <set>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -33,6 +36,22 @@ QString uniquePath(const QString &base, const QString &ext, QSet<QString> &taken
         path = base + u' ' + QString::number(number) + u'.' + ext;
     taken.insert(path.toCaseFolded());
     return path;
+}
+
+/// With a slash at its end.
+QString identityOfFolder(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return absolutePath((canonical.isEmpty() ? path : canonical) + u'/');
+}
+
+Input named(const QString &name)
+{
+    const QString path = absolutePath(name);
+    return { .name = name,
+        .path = path,
+        .identity = identityOfFolder(Path::stringByDeletingLastPathComponent(path))
+            + Path::lastPathComponent(path) };
 }
 
 /// The same on every machine, whatever else is in the list.
@@ -54,28 +73,37 @@ void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
         sources, [&](const Input &input) { return Path::pathExtension(input.path) == extension; });
     // Results of the other parts of a divided list are results too.
     line.shard = {};
+    line.folder = identityOfFolder(line.folder);
     QSet<QString> results;
     for (const ConversionItem &item : conversionItems(line, sources))
         results << item.destPath;
-    std::erase_if(inputs, [&](const Input &input) { return results.contains(input.path); });
+    std::erase_if(inputs, [&](const Input &input) { return results.contains(input.identity); });
 }
 
 std::vector<Input> inputsIn(const CommandLine &line)
 {
-    const QString root = absolutePath(line.tree + u'/');
-    const QString results = absolutePath(line.folder + u'/');
+    const QString root = identityOfFolder(line.tree);
+    const QString results = identityOfFolder(line.folder);
     std::vector<Input> inputs;
+    std::error_code error;
     // Links to folders are not followed: they may lead in a circle.
-    for (QDirIterator files(line.tree, QDir::Files, QDirIterator::Subdirectories);
-         files.hasNext();) {
-        const QString name = files.next();
-        const QString path = absolutePath(name);
-        const bool isResult = results.size() > root.size() && path.startsWith(results);
-        if (!isResult)
-            inputs.push_back({ .name = name, .path = path, .isFound = true });
+    for (fs::recursive_directory_iterator files(QFile::encodeName(line.tree).constData(), error);
+         files != fs::end(files); files.increment(error)) {
+        Input input = named(QFile::decodeName(files->path().c_str()));
+        const bool isHidden = Path::lastPathComponent(input.path).startsWith(u'.');
+        const bool isResult = results.size() > root.size() && input.identity.startsWith(results);
+        const bool isFolder = files->is_directory(error) && !files->is_symlink(error);
+        const bool isClosed = isFolder && ::access(files->path().c_str(), R_OK | X_OK) != 0;
+        if (isFolder && (isHidden || isClosed))
+            files.disable_recursion_pending();
+        input.isFound = true;
+        if (isClosed)
+            input.refusal = { Reason::TreeNotReadable };
+        if (!isHidden && !isResult && (isClosed || files->is_regular_file(error)))
+            inputs.push_back(input);
     }
     dropEarlierResults(inputs, line);
-    std::ranges::sort(inputs, {}, &Input::path);
+    std::ranges::sort(inputs, {}, &Input::identity);
     return inputs;
 }
 
@@ -95,7 +123,7 @@ Inputs inputsOf(const CommandLine &line)
     }
     std::vector<Input> inputs;
     for (const QString &name : names)
-        inputs.push_back({ .name = name, .path = absolutePath(name) });
+        inputs.push_back(named(name));
     if (!line.tree.isEmpty()) {
         const QDir tree(line.tree);
         if (!tree.exists() || !tree.isReadable())
@@ -104,7 +132,7 @@ Inputs inputsOf(const CommandLine &line)
         inputs.insert(inputs.end(), found.begin(), found.end());
     }
     std::set<QString> known;
-    std::erase_if(inputs, [&](const Input &input) { return !known.insert(input.path).second; });
+    std::erase_if(inputs, [&](const Input &input) { return !known.insert(input.identity).second; });
     return { .videos = inputs };
 }
 
@@ -118,18 +146,18 @@ std::vector<ConversionItem> conversionItems(
     // Of what a folder holds, videos come before the pictures and notes that bear their names.
     std::ranges::sort(order, {}, [&](std::size_t index) {
         const Input &input = inputs[index];
-        return std::pair(input.isFound && !isCalledMedia(input.name), input.path);
+        return std::pair(input.isFound && !isCalledMedia(input.name), input.identity);
     });
     const QString ext = extensionOf(line.entries.front());
     const QString folder = absolutePath(line.folder + u'/');
-    const QString root = absolutePath(line.tree + u'/');
+    const QString root = identityOfFolder(line.tree);
     QSet<QString> taken;
     std::vector<ConversionItem> items(inputs.size());
     for (const std::size_t index : order) {
         const Input &input = inputs[index];
         // What was found keeps its place in the tree.
-        const QString name
-            = input.isFound ? input.path.sliced(root.size()) : Path::lastPathComponent(input.path);
+        const QString name = input.isFound ? input.identity.sliced(root.size())
+                                           : Path::lastPathComponent(input.path);
         items[index]
             = { input, uniquePath(folder + Path::stringByDeletingPathExtension(name), ext, taken) };
     }

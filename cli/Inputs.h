@@ -12,8 +12,12 @@ struct Input {
     QString name;
     /// Absolute.
     QString path;
-    /// Found, not named: what is no video is left out without a word.
+    /// Absolute, through no link and no "..": the same however the file is spelled.
+    QString identity = {};
+    /// Found, not named: what is no video is left out silently.
     bool isFound = false;
+    /// Of a folder that was found and can't be read.
+    Outcome refusal = {};
 };
 
 struct ConversionItem {
@@ -33,9 +37,9 @@ struct Inputs {
 [[nodiscard]] Inputs inputsOf(const CommandLine &line);
 
 /// The inputs with their destinations, in the inputs' order. In a folder each result gets its
-/// input's name with the output's extension, and a number where two bear the same name. Who gets
-/// which number depends on the set of inputs alone, not on their order. Of a divided list only this
-/// part is given.
+/// input's name with the output's extension, and a number where two bear the same name. Which one
+/// gets which number depends on the set of inputs alone, not on their order. Of a divided list only
+/// this part is given.
 [[nodiscard]] std::vector<ConversionItem> conversionItems(
     const CommandLine &line, const std::vector<Input> &inputs);
 

@@ -47,18 +47,23 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             words.prepend(toolPath(Tool::Ffmpeg));
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
-        Output::line(Text::shellQuoted(words));
+        // The tool would read the lines after its own, where many are pasted.
+        const bool isOneOfMany = !line.folder.isEmpty();
+        Output::line(Text::shellQuoted(words) + (isOneOfMany ? u" </dev/null"_s : QString()));
     }
     if (line.json)
-        Output::json(QJsonDocument(object), QJsonDocument::Indented);
+        Output::json(QJsonDocument(object),
+            line.folder.isEmpty() ? QJsonDocument::Indented : QJsonDocument::Compact);
 }
 
 ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption &interruption)
 {
+    if (!item.input.refusal.isDone())
+        return Output::failure(item.input.name, item.input.refusal);
     if (const auto refusal
         = sourceRefusal({ .path = item.destPath, .sources = { item.input.path } }))
         return Output::failure(item.destPath, *refusal);
-    // What lies beside the videos of a folder is left out without a word.
+    // What lies beside the videos of a folder is left out silently.
     const VideoDescription video = examined(item.input.path, Cover::LeftOut, interruption);
     if (item.input.isFound && kindOf(video.refusal) == OutcomeKind::InputRefused)
         return ExitCode::Done;

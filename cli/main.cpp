@@ -69,8 +69,12 @@ int main(int argc, char *argv[])
         Output::showDiagnostics();
     if (const QString destination = line.output + line.folder;
         destination.contains(QChar::ReplacementCharacter)
-        && !std::all_of(argv, argv + argc, isText))
-        return exitStatus(Output::failure(destination, { Reason::DestinationNameNotText }));
+        && !std::all_of(argv, argv + argc, isText)) {
+        const Outcome refusal{ Reason::DestinationNameNotText };
+        if (line.verb == Verb::Convert && line.json)
+            jsonReporter()->refused(destination, refusal);
+        return exitStatus(Output::failure(destination, refusal));
+    }
     Async::background(StagedList::removeAbandoned);
     Interruption interruption;
     const ExitCode code = commands.at(static_cast<std::size_t>(line.verb))(line, interruption);

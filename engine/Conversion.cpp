@@ -31,7 +31,7 @@ qint64 probedLength(const ConversionJob &job)
 // One conversion: its tries, and what they came to.
 struct Tries {
     ConversionJob wanted;
-    bool overwrite;
+    OlderFile olderFile;
     std::shared_ptr<Progress> progress;
     QByteArray output = {};
 
@@ -39,8 +39,9 @@ struct Tries {
     {
         // Where the user keeps a link, what it leads to is replaced.
         wanted.destPath = linkTarget(wanted.destPath);
-        if (const auto refusal = refusalOf(
-                { .path = wanted.destPath, .sources = { wanted.path }, .overwrite = overwrite }))
+        if (const auto refusal = refusalOf({ .path = wanted.destPath,
+                .sources = { wanted.path },
+                .overwrite = olderFile != OlderFile::Kept }))
             return *refusal;
         StagedFile staged(wanted.destPath);
         ConversionJob job = wanted;
@@ -130,8 +131,9 @@ struct Tries {
             return outcome;
         if (progress->isCancelled())
             return { Reason::Cancelled };
-        const auto refusal
-            = staged.moveIntoPlace(overwrite, outcome.isDone() ? nullptr : &outcome.olderPath);
+        const bool isReplaced = outcome.isDone() && olderFile == OlderFile::Replaced;
+        const auto refusal = staged.moveIntoPlace(
+            olderFile != OlderFile::Kept, isReplaced ? nullptr : &outcome.olderPath);
         return refusal ? *refusal : outcome;
     }
 };
@@ -145,7 +147,7 @@ std::shared_ptr<Progress> Conversion::start(
     progress->setKind(Progress::Kind::File);
     Async::background(
         [job = std::move(job), olderFile, progress, errorHandler = std::move(errorHandler)] {
-            Tries tries{ job, olderFile == OlderFile::Replaced, progress };
+            Tries tries{ job, olderFile, progress };
             const Outcome outcome = tries.converted();
             progress->setOutcome(outcome, tries.output);
             const OutcomeKind kind = kindOf(outcome);

@@ -3,8 +3,8 @@
 
 #include "engine/ConversionRun.h"
 
-/// Whether a job may replace a file at its destination.
-enum class OlderFile { Kept, Replaced };
+/// What a whole result does to a file at its destination: refuse, rename it, or replace it.
+enum class OlderFile { Kept, SetAside, Replaced };
 
 /// One job of the user: checks the destination, stages the result, runs the tool once or twice,
 /// looks at the result where it is in doubt, and moves it into place. So a job ends with a true

@@ -82,16 +82,15 @@ QString keepOlder(const QString &destPath)
     return {};
 }
 
-bool haveSameBytes(const QString &path, const QString &otherPath)
+bool beginsWith(const QString &path, const QString &olderPath)
 {
     QFile file(path);
-    QFile other(otherPath);
-    if (file.size() != other.size() || !file.open(QIODevice::ReadOnly)
-        || !other.open(QIODevice::ReadOnly))
+    QFile older(olderPath);
+    if (!file.open(QIODevice::ReadOnly) || !older.open(QIODevice::ReadOnly))
         return false;
     constexpr qint64 piece = 1 << 20;
-    while (!file.atEnd()) {
-        if (file.read(piece) != other.read(piece))
+    while (!older.atEnd()) {
+        if (!file.read(piece).startsWith(older.read(piece)))
             return false;
     }
     return true;
@@ -159,8 +158,9 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     ::fchmod(m_file, older.st_mode & 0777);
     if (::fsync(m_file) != 0)
         return refusalFor(errno);
-    // A cut video gives the same cut result at each try.
-    if (keptPath && haveSameBytes(m_path, m_destPath))
+    // A cut video gives the same cut result at each try, and a cut copy is the whole one's
+    // beginning.
+    if (keptPath && beginsWith(m_path, m_destPath))
         keptPath = nullptr;
     if (keptPath && (*keptPath = keepOlder(m_destPath)).isEmpty())
         return Outcome{ Reason::DestinationNotWritable };

@@ -97,7 +97,8 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
             QT_TRANSLATE_NOOP3("Localizable",
                 "The result can't go to standard output; name a file.",
                 "Command line: wrong usage") },
-        Check{ isConvert && (count > 1 || line.hasList()) && line.folder.isEmpty(),
+        Check{ isConvert && (count > 1 || line.hasList() || line.shard.parts > 1)
+                && line.folder.isEmpty(),
             QT_TRANSLATE_NOOP3("Localizable",
                 "Several videos can't go to one output file; use --folder.",
                 "Command line: wrong usage") },

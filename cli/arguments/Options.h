@@ -30,7 +30,8 @@ inline constexpr std::array verbRows{
             "Help: command probe") },
     VerbRow{ Verb::Plan, QLatin1StringView("plan"),
         QLatin1StringView(
-            "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]"),
+            "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]\n"
+            "plan --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [--json]"),
         QT_TRANSLATE_NOOP3("Localizable",
             "Prints the tool's command line, quoted for a shell, without running it. --to all "
             "prints one for each output.",

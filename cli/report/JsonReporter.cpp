@@ -73,8 +73,8 @@ public:
     void progressed(const std::vector<RunningSample> &running, const BatchSum & /*sum*/,
         const ProgressSample & /*whole*/) override
     {
-        for (const auto &[item, sample, told] : running) {
-            if (std::exchange(told, sample.completed) == sample.completed)
+        for (const auto &[item, sample, lastReported] : running) {
+            if (std::exchange(lastReported, sample.completed) == sample.completed)
                 continue;
             print(u"progress"_s, item,
                 { { u"seconds"_s, sample.completed }, { u"total"_s, positiveOrNull(sample.total) },

@@ -20,8 +20,8 @@ struct BatchSum {
 struct RunningSample {
     const ConversionItem &item;
     ProgressSample sample;
-    /// The reporter's own: how far the video was when that was last told, -1 before.
-    qint64 &told;
+    /// The reporter's own: how far the video was at the last report, -1 before.
+    qint64 &lastReported;
 };
 
 struct ConvertedVideo {

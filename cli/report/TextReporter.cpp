@@ -17,7 +17,7 @@ void printStep(const RunningSample &running)
     const ProgressSample &sample = running.sample;
     const std::optional<int> percent = sample.percent();
     const qint64 step = percent ? *percent / 10 : sample.elapsed / 10s;
-    if (std::max<qint64>(std::exchange(running.told, step), 0) != step)
+    if (std::max<qint64>(std::exchange(running.lastReported, step), 0) != step)
         Output::line(printable(running.item.input.name) + u": "_s + progressText(sample).trimmed());
 }
 

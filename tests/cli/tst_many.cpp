@@ -63,7 +63,8 @@ private Q_SLOTS:
             "cp video.mp4 in/.git/c.mov; cp video.mp4 in/.d.mov; echo text > in/notes.txt;"
             "ln -s .. in/sub/circle; echo nothing > in/empty.srt; echo x > in/broken.mov;"
             "echo x > in/b.jpg; echo x > in/b.info;"
-            "yes 'Once upon a time.' | head -n 500 > in/tale.txt"_s);
+            "yes 'Once upon a time.' | head -n 500 > in/tale.txt;"
+            "touch in/sub/$(printf 'n\\377')"_s);
     }
 
     void tree_isConvertedOnce()
@@ -71,8 +72,9 @@ private Q_SLOTS:
         const QString line = u"convert --to mkv -r in -d out -j 2 --json"_s;
         QCOMPARE(ends(eventsOf(line)),
             (QStringList{ u"converted a.mkv"_s, u"converted b.mkv"_s,
-                u"failed broken.mkv not-media"_s, u"skipped  not-media"_s, u"skipped  not-media"_s,
-                u"skipped  not-media"_s, u"skipped  not-media"_s, u"skipped  too-short"_s }));
+                u"failed broken.mkv not-media"_s, u"failed n\uFFFD.mkv name-not-text"_s,
+                u"skipped  not-media"_s, u"skipped  not-media"_s, u"skipped  not-media"_s,
+                u"skipped  not-media"_s, u"skipped  too-short"_s }));
         QCOMPARE(m_command.run(u"plan --to mkv -r in -d planned"_s).out.count(u'\n'), 2);
         QCOMPARE(m_command.listing().filter(u"out/"_s).filter(u".mkv"_s).size(), 2);
         QVERIFY(QFile::exists(m_command.path(u"out/sub/a.mkv"_s)));
@@ -82,13 +84,15 @@ private Q_SLOTS:
         const qint64 size = QFileInfo(cut).size();
         QVERIFY(QFile::resize(cut, size / 2));
         const QDateTime whole = QFileInfo(m_command.path(u"out/sub/a.mkv"_s)).lastModified();
-        m_command.shell(u"rm in/broken.mov"_s);
+        m_command.shell(u"rm in/broken.mov in/sub/n*"_s);
         QCOMPARE(ends(eventsOf(line + u" --skip-existing"_s)).filter(u"mkv"_s),
             (QStringList{ u"converted b.mkv"_s, u"skipped a.mkv whole-result-exists"_s }));
         QCOMPARE(QFileInfo(cut).size(), size);
         QCOMPARE(QFileInfo(m_command.path(u"out/sub/a.mkv"_s)).lastModified(), whole);
-        m_command.shell(u"touch -d '1 hour' in/b.mov"_s);
+        // What may be no result of ours is kept beside the new one.
+        m_command.shell(u"touch -d '1 hour' in/b.mov; rm out/*earlier*; echo diary > out/b.mkv"_s);
         QVERIFY(ends(eventsOf(line + u" --skip-existing"_s)).contains(u"converted b.mkv"_s));
+        QCOMPARE(m_command.shell(u"cat 'out/b (earlier).mkv'"_s), u"diary\n"_s);
 
         m_command.shell(u"touch in/b.mov"_s);
         QCOMPARE(m_command.run(u"convert --to mkv -r in -d in -j 2"_s).exitCode, 0);
@@ -112,10 +116,11 @@ private Q_SLOTS:
         parts.sort();
         QCOMPARE(parts.join(u'|').remove(u"converted "_s),
             u"v 2.mkv|v 3.mkv|v 4.mkv|v 5.mkv|v 6.mkv|v.mkv"_s);
-        const QString plan = m_command.run(u"plan --to mkv n1/v.mov n3/v.mov -d o"_s).out;
+        const QString plan
+            = m_command.run(u"plan --to mkv n3/../n3/v.mov n3/v.mov n2/../n1/v.mov -d o"_s).out;
         QCOMPARE(plan.count(u'\n'), 2);
-        QVERIFY2(
-            plan.contains(u"/n3/v.mov"_s) && plan.contains(u"/o/v 2.mkv'\n"_s), qPrintable(plan));
+        QVERIFY2(plan.contains(u"/n3/v.mov"_s) && plan.contains(u"/o/v 2.mkv' </dev/null\n"_s),
+            qPrintable(plan));
     }
 
     void failure_touchesNoOther()
