@@ -35,7 +35,7 @@ struct Tries {
     std::shared_ptr<Progress> progress;
     QByteArray output = {};
 
-    [[nodiscard]] Outcome converted()
+    [[nodiscard]] Outcome convert()
     {
         // Where the user keeps a link, what it leads to is replaced.
         wanted.destPath = linkTarget(wanted.destPath);
@@ -45,7 +45,7 @@ struct Tries {
             return *refusal;
         StagedFile staged(wanted.destPath);
         ConversionJob job = wanted;
-        Outcome outcome = tried(job, staged);
+        Outcome outcome = tryOnce(job, staged);
         QList<Remedy> remedies;
         // Music may come with a cover and with a sample rate that the output can't hold: one more
         // try for each cause.
@@ -55,23 +55,23 @@ struct Tries {
             remedies << remedy;
             progress->setRemedy(remedy);
             job = remedied(job, remedy);
-            outcome = tried(job, staged);
+            outcome = tryOnce(job, staged);
         }
         outcome.remedies = remedies;
-        return placed(staged, outcome);
+        return place(staged, outcome);
     }
 
-    [[nodiscard]] Outcome tried(const ConversionJob &job, StagedFile &staged)
+    [[nodiscard]] Outcome tryOnce(const ConversionJob &job, StagedFile &staged)
     {
         if (const auto refusal = staged.create())
             return *refusal;
         ConversionJob stagedJob = job;
         stagedJob.destPath = staged.path();
-        const Outcome run = ran(stagedJob);
-        return isGood(run) ? verdictOn(stagedJob, run) : run;
+        const Outcome outcome = runTool(stagedJob);
+        return isGood(outcome) ? verdictOn(stagedJob, outcome) : outcome;
     }
 
-    [[nodiscard]] Outcome ran(const ConversionJob &job)
+    [[nodiscard]] Outcome runTool(const ConversionJob &job)
     {
         const auto ended = std::make_shared<std::binary_semaphore>(0);
         const std::shared_ptr<Progress> run = FFMPEG::convertFile(
@@ -125,7 +125,7 @@ struct Tries {
         return outcome;
     }
 
-    [[nodiscard]] Outcome placed(StagedFile &staged, Outcome outcome) const
+    [[nodiscard]] Outcome place(StagedFile &staged, Outcome outcome) const
     {
         if (!isGood(outcome))
             return outcome;
@@ -148,7 +148,7 @@ std::shared_ptr<Progress> Conversion::start(
     Async::background(
         [job = std::move(job), olderFile, progress, errorHandler = std::move(errorHandler)] {
             Tries tries{ job, olderFile, progress };
-            const Outcome outcome = tries.converted();
+            const Outcome outcome = tries.convert();
             progress->setOutcome(outcome, tries.output);
             const OutcomeKind kind = kindOf(outcome);
             if (kind == OutcomeKind::ToolMissing)

@@ -104,6 +104,6 @@ struct Outcome {
 [[nodiscard]] bool mayBeTheVideos(const Outcome &failure);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);
-/// What else is to be said of a result: a second try, damage of the source, an older file that was
+/// What else is to be said of a result: further tries, damage of the source, an older file that was
 /// kept.
 [[nodiscard]] QStringList remarksOn(const Outcome &outcome);

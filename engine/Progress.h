@@ -54,7 +54,7 @@ public:
     void end() { fire(m_end); }
     /// Runs at the end on the run's thread, or at once when the run has ended already.
     void setEndHandler(std::function<void()> handler) { setHandler(m_end, std::move(handler)); }
-    /// What a second try does differently while it runs.
+    /// What a further try does differently while it runs.
     [[nodiscard]] Remedy remedy() const { return read(m_remedy); }
     void setRemedy(Remedy remedy) { write(m_remedy, remedy); }
     /// How the run ended; set before its end is marked or an error is reported.

@@ -91,7 +91,7 @@ void makeSizeEven(ConversionJob &job)
         = VideoDimensionsConstraints::maximum({ .width = even, .height = even });
 }
 
-void makeRateUsual(ConversionJob &job)
+void encodeSoundSafely(ConversionJob &job)
 {
     hideCodec(job, u"audio"_s);
     editStreams(job, [](QJsonObject &stream, qsizetype) {
@@ -129,7 +129,8 @@ ConversionJob remedied(ConversionJob job, Remedy remedy)
 {
     // In the order of the remedies.
     constexpr std::array<void (*)(ConversionJob &), 5> edits{ [](ConversionJob &) {}, leaveCoverOut,
-        makeSizeEven, makeRateUsual, [](ConversionJob &edited) { hideCodec(edited, u"video"_s); } };
+        makeSizeEven, encodeSoundSafely,
+        [](ConversionJob &edited) { hideCodec(edited, u"video"_s); } };
     edits.at(static_cast<std::size_t>(remedy))(job);
     return job;
 }

@@ -16,7 +16,7 @@ public:
     ~StagedFile();
     Q_DISABLE_COPY_MOVE(StagedFile)
 
-    /// Makes the file anew, empty. Errors: why nothing can be written there.
+    /// Creates an empty file in place of an earlier one. Errors: why nothing can be written there.
     [[nodiscard]] std::optional<Outcome> create();
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it

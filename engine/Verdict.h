@@ -32,7 +32,7 @@ struct Lengths {
 /// What a result has to hold, as the source declares it; 0 where it does not say how long. Thread:
 /// any.
 [[nodiscard]] Lengths expectedOf(const ConversionJob &job);
-/// The stream that is to be the result's picture is a cover although there is a moving one.
+/// The plan takes a cover for the picture although there is a moving one.
 [[nodiscard]] bool takesCoverForPicture(const ConversionJob &job);
 
 /// What a few bytes of a source say of the rest. Thread: any.

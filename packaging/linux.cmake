@@ -89,14 +89,10 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)
 
-# What the desktop reads is checked with the desktop's own tools, where they are installed.
+# What the desktop reads is checked with the desktop's own tools.
 if(BUILD_TESTING)
-    find_program(DESKTOP_FILE_VALIDATE desktop-file-validate)
-    find_program(APPSTREAMCLI appstreamcli)
-    if(DESKTOP_FILE_VALIDATE)
-        add_test(NAME desktop_file COMMAND ${DESKTOP_FILE_VALIDATE} ${CMAKE_CURRENT_SOURCE_DIR}/${id}.desktop)
-    endif()
-    if(APPSTREAMCLI)
-        add_test(NAME metainfo COMMAND ${APPSTREAMCLI} validate --no-net ${CMAKE_CURRENT_SOURCE_DIR}/${id}.metainfo.xml)
-    endif()
+    find_program(DESKTOP_FILE_VALIDATE desktop-file-validate REQUIRED)
+    find_program(APPSTREAMCLI appstreamcli REQUIRED)
+    add_test(NAME desktop_file COMMAND ${DESKTOP_FILE_VALIDATE} ${CMAKE_CURRENT_SOURCE_DIR}/${id}.desktop)
+    add_test(NAME metainfo COMMAND ${APPSTREAMCLI} validate --no-net ${CMAKE_CURRENT_SOURCE_DIR}/${id}.metainfo.xml)
 endif()

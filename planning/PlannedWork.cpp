@@ -67,7 +67,7 @@ PlannedWork plannedWork(const VideoConstraints &entry, const JSON &conversionInf
 
 std::optional<qint64> expectedSize(const VideoConstraints &entry, const JSON &conversionInfo)
 {
-    // Of the MP3 encoder when it is told none, for each of two channels at the usual rates.
+    // The MP3 encoder's default, for each of two channels at the usual rates.
     constexpr double mp3BitRate = 64000;
     const PlannedWork work = plannedWork(entry, conversionInfo);
     const JSON format = conversionInfo[u"format"_s];

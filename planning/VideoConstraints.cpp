@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whose title an entry bears in the menu: its own English name, or a translated one.
+/// Where an entry's title in the menu comes from: its own English name, or a translated one.
 enum class Title { Name, Audio, Mp4LowQ, Mp4MedQ };
 
 struct EntryRow {
