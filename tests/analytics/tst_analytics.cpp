@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "LoopbackServer.h"
 #include "analytics/Analytics.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
-#include "tests/analytics/Collector.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -28,7 +28,7 @@ private:
         return m_collector->requests.at(place).hit().value(name);
     }
 
-    std::unique_ptr<Collector> m_collector;
+    std::unique_ptr<LoopbackServer> m_collector;
     QStringList m_lines;
 
 private Q_SLOTS:
@@ -41,9 +41,9 @@ private Q_SLOTS:
     {
         Defaults::remove(u"GA"_s);
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Austria));
-        m_collector = std::make_unique<Collector>();
+        m_collector = std::make_unique<LoopbackServer>();
         m_lines.clear();
-        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", m_collector->url().toUtf8());
+        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", m_collector->address({}).toUtf8());
     }
 
     // The first test: the program starts its analytics once.
@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(!Defaults::value(u"GA"_s).isValid());
 
-        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", m_collector->url().toUtf8());
+        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", m_collector->address({}).toUtf8());
         sendEvent(u"wanted"_s);
         QTRY_COMPARE(m_collector->requests.size(), 1);
         QCOMPARE(told(u"ea"_s), u"wanted"_s);
@@ -106,9 +106,9 @@ private Q_SLOTS:
 
     void failure_printsOneLineAndStartsNoConversation()
     {
-        const Collector other;
-        const QByteArray headers
-            = "Set-Cookie: who=you; Path=/\r\nLocation: " + other.url().toUtf8() + "/collect\r\n";
+        const LoopbackServer other;
+        const QByteArray headers = "Set-Cookie: who=you; Path=/\r\nLocation: "
+            + other.address({}).toUtf8() + "/collect\r\n";
         for (const QByteArray status : { "307 Moved", "503 Busy", "nil" }) {
             m_collector->answers["/collect"] = { .status = status, .headers = headers };
             if (status == "nil")

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "LoopbackServer.h"
 #include "analytics/Analytics.h"
 #include "support/Preferences.h"
-#include "tests/analytics/Collector.h"
 #include "tests/ui/WindowTest.h"
 #include "ui/widgets/ImageView.h"
 
@@ -67,8 +67,8 @@ private Q_SLOTS:
 
     void usage_isTold()
     {
-        const Collector collector;
-        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", collector.url().toUtf8());
+        const LoopbackServer collector;
+        qputenv("VIDEO_CONVERTER_COLLECTOR_URL", collector.address({}).toUtf8());
         Analytics::start();
         Preferences::setFirstRun(true);
         m_delegate->applicationDidFinishLaunching();
@@ -98,7 +98,7 @@ private Q_SLOTS:
         rows = rows.filter(QRegularExpression(u"^\\| `\\w+` \\| `\\w+` \\|"_s));
         QStringList events;
         QSet<QString> announced;
-        for (const Collector::Request &request : collector.requests) {
+        for (const LoopbackServer::Request &request : collector.requests) {
             const QJsonObject hit = request.hit();
             const QString label = hit[u"el"_s].toVariant().toString();
             const QString category = hit[u"ec"_s].toString();

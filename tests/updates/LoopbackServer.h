@@ -51,7 +51,8 @@ public:
         return std::ranges::find(requests, body, &Request::body) != requests.end();
     }
 
-    QHash<QByteArray, Answer> answers;
+    /// By path; that of the usage events stands.
+    QHash<QByteArray, Answer> answers{ { "/collect", {} } };
     QList<Request> requests;
 
 private:
