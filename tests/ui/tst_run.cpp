@@ -47,6 +47,7 @@ private Q_SLOTS:
         // Files from elsewhere are not lost while a video is converted.
         m_delegate->takeFiles({ path(u"next.mov"_s) });
         QVERIFY(view("keptLabel")->isVisible());
+        m_delegate->takeFiles({ m_video, path(u"next.mov"_s) });
         QCOMPARE(said("keptLabel"), u"Next: “next.mov”"_s);
 
         m_swap.reset();
@@ -56,6 +57,15 @@ private Q_SLOTS:
         QCOMPARE(m_user.read, QStringList({ question, question }));
         QVERIFY(waitFor(State::CoverIsSet));
         QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
+        QVERIFY(open(u"next.mov"_s));
+        QCOMPARE(said("keptLabel"), u"Next: “video.mov”"_s);
+        m_user.whileAnswering = [this] { m_delegate->takeFiles({ path(u"next.mov"_s) }); };
+        choose(u"MKV"_s);
+        QTRY_COMPARE(m_delegate->processingFilePath(), m_video);
+        QTRY_COMPARE(said("keptLabel"), u"Next: “next.mov”"_s);
+        QVERIFY(waitFor(State::CoverIsSet));
+        click("keptLabel");
+        QTRY_COMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
         QVERIFY(!view("keptLabel")->isVisible());
         QTRY_COMPARE(files(), QStringList({ u"next.mov"_s, u"video.mov"_s }));
         QVERIFY(!m_delegate->window()->windowTitle().contains(u'%'));
@@ -73,9 +83,12 @@ private Q_SLOTS:
     void failure_isTold()
     {
         QVERIFY(QFile::rename(m_video, path(u"100%d %@.mov"_s)));
+        m_user.whileAnswering = [this] { m_delegate->takeFiles({ path(u"100%d %@.mov"_s) }); };
         QVERIFY(convert("print:100%d of %@\\n|exit:1", State::InitialState, u"100%d %@.mov"_s));
         QTRY_COMPARE(m_user.read,
             QStringList(u"Error processing 100%d %@.mov\nThe tool failed: 100%d of %@"_s));
+        QTest::qWait(50);
+        QVERIFY(view("keptLabel")->isVisible() && m_delegate->uiState() == State::InitialState);
         QCOMPARE(said("refusalLabel"), u"The tool failed: 100%d of %@"_s);
         click("logLabel");
         auto *log = m_delegate->window()->findChild<QPlainTextEdit *>();
