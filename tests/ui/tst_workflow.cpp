@@ -155,17 +155,25 @@ private Q_SLOTS:
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(QApplication::focusWidget(), view("convertToButton"));
         bool isInSight = false;
-        QTimer::singleShot(0, this, [this, &isInSight] {
+        QStringList found;
+        QTimer::singleShot(0, this, [this, &isInSight, &found] {
             auto *menu = find<QMenu>("formatMenu");
             const QWidget *face = view("convertToButton");
             const QRect place(face->mapToGlobal(QPoint()), face->size());
             isInSight = menu->screen()->geometry().contains(menu->geometry())
                 && !menu->geometry().intersects(place);
-            QTest::keyClicks(menu, u"mp4 4"_s);
+            QTest::keyClicks(menu, u"mm"_s);
+            const QString second = menu->activeAction()->text();
+            QTest::qWait(1100);
+            QTest::keyClicks(menu, u"mp4"_s);
+            const QString whole = menu->activeAction()->text();
+            QTest::keyClicks(menu, u" 4"_s);
+            found = { second, whole, menu->activeAction()->text() };
             QTest::keyClick(menu, Qt::Key_Return);
         });
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QVERIFY(isInSight);
+        QCOMPARE(found, QStringList({ u"MP4"_s, u"MP4"_s, u"MP4 4k"_s }));
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_delegate->resultFilePath(), path(u"by keyboard.mp4"_s));
         QCOMPARE(QApplication::focusWidget(), view("openFolderImageView"));
