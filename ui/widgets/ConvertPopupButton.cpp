@@ -128,21 +128,17 @@ bool ConvertPopupButton::lookUp(const QString &key)
     m_typingEnd.setRemainingTime(std::chrono::seconds(1));
     m_typed += key;
     QList<QAction *> entries = menu()->actions();
-    const auto highlight = [&](const QString &beginning) {
-        const auto found = std::ranges::find_if(entries, [&](const QAction *entry) {
-            return entry->isEnabled() && entry->isVisible()
-                && entry->text().remove(u'&').startsWith(beginning, Qt::CaseInsensitive);
-        });
-        if (found != entries.end())
-            menu()->setActiveAction(*found);
-        return found != entries.end();
-    };
-    if (m_typed.size() > 1 && highlight(m_typed))
-        return true;
-    // The same letter again leads on.
-    std::ranges::rotate(entries, entries.begin() + entries.indexOf(menu()->activeAction()) + 1);
-    if (m_typed.count(key, Qt::CaseInsensitive) * key.size() == m_typed.size())
-        highlight(key);
+    // No entry begins with a letter twice: the same letter again leads on.
+    const bool isRepeated = m_typed.count(key, Qt::CaseInsensitive) == m_typed.size();
+    if (isRepeated)
+        std::ranges::rotate(entries, entries.begin() + entries.indexOf(menu()->activeAction()) + 1);
+    const auto found = std::ranges::find_if(entries, [&](const QAction *entry) {
+        return entry->isEnabled() && entry->isVisible()
+            && entry->text().remove(u'&').startsWith(
+                isRepeated ? key : m_typed, Qt::CaseInsensitive);
+    });
+    if (found != entries.end())
+        menu()->setActiveAction(*found);
     return true;
 }
 

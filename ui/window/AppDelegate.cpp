@@ -112,11 +112,10 @@ void AppDelegate::setUiState(WindowUIState state)
 void AppDelegate::showIntake()
 {
     const QString kept = Path::lastPathComponent(m_intake.keptPath());
-    if (!kept.isEmpty())
-        m_outlets->keptLabel->setText(
-            formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
-                          "name of a video that came while another one is converted"),
-                { kept }));
+    m_outlets->keptLabel->setText(
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                      "name of a video that came while another one is converted"),
+            { kept }));
     m_outlets->keptLabel->setVisible(!kept.isEmpty());
     m_outlets->keptLabel->setEnabled(allowDragDrop(m_outlets->dropAcceptor));
     // A video, a result and a failure stay to be looked at until the user takes the next one.
@@ -242,9 +241,10 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
     m_conversion.stayOpen();
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
-    if (!hasVisibleWindows)
-        m_window.activateWindow();
     m_window.raise();
+    QWidget *sheet = QApplication::activeModalWidget();
+    if (!hasVisibleWindows)
+        (sheet ? sheet : &m_window)->activateWindow();
     return true;
 }
 
@@ -290,10 +290,8 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
 
 void AppDelegate::cancelProgressPressed()
 {
-    if (m_uiState != WindowUIState::WaitingForCover) {
-        m_conversion.cancelIfConfirmed();
-    } else {
-        m_intake.cancel();
-        setUiState(WindowUIState::InitialState);
-    }
+    if (m_uiState != WindowUIState::WaitingForCover)
+        return void(m_conversion.cancelIfConfirmed());
+    m_intake.cancel();
+    setUiState(WindowUIState::InitialState);
 }
