@@ -59,7 +59,12 @@ private Q_SLOTS:
         QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
         QVERIFY(open(u"next.mov"_s));
         QCOMPARE(said("keptLabel"), u"Next: “video.mov”"_s);
-        m_user.whileAnswering = [this] { m_delegate->takeFiles({ path(u"next.mov"_s) }); };
+        m_user.whileAnswering = [this] {
+            m_delegate->applicationShouldHandleReopen(false);
+            m_delegate->takeFiles({ path(u"next.mov"_s) });
+            QTest::qWait(100);
+            QVERIFY(QApplication::activeModalWidget()->isActiveWindow());
+        };
         choose(u"MKV"_s);
         QTRY_COMPARE(m_delegate->processingFilePath(), m_video);
         QTRY_COMPARE(said("keptLabel"), u"Next: “next.mov”"_s);
