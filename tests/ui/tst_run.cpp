@@ -40,6 +40,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
         QVERIFY(convert("reports:3000:20000"));
         QTRY_VERIFY(find<QProgressBar>("progressBar")->value() > 100);
+        QVERIFY(said("workLabel").startsWith(u"MKV · Copying picture and sound · "_s));
         QTRY_VERIFY(m_delegate->window()->windowTitle().contains(u"% – "_s));
         QTest::keyClick(m_delegate->window(), Qt::Key_Escape);
         QCOMPARE(m_user.read, QStringList(question));

@@ -27,7 +27,8 @@ private Q_SLOTS:
         Media::ffmpeg({ u"-i"_s, m_video, u"-c"_s, u"copy"_s, u"-an"_s, path(u"silent.mov"_s) });
         QVERIFY(open(u"silent.mov"_s));
         QVERIFY(!find<QAction>("audioMenuItem")->isEnabled());
-        QCOMPARE(find<QAction>("audioMenuItem")->toolTip(), u"The video has no sound"_s);
+        QCOMPARE(find<QAction>("audioMenuItem")->toolTip().sliced(1).chopped(1),
+            u"The video has no sound"_s);
         QVERIFY(open());
         QCOMPARE(find<QLabel>("movieNameLabel")->text(), u"video.mov"_s);
         QCOMPARE(find<QLabel>("movieDurationLabel")->text(), u"3s"_s);
@@ -40,13 +41,16 @@ private Q_SLOTS:
             { "mKVMenuItem", u"Copies picture and sound, takes seconds"_s },
             { "audioMenuItem", u"Encodes the sound anew"_s },
             { "webMMenuItem", u"Encodes picture and sound anew"_s },
+            { "linuxMenuItem", u"MP4 · Copies picture and sound, takes seconds"_s },
+            { "windowsMenuItem", u"AVI · Encodes picture and sound anew"_s },
         };
         for (const auto &[name, work] : entries) {
             auto *entry = find<QAction>(name);
             auto *menu = QAccessible::queryAccessibleInterface(find<QMenu>("formatMenu"));
             auto *read = menu->child(int(find<QMenu>("formatMenu")->actions().indexOf(entry)));
             QCOMPARE(read->text(QAccessible::Name), entry->text());
-            QCOMPARE(read->text(QAccessible::Description).sliced(1).chopped(1), work);
+            QString description = read->text(QAccessible::Description);
+            QCOMPARE(description.remove(QChar(0x2068)).remove(QChar(0x2069)), work);
             QCOMPARE(entry->icon().isNull(), !work.contains(u"seconds"_s));
             QVERIFY(entry->isEnabled());
         }

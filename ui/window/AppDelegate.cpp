@@ -199,7 +199,10 @@ void AppDelegate::connectWork()
         showIntake();
     });
     connect(&m_conversion, &ConversionFlow::workChanged, m_status.get(),
-        [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
+        [this](const PlannedWork &work) {
+            m_status->setWork(
+                VideoWords::joined({ m_chosenEntry->iconText(), VideoWords::isDoing(work) }));
+        });
     connect(&m_conversion, &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
     connect(&m_conversion, &ConversionFlow::finished, this, [this] {
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
