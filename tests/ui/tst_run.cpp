@@ -86,7 +86,7 @@ private Q_SLOTS:
         QTRY_COMPARE(files(), QStringList{ u"video.mov"_s });
     }
 
-    void failure_isTold()
+    void failure_isSaid()
     {
         QVERIFY(QFile::rename(m_video, path(u"100%d %@.mov"_s)));
         m_user.whileAnswering = [this] { m_delegate->takeFiles({ path(u"100%d %@.mov"_s) }); };
@@ -172,7 +172,7 @@ private Q_SLOTS:
         QCOMPARE(files(), QStringList{ u"video.mov"_s });
     }
 
-    void desktop_isTold()
+    void desktop_isInformed()
     {
         const QVariant request = QVariant::fromValue(QDBusObjectPath(u"/request"_s));
         DesktopStandIn desktop({ fileManager, notifications, portal },

@@ -14,7 +14,7 @@ namespace Ui {
 class MainWindow;
 }
 
-/// Owns the window and its state, and connects its controls with intake, conversion and closing.
+/// Owns the window and its state, and connects its controls with intake and conversion.
 class AppDelegate : public QObject {
     Q_OBJECT
 
