@@ -81,7 +81,7 @@ protected:
     bool waitFor(WindowUIState state, int milliseconds = 20000) const;
     bool open(const QString &name = QStringLiteral("video.mov")) const;
     /// Opens a video and converts it, until the window has this state, with a tool that follows the
-    /// script after it has told of a hundred seconds.
+    /// script after it has reported a hundred seconds.
     bool convert(const QByteArray &script, WindowUIState until = WindowUIState::Converting,
         const QString &name = QStringLiteral("video.mov"));
 

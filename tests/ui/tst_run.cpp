@@ -40,6 +40,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(m_video, path(u"next.mov"_s)));
         QVERIFY(convert("reports:3000:20000"));
         QTRY_VERIFY(find<QProgressBar>("progressBar")->value() > 100);
+        QVERIFY(said("workLabel").startsWith(u"MKV · Copying picture and sound · "_s));
         QTRY_VERIFY(m_delegate->window()->windowTitle().contains(u"% – "_s));
         QTest::keyClick(m_delegate->window(), Qt::Key_Escape);
         QCOMPARE(m_user.read, QStringList(question));
@@ -47,6 +48,7 @@ private Q_SLOTS:
         // Files from elsewhere are not lost while a video is converted.
         m_delegate->takeFiles({ path(u"next.mov"_s) });
         QVERIFY(view("keptLabel")->isVisible());
+        m_delegate->takeFiles({ m_video, path(u"next.mov"_s) });
         QCOMPARE(said("keptLabel"), u"Next: “next.mov”"_s);
 
         m_swap.reset();
@@ -56,6 +58,20 @@ private Q_SLOTS:
         QCOMPARE(m_user.read, QStringList({ question, question }));
         QVERIFY(waitFor(State::CoverIsSet));
         QCOMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
+        QVERIFY(open(u"next.mov"_s));
+        QCOMPARE(said("keptLabel"), u"Next: “video.mov”"_s);
+        m_user.whileAnswering = [this] {
+            m_delegate->applicationShouldHandleReopen(false);
+            m_delegate->takeFiles({ path(u"next.mov"_s) });
+            QTest::qWait(100);
+            QVERIFY(QApplication::activeModalWidget()->isActiveWindow());
+        };
+        choose(u"MKV"_s);
+        QTRY_COMPARE(m_delegate->processingFilePath(), m_video);
+        QTRY_COMPARE(said("keptLabel"), u"Next: “next.mov”"_s);
+        QVERIFY(waitFor(State::CoverIsSet));
+        click("keptLabel");
+        QTRY_COMPARE(m_delegate->processingFilePath(), path(u"next.mov"_s));
         QVERIFY(!view("keptLabel")->isVisible());
         QTRY_COMPARE(files(), QStringList({ u"next.mov"_s, u"video.mov"_s }));
         QVERIFY(!m_delegate->window()->windowTitle().contains(u'%'));
@@ -70,12 +86,15 @@ private Q_SLOTS:
         QTRY_COMPARE(files(), QStringList{ u"video.mov"_s });
     }
 
-    void failure_isTold()
+    void failure_isSaid()
     {
         QVERIFY(QFile::rename(m_video, path(u"100%d %@.mov"_s)));
+        m_user.whileAnswering = [this] { m_delegate->takeFiles({ path(u"100%d %@.mov"_s) }); };
         QVERIFY(convert("print:100%d of %@\\n|exit:1", State::InitialState, u"100%d %@.mov"_s));
         QTRY_COMPARE(m_user.read,
             QStringList(u"Error processing 100%d %@.mov\nThe tool failed: 100%d of %@"_s));
+        QTest::qWait(50);
+        QVERIFY(view("keptLabel")->isVisible() && m_delegate->uiState() == State::InitialState);
         QCOMPARE(said("refusalLabel"), u"The tool failed: 100%d of %@"_s);
         click("logLabel");
         auto *log = m_delegate->window()->findChild<QPlainTextEdit *>();
@@ -153,7 +172,7 @@ private Q_SLOTS:
         QCOMPARE(files(), QStringList{ u"video.mov"_s });
     }
 
-    void desktop_isTold()
+    void desktop_isInformed()
     {
         const QVariant request = QVariant::fromValue(QDBusObjectPath(u"/request"_s));
         DesktopStandIn desktop({ fileManager, notifications, portal },

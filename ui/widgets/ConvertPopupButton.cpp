@@ -4,9 +4,9 @@
 #include "support/Localized.h"
 #include "ui/widgets/Clickable.h"
 
-#include <QEvent>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QProxyStyle>
@@ -14,17 +14,17 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-/// Long menus scroll instead of taking columns, and typing leads to an entry.
+/// Long menus scroll instead of taking columns.
 class MenuStyle : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
         QStyleHintReturn *data) const override
     {
-        if (hint == SH_Menu_Scrollable || hint == SH_Menu_KeyboardSearch)
-            return 1;
-        return QProxyStyle::styleHint(hint, option, widget, data);
+        return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
     }
     int pixelMetric(
         PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
@@ -112,7 +112,34 @@ bool ConvertPopupButton::eventFilter(QObject *watched, QEvent *event)
         menu()->setGeometry(m_menuPlace);
         menu()->setActiveAction(menu()->defaultAction());
     }
+    if (watched == menu() && event->type() == QEvent::KeyPress
+        && lookUp(static_cast<QKeyEvent *>(event)->text()))
+        return true;
     return QPushButton::eventFilter(watched, event);
+}
+
+bool ConvertPopupButton::lookUp(const QString &key)
+{
+    if (m_typingEnd.hasExpired())
+        m_typed.clear();
+    // A space at the beginning chooses what is highlighted.
+    if (key.isEmpty() || !key.front().isPrint() || (m_typed.isEmpty() && key == " "_L1))
+        return false;
+    m_typingEnd.setRemainingTime(std::chrono::seconds(1));
+    m_typed += key;
+    QList<QAction *> entries = menu()->actions();
+    // No entry begins with a letter twice: the same letter again leads on.
+    const bool isRepeated = m_typed.count(key, Qt::CaseInsensitive) == m_typed.size();
+    if (isRepeated)
+        std::ranges::rotate(entries, entries.begin() + entries.indexOf(menu()->activeAction()) + 1);
+    const auto found = std::ranges::find_if(entries, [&](const QAction *entry) {
+        return entry->isEnabled() && entry->isVisible()
+            && entry->text().remove(u'&').startsWith(
+                isRepeated ? key : m_typed, Qt::CaseInsensitive);
+    });
+    if (found != entries.end())
+        menu()->setActiveAction(*found);
+    return true;
 }
 
 QSize ConvertPopupButton::sizeHint() const

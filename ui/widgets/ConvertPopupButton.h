@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QFont>
 #include <QPushButton>
 #include <QRectF>
@@ -46,9 +47,13 @@ protected:
 
 private:
     void openMenu();
+    /// Highlights the entry that begins with what is typed. False for a key that types nothing.
+    [[nodiscard]] bool lookUp(const QString &key);
     [[nodiscard]] QColor faceColor() const;
     void paintIndicator(QPainter &painter);
 
     ConvertPopupButtonCell m_cell;
     QRect m_menuPlace;
+    QString m_typed;
+    QDeadlineTimer m_typingEnd;
 };

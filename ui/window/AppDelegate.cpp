@@ -52,8 +52,9 @@ void dress(const Ui::MainWindow &outlets, int line)
         dimmed->setForegroundRole(QPalette::PlaceholderText);
     for (QPushButton *button : { outlets.startOverButton, outlets.openResultButton })
         button->setMinimumSize(button->sizeHint() + QSize(line, line / 2));
-    for (TextField *link : { outlets.openFromFolderLabel, outlets.againLabel,
-             outlets.anotherFormatLabel, outlets.logLabel, outlets.copyCommandLabel }) {
+    for (TextField *link :
+        { outlets.openFromFolderLabel, outlets.againLabel, outlets.anotherFormatLabel,
+            outlets.logLabel, outlets.copyCommandLabel, outlets.keptLabel }) {
         link->setForegroundRole(QPalette::Link);
         // Room for the ring around the text.
         link->setContentsMargins(line / 3, 0, line / 3, 0);
@@ -111,14 +112,14 @@ void AppDelegate::setUiState(WindowUIState state)
 void AppDelegate::showIntake()
 {
     const QString kept = Path::lastPathComponent(m_intake.keptPath());
-    if (!kept.isEmpty())
-        m_outlets->keptLabel->setText(
-            formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
-                          "name of a video that came while another one is converted"),
-                { kept }));
-    m_outlets->keptLabel->setVisible(!kept.isEmpty() && m_uiState >= WindowUIState::Converting);
-    // A result stays to be looked at until the user starts over.
-    if (!kept.isEmpty() && m_uiState != WindowUIState::ConversionIsDone)
+    m_outlets->keptLabel->setText(
+        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                      "name of a video that came while another one is converted"),
+            { kept }));
+    m_outlets->keptLabel->setVisible(!kept.isEmpty());
+    m_outlets->keptLabel->setEnabled(allowDragDrop(m_outlets->dropAcceptor));
+    // A video, a result and a failure stay to be looked at until the user takes the next one.
+    if (m_uiState == WindowUIState::InitialState && m_outlets->refusalLabel->text().isEmpty())
         QMetaObject::invokeMethod(&m_intake, &FileIntake::takeKept, Qt::QueuedConnection);
 }
 
@@ -162,6 +163,7 @@ void AppDelegate::connectControls()
     outlets.quitAction->setShortcuts({ outlets.quitAction->shortcut(), QKeySequence::Close });
     outlets.convertToButton->setMenu(outlets.formatMenu);
     connect(outlets.formatMenu, &QMenu::triggered, this, &AppDelegate::rawFormatMenuItemPressed);
+    connect(outlets.keptLabel, &TextField::clicked, &m_intake, &FileIntake::takeKept);
     connect(outlets.dropAcceptor, &DropBox::performDragOperation, &m_intake,
         &FileIntake::performDragOperation);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
@@ -184,6 +186,8 @@ void AppDelegate::connectWork()
     connect(&m_intake, &FileIntake::kept, this, [this] {
         showIntake();
         m_announcement->say(m_outlets->keptLabel);
+        if (m_uiState == WindowUIState::CoverIsSet)
+            m_intake.takeKept();
     });
     connect(
         &m_intake, &FileIntake::examined, this, [this] { setUiState(WindowUIState::CoverIsSet); });
@@ -195,7 +199,10 @@ void AppDelegate::connectWork()
         showIntake();
     });
     connect(&m_conversion, &ConversionFlow::workChanged, m_status.get(),
-        [this](const PlannedWork &work) { m_status->setWork(VideoWords::isDoing(work)); });
+        [this](const PlannedWork &work) {
+            m_status->setWork(
+                VideoWords::joined({ m_chosenEntry->iconText(), VideoWords::isDoing(work) }));
+        });
     connect(&m_conversion, &ConversionFlow::progressed, this, &AppDelegate::updateProgress);
     connect(&m_conversion, &ConversionFlow::finished, this, [this] {
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
@@ -237,9 +244,10 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
     m_conversion.stayOpen();
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
-    if (!hasVisibleWindows)
-        m_window.activateWindow();
     m_window.raise();
+    QWidget *sheet = QApplication::activeModalWidget();
+    if (!hasVisibleWindows)
+        (sheet ? sheet : &m_window)->activateWindow();
     return true;
 }
 
@@ -285,10 +293,8 @@ void AppDelegate::updateProgress(double fraction, qint64 seconds)
 
 void AppDelegate::cancelProgressPressed()
 {
-    if (m_uiState != WindowUIState::WaitingForCover) {
-        m_conversion.cancelIfConfirmed();
-    } else {
-        m_intake.cancel();
-        setUiState(WindowUIState::InitialState);
-    }
+    if (m_uiState != WindowUIState::WaitingForCover)
+        return void(m_conversion.cancelIfConfirmed());
+    m_intake.cancel();
+    setUiState(WindowUIState::InitialState);
 }

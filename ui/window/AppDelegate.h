@@ -14,7 +14,7 @@ namespace Ui {
 class MainWindow;
 }
 
-/// Owns the window and its state, and connects its controls with intake, conversion and closing.
+/// Owns the window and its state, and connects its controls with intake and conversion.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ public:
 
     void applicationDidFinishLaunching();
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
-    /// Files from anywhere but the open panel; taken only while drops are. Only the first counts.
+    /// Files from anywhere but drops and the open panel. Those that can't be taken now wait.
     void takeFiles(const QStringList &paths) { m_intake.takeFiles(paths); }
     void rawFormatMenuItemPressed(QAction *item);
 

@@ -15,7 +15,7 @@
 
 class QLabel;
 
-/// Tells of a conversion beside the bar, and keeps the machine awake for it.
+/// Shows a conversion's work beside the bar, and keeps the machine awake for it.
 class ConversionStatus : public QObject {
     Q_OBJECT
 

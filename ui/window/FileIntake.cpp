@@ -9,9 +9,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QPointer>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -25,15 +24,21 @@ void FileIntake::takeFiles(const QStringList &paths)
         processFile(paths.constFirst());
         m_leftOut = paths.sliced(1);
     } else {
-        m_kept = paths.constFirst();
+        m_kept << paths;
+        m_kept.removeDuplicates();
         Q_EMIT kept();
     }
 }
 
 void FileIntake::takeKept()
 {
-    if (!m_kept.isEmpty() && isReady())
-        processFile(std::exchange(m_kept, {}));
+    if (m_kept.isEmpty() || !m_isOpen)
+        return;
+    if (const auto *sheet = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        connect(sheet, &QDialog::finished, this, &FileIntake::takeKept,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+    else
+        processFile(m_kept.takeFirst());
 }
 
 void FileIntake::performDragOperation(const QStringList &paths)
@@ -60,7 +65,6 @@ void FileIntake::buttonPress()
 
 void FileIntake::processFile(const QString &path)
 {
-    m_kept.clear();
     m_leftOut.clear();
     Q_EMIT started(path);
     const QPointer<FileIntake> self(this);

@@ -24,11 +24,11 @@ public:
 
     /// Files are taken only while this is set; further ones of several are left out.
     void setOpen(bool open) { m_isOpen = open; }
-    /// From anywhere but drops. While no file is taken, the last one that comes is kept.
+    /// Takes the first of them. While no file can be taken, all are kept.
     void takeFiles(const QStringList &paths);
-    /// Takes what was kept, if it may be taken now.
+    /// Takes the first one that was kept, after the sheet that is open now.
     void takeKept();
-    [[nodiscard]] const QString &keptPath() const { return m_kept; }
+    [[nodiscard]] QString keptPath() const { return m_kept.value(0); }
     void performDragOperation(const QStringList &paths);
     void paste();
     void buttonPress();
@@ -55,12 +55,12 @@ private:
 
     QWidget *m_window;
     bool m_isOpen = false;
-    QString m_kept;
+    QStringList m_kept;
     QString m_processingFilePath;
     std::optional<JSON> m_processingInfo;
     QStringList m_leftOut;
     QImage m_cover;
     QString m_duration;
-    /// Also tells an answer about an earlier file from the current one.
+    /// Of examinations; an answer about an earlier file bears another number.
     int m_count = 0;
 };

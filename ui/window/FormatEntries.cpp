@@ -144,6 +144,9 @@ void FormatEntries::mark(const Ui::MainWindow &outlets, const JSON &info)
         item->setEnabled(against.isEmpty());
         item->setIcon(work.isCopy() ? quick : QIcon());
         item->setIconVisibleInMenu(true);
-        item->setToolTip(against.isEmpty() ? VideoWords::willDo(work) : against);
+        const QString ext = conversionDescriptor(constraints->format).ext.toUpper();
+        const bool namesIt = title(item).contains(ext, Qt::CaseInsensitive);
+        item->setToolTip(VideoWords::joined(
+            { namesIt ? QString() : ext, against.isEmpty() ? VideoWords::willDo(work) : against }));
     }
 }

@@ -79,7 +79,7 @@ constexpr Row rows[] = {
     {show,             OUTLET(openResultButton),              {no,   no,     no,      no,       yes}},
 };
 
-// Where the focus goes, and what screen readers are told.
+// Where the focus goes, and what screen readers say.
 constexpr std::array<std::array<Outlet, 2>, 5> announced{ {
     {OUTLET(openFromFolderLabel),  OUTLET(dragFileHereLabel)},
     {OUTLET(dropAcceptor),         OUTLET(examiningLabel)},

@@ -7,7 +7,7 @@
 #include <QHash>
 
 /// Plays the desktop's services on the session bus, through a connection of its own: records every
-/// call and answers as told.
+/// call and answers as it was made to.
 class DesktopStandIn : public QDBusVirtualObject {
 public:
     using Answers = QHash<QString, QVariantList>;
