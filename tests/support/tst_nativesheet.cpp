@@ -61,8 +61,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platformthemes"_L1);
-        if (plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty())
-            QSKIP("The toolkit's theme for the desktop portal is not installed");
+        QVERIFY2(!plugins.entryList({ u"*xdgdesktopportal*"_s }).isEmpty(),
+            "The toolkit's theme for the desktop portal is not installed");
     }
 
     void init()
