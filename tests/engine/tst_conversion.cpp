@@ -11,6 +11,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -22,12 +23,12 @@ public:
     Conversion(const QString &path, const QString &destPath)
         : progress(FFMPEG::convertFile(
             path, destPath, mp4, JSON(), [this](const std::optional<QString> &errmsg) {
-                errors += MainQueue::isMainThread() ? errmsg.value_or(u"(none)"_s)
-                                                    : u"on the wrong thread"_s;
+                errors += QThread::currentThread() == qApp->thread() ? errmsg.value_or(u"(none)"_s)
+                                                                     : u"on the wrong thread"_s;
             }))
     {
         progress->addObserver(Progress::Key::CompletedUnitCount, this, [this](Progress::Key) {
-            const bool wrong = MainQueue::isMainThread();
+            const bool wrong = QThread::currentThread() == qApp->thread();
             const qint64 step = progress->completedUnitCount();
             MainQueue::post([=, this] { steps << (wrong ? u"wrong"_s : QString::number(step)); });
         });

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// How far a run has come: read from the tool's output, and told on.
+/// How far a run has come: read from the tool's output, and passed on.
 class TestProgress : public QObject {
     Q_OBJECT
 
@@ -91,16 +91,16 @@ private Q_SLOTS:
             (QList<Key>{ Key::FractionCompleted, Key::CompletedUnitCount }));
         progress.removeObserver(Key::FractionCompleted, &progress);
         progress.removeObserver(Key::CompletedUnitCount, this);
-        // An observer may remove itself while it is told.
-        int told = 0;
+        // An observer may remove itself while it is called.
+        int calls = 0;
         progress.addObserver(Key::CompletedUnitCount, &progress, [&](Key) {
-            ++told;
+            ++calls;
             progress.removeObserver(Key::CompletedUnitCount, &progress);
         });
         progress.setCompletedUnitCount(2);
         QCOMPARE(std::exchange(heard, {}), QList<Key>{ Key::FractionCompleted });
         progress.setCompletedUnitCount(3);
-        QCOMPARE(told, 1);
+        QCOMPARE(calls, 1);
         QCOMPARE(heard, QList<Key>{ Key::FractionCompleted });
     }
 

@@ -189,7 +189,7 @@ private Q_SLOTS:
         QVERIFY(copies > 200);
     }
 
-    void size_isToldWhereItIsKnown()
+    void size_isForeseenWhereItCanBe()
     {
         const auto size = [](const char *name, const QByteArray &elements) {
             return expectedSize(entry(QString::fromUtf8(name)),
