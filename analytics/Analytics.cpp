@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "analytics/Analytics.h"
 
+#include "analytics/Dictionary.h"
 #include "support/Bundle.h"
 #include "support/Configuration.h"
 #include "support/Console.h"
 #include "support/Defaults.h"
-#include "support/Dictionary.h"
 #include "support/Localized.h"
 #include "support/MainQueue.h"
 #include "support/Preferences.h"

@@ -23,7 +23,7 @@ function(vc_library folder)
     target_link_libraries(${ARG_TARGET} PUBLIC vc_options ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
 endfunction()
 
-# vc_test(<name> SOURCES ... LINK ... [DISPLAY])
+# vc_test(<name> SOURCES ... LINK ... [DISPLAY] [TIMEOUT seconds])
 # A test program inside a bundle of its own, so that it finds tools exactly as the product does and may exchange them
 # without disturbing its neighbours. Settings, data and caches lie in that bundle too, never in the user's own folders.
 # DISPLAY: it opens windows and runs under a private X server.

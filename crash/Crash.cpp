@@ -54,8 +54,7 @@ const Fatal &fatalOf(int signal)
     return *std::ranges::find(fatals, signal, &Fatal::signal); // Handles no other.
 }
 
-// Sends the signal to this thread again, with its first details, for whoever would have got it
-// without us.
+// Sends the signal to this thread again, with its first details, for the handler before this one.
 void passOn(int signal, siginfo_t *info)
 {
     ::sigaction(signal, &fatalOf(signal).previous, nullptr);

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Leaves a report when the program crashes: time, reason, stack, versions and system, nothing
-/// else. The process then ends with the same signal as without a report.
+/// Leaves a report when the program crashes: time, reason, an exception's type, stack, versions and
+/// system, nothing else. The process then ends with the same signal as without a report.
 namespace CrashReporter {
 
 /// Watches for crashes, uncaught exceptions and trap stops. A stack that overflows leaves a report

@@ -116,24 +116,20 @@ struct Run {
 
     void finish(Task &task)
     {
-        switch (kindOf(progress->outcome())) {
-        case OutcomeKind::Incomplete:
-            postError(sentenceOf(progress->outcome()));
-            [[fallthrough]];
-        case OutcomeKind::Done:
-            progress->setCompletedUnitCount(progress->totalUnitCount());
-            break;
-        case OutcomeKind::Cancelled:
-            // A tool that is stopped while it starts still creates its output: wait for its end
-            // first.
+        const Outcome outcome = progress->outcome();
+        const OutcomeKind kind = kindOf(outcome);
+        if (kind == OutcomeKind::Incomplete)
+            postError(sentenceOf(outcome));
+        if (kind == OutcomeKind::Incomplete || kind == OutcomeKind::Done)
+            return progress->setCompletedUnitCount(progress->totalUnitCount());
+        if (kind == OutcomeKind::Cancelled) {
+            // A tool that is stopped while it starts still creates its output: wait for its end.
             task.terminate();
-            QFile::remove(job.destPath);
-            break;
-        default:
+        } else {
             Console::print(u"error occured: "_s + Text::stringValue(output));
             postError(std::nullopt);
-            QFile::remove(job.destPath);
         }
+        QFile::remove(job.destPath);
     }
 
     void end(const Outcome &outcome) { progress->setOutcome(outcome, output); }

@@ -2,7 +2,6 @@
 #include "support/MainQueue.h"
 
 #include <QCoreApplication>
-#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -23,12 +22,6 @@ void postAfter(std::chrono::nanoseconds delay, std::function<void()> block)
     post([wait, block = std::move(block)] {
         QTimer::singleShot(wait, Qt::PreciseTimer, QCoreApplication::instance(), block);
     });
-}
-
-bool isMainThread()
-{
-    const QCoreApplication *application = QCoreApplication::instance();
-    return application && QThread::currentThread() == application->thread();
 }
 
 }

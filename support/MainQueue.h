@@ -10,6 +10,5 @@ namespace MainQueue {
 
 void post(std::function<void()> block);
 void postAfter(std::chrono::nanoseconds delay, std::function<void()> block);
-[[nodiscard]] bool isMainThread();
 
 }

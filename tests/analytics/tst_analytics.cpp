@@ -23,7 +23,7 @@ private:
     }
 
     /// A value of the hit that came at this place.
-    [[nodiscard]] QJsonValue told(const QString &name, qsizetype place = 0) const
+    [[nodiscard]] QJsonValue sent(const QString &name, qsizetype place = 0) const
     {
         return m_collector->requests.at(place).hit().value(name);
     }
@@ -64,7 +64,7 @@ private Q_SLOTS:
         qputenv("VIDEO_CONVERTER_COLLECTOR_URL", m_collector->address({}).toUtf8());
         sendEvent(u"wanted"_s);
         QTRY_COMPARE(m_collector->requests.size(), 1);
-        QCOMPARE(told(u"ea"_s), u"wanted"_s);
+        QCOMPARE(sent(u"ea"_s), u"wanted"_s);
     }
 
     void event_postsOneJsonObject()
@@ -95,13 +95,13 @@ private Q_SLOTS:
             std::thread([] { sendEvent(u"first"_s); }).join();
             std::thread([] { sendEvent(u"second"_s); }).join();
             QTRY_COMPARE(m_collector->requests.size(), 2);
-            const QString id = told(u"cid"_s).toString();
+            const QString id = sent(u"cid"_s).toString();
             QVERIFY2(QRegularExpression(expected).match(id).hasMatch(), qPrintable(id));
-            QCOMPARE(told(u"cid"_s, 1), id);
+            QCOMPARE(sent(u"cid"_s, 1), id);
             QCOMPARE(Defaults::value(u"GA"_s).toString(), stored.isNull() ? id : stored.toString());
         }
-        QCOMPARE(told(u"el"_s), true);
-        QCOMPARE(told(u"ev"_s), u"0"_s);
+        QCOMPARE(sent(u"el"_s), true);
+        QCOMPARE(sent(u"ev"_s), u"0"_s);
     }
 
     void failure_printsOneLineAndStartsNoConversation()

@@ -50,7 +50,7 @@ class TestJob : public QObject, private Folder {
         return progress->outcome();
     }
     /// The sentence and the remarks. Where the first damage lies depends on the tool's speed.
-    static QString told(Outcome outcome)
+    static QString said(Outcome outcome)
     {
         outcome.firstDamage.reset();
         return (QStringList{ sentenceOf(outcome) } + remarksOn(outcome)).join(u'|');
@@ -122,7 +122,7 @@ private Q_SLOTS:
     {
         const Utf8 cutAt4
             = "The converting progress was finished at 4s|The video is damaged in places.";
-        addRows<Utf8, Utf8, Utf8>({ "source", "entry", "told" },
+        addRows<Utf8, Utf8, Utf8>({ "source", "entry", "said" },
             {
                 { "whole", "whole.mp4", "MKV", "" },
                 { "cut", "cut-fast.mp4", "MKV", cutAt4 },
@@ -150,7 +150,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, source);
         QFETCH(const QString, entry);
-        QTEST(told(done(job(source, u"out"_s, entry))), "told");
+        QTEST(said(done(job(source, u"out"_s, entry))), "said");
         QVERIFY(QFile::exists(path(u"out"_s)));
     }
 
@@ -180,7 +180,7 @@ private Q_SLOTS:
         for (const QString &source : { u"small.mp4"_s, u"mono.mkv"_s }) {
             ConversionJob request = job(source, u"out"_s, u"MP4"_s);
             request.constraints.format = format;
-            QCOMPARE(told(done(request)), QString());
+            QCOMPARE(said(done(request)), QString());
             QTEST(Media::formatEntry(result, u"format_name"_s), "container");
             QTEST(Media::streamEntry(result, u"v:0"_s, u"codec_name"_s), "video");
             QTEST(Media::streamEntry(result, u"a:0"_s, u"codec_name"_s), "audio");
@@ -260,7 +260,7 @@ private Q_SLOTS:
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
             "print:[libx264 @ 0x5] height not divisible by 2 (320x181)\\n|exit:1");
         QCOMPARE(
-            told(done(request)), u"This output can't hold a picture of odd width or height."_s);
+            said(done(request)), u"This output can't hold a picture of odd width or height."_s);
     }
 
     // The next start removes what a killed program left, and nothing that somebody holds.

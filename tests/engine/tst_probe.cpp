@@ -11,6 +11,7 @@
 #include "tests/fixtures/ToolSwap.h"
 
 #include <QFile>
+#include <QThread>
 
 #include <sys/stat.h>
 
@@ -23,11 +24,11 @@ void probe(const QString &path, QStringList &answers)
     FFMPEG::collectMovieInfo(
         path,
         [&answers](const Outcome &refusal) {
-            QVERIFY(MainQueue::isMainThread());
+            QCOMPARE(QThread::currentThread(), qApp->thread());
             answers += sentenceOf(refusal);
         },
         [path, &answers](const JSON &info, const QImage &cover, const QString &duration) {
-            QVERIFY(MainQueue::isMainThread());
+            QCOMPARE(QThread::currentThread(), qApp->thread());
             QVERIFY(!info[u"streams"_s].array().empty());
             QCOMPARE(
                 info[u"format"_s][u"size"_s].string(), QString::number(QFileInfo(path).size()));

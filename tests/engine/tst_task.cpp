@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Async.h"
 #include "engine/Task.h"
-#include "support/MainQueue.h"
 #include "tests/fixtures/Processes.h"
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
@@ -9,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <latch>
 #include <sys/socket.h>
@@ -180,7 +180,7 @@ private Q_SLOTS:
         // Each waits for the other, so one after the other they would never end.
         auto both = std::make_shared<std::latch>(2);
         int ran = 0;
-        const auto run = [&ran] { ran += MainQueue::isMainThread() ? 1 : 1000; };
+        const auto run = [&ran] { ran += QThread::currentThread() == qApp->thread() ? 1 : 1000; };
         for (int i = 0; i < 2; ++i) {
             Async::background([both, run] {
                 both->arrive_and_wait();

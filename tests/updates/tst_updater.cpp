@@ -167,7 +167,7 @@ private Q_SLOTS:
     {
         using List = QStringList;
         addRows<qint64, Utf8, QStringList, int, bool>(
-            { "hoursAgo", "version", "setting", "requests", "isTold" },
+            { "hoursAgo", "version", "setting", "requests", "isReported" },
             { { "an hour ago", 1, "1.6", List(), 0, false },
                 { "a day ago", 24, "1.6", List(), 1, true },
                 { "in a far future", -10000, "1.6", List(), 1, true },
@@ -180,7 +180,7 @@ private Q_SLOTS:
     {
         QFETCH(qint64, hoursAgo);
         QFETCH(QString, version);
-        QFETCH(bool, isTold);
+        QFETCH(bool, isReported);
         QFETCH(const QStringList, setting);
         if (!setting.isEmpty())
             Defaults::setValue(setting[0], setting[1]);
@@ -189,7 +189,7 @@ private Q_SLOTS:
             u"LastUpdateCheck"_s, QDateTime::currentDateTimeUtc().addSecs(-3600 * hoursAgo));
         makeUpdater();
         m_updater->checkInBackground();
-        QCOMPARE(m_checks->wait(isTold ? 5000 : 300), isTold);
+        QCOMPARE(m_checks->wait(isReported ? 5000 : 300), isReported);
         m_updater->checkInBackground();
         QVERIFY(!m_checks->wait(200));
         QTEST(static_cast<int>(m_server.requests.size()), "requests");
