@@ -2,6 +2,7 @@
 #include "planning/ConversionDescriptor.h"
 #include "planning/PlannedWork.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -160,7 +161,35 @@ private Q_SLOTS:
         QTEST(planned(constraints, R"({"streams":[)" + elements + "]}"), "expected");
     }
 
-    void size_isForeseenWhereItCanBe()
+    void work_agreesWithManyArguments()
+    {
+        QRandomGenerator random(25);
+        const auto any = [&random](const QByteArrayList &values) {
+            return values.at(random.bounded(int(values.size())));
+        };
+        int copies = 0;
+        for (int count = 0; count < 200; ++count) {
+            QByteArrayList streams;
+            for (int stream = random.bounded(4); stream > 0; --stream)
+                streams << any({ R"({"codec_type":"subtitle"})",
+                    video(any({ "h264", "h264", "mpeg4", "vp8", "gif", "hevc", "mp3" }),
+                        random.bounded(1, 1800), random.bounded(1, 1800)),
+                    audio(any({ "aac", "aac", "mp3", "ac3", "vorbis", "h264" }), "48000", 2) });
+            const QByteArray info = R"({"streams":[)" + streams.join(',') + "]}";
+            for (const QString &name : entryNames()) {
+                const QString words = planned(entry(name), info);
+                // Where no codec is named the tool encodes by its own choice.
+                const qsizetype copied = words.count(u"codec copy"_s);
+                const bool expected = copied > 0 && copied == words.count(u"codec "_s);
+                QVERIFY2(plannedWork(entry(name), JSON::parse(info)).isCopy() == expected,
+                    (name.toUtf8() + ' ' + info).constData());
+                copies += expected;
+            }
+        }
+        QVERIFY(copies > 200);
+    }
+
+    void size_isSaidWhereItIsKnown()
     {
         const auto size = [](const char *name, const QByteArray &elements) {
             return expectedSize(entry(QString::fromUtf8(name)),
@@ -171,7 +200,6 @@ private Q_SLOTS:
         const QByteArray both = video("h264", 640, 360) + ',' + audio("aac", "48000", 2);
         QCOMPARE(size("MKV", both), 4000);
         QCOMPARE(size("MKV", both + ',' + audio("aac", "48000", 2)), -1);
-        QCOMPARE(size("MKV", video("mpeg4", 640, 360) + ',' + audio("aac", "48000", 2)), -1);
         QCOMPARE(size("AVI", both), -1);
         QCOMPARE(size("audio", both), 168000);
         QCOMPARE(size("audio", audio("aac", "44100", 1)), 84000);
