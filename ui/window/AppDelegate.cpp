@@ -112,10 +112,12 @@ void AppDelegate::setUiState(WindowUIState state)
 void AppDelegate::showIntake()
 {
     const QString kept = Path::lastPathComponent(m_intake.keptPath());
-    m_outlets->keptLabel->setText(
-        formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
-                      "name of a video that came while another one is converted"),
-            { kept }));
+    // Without a pattern at the start, whose library would be loaded for it.
+    if (!kept.isEmpty())
+        m_outlets->keptLabel->setText(
+            formatted(QT_TRANSLATE_NOOP3("Localizable", "Next: “%@”",
+                          "name of a video that came while another one is converted"),
+                { kept }));
     m_outlets->keptLabel->setVisible(!kept.isEmpty());
     m_outlets->keptLabel->setEnabled(allowDragDrop(m_outlets->dropAcceptor));
     // A video, a result and a failure stay to be looked at until the user takes the next one.
