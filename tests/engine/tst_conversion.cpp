@@ -23,12 +23,13 @@ public:
     Conversion(const QString &path, const QString &destPath)
         : progress(FFMPEG::convertFile(
             path, destPath, mp4, JSON(), [this](const std::optional<QString> &errmsg) {
-                errors += QThread::currentThread() == qApp->thread() ? errmsg.value_or(u"(none)"_s)
-                                                                     : u"on the wrong thread"_s;
+                errors += QThread::currentThread() == QCoreApplication::instance()->thread()
+                    ? errmsg.value_or(u"(none)"_s)
+                    : u"on the wrong thread"_s;
             }))
     {
         progress->addObserver(Progress::Key::CompletedUnitCount, this, [this](Progress::Key) {
-            const bool wrong = QThread::currentThread() == qApp->thread();
+            const bool wrong = QThread::currentThread() == QCoreApplication::instance()->thread();
             const qint64 step = progress->completedUnitCount();
             MainQueue::post([=, this] { steps << (wrong ? u"wrong"_s : QString::number(step)); });
         });

@@ -24,11 +24,11 @@ void probe(const QString &path, QStringList &answers)
     FFMPEG::collectMovieInfo(
         path,
         [&answers](const Outcome &refusal) {
-            QCOMPARE(QThread::currentThread(), qApp->thread());
+            QCOMPARE(QThread::currentThread(), QCoreApplication::instance()->thread());
             answers += sentenceOf(refusal);
         },
         [path, &answers](const JSON &info, const QImage &cover, const QString &duration) {
-            QCOMPARE(QThread::currentThread(), qApp->thread());
+            QCOMPARE(QThread::currentThread(), QCoreApplication::instance()->thread());
             QVERIFY(!info[u"streams"_s].array().empty());
             QCOMPARE(
                 info[u"format"_s][u"size"_s].string(), QString::number(QFileInfo(path).size()));

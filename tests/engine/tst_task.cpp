@@ -180,7 +180,9 @@ private Q_SLOTS:
         // Each waits for the other, so one after the other they would never end.
         auto both = std::make_shared<std::latch>(2);
         int ran = 0;
-        const auto run = [&ran] { ran += QThread::currentThread() == qApp->thread() ? 1 : 1000; };
+        const auto run = [&ran] {
+            ran += QThread::currentThread() == QCoreApplication::instance()->thread() ? 1 : 1000;
+        };
         for (int i = 0; i < 2; ++i) {
             Async::background([both, run] {
                 both->arrive_and_wait();

@@ -131,7 +131,8 @@ bool ConvertPopupButton::lookUp(const QString &key)
     // No entry begins with a letter twice: the same letter again leads on.
     const bool isRepeated = m_typed.count(key, Qt::CaseInsensitive) == m_typed.size();
     if (isRepeated)
-        std::ranges::rotate(entries, entries.begin() + entries.indexOf(menu()->activeAction()) + 1);
+        std::rotate(entries.begin(), entries.begin() + entries.indexOf(menu()->activeAction()) + 1,
+            entries.end());
     const auto found = std::ranges::find_if(entries, [&](const QAction *entry) {
         return entry->isEnabled() && entry->isVisible()
             && entry->text().remove(u'&').startsWith(
