@@ -232,14 +232,14 @@ private Q_SLOTS:
 
     void severalVideos_areCounted()
     {
-        QVERIFY(QFile::copy(m_video, path(u"it's.mov"_s)));
-        QVERIFY(drop({ url(u"video.mov"_s), url(u"it's.mov"_s) }));
+        QVERIFY(QFile::copy(m_video, path(u"it's.mp4"_s)));
+        QVERIFY(drop({ url(u"video.mov"_s), url(u"it's.mp4"_s) }));
         QVERIFY(waitFor(WindowUIState::CoverIsSet));
         QCOMPARE(said("leftOutLabel"), u"One video is converted at a time here. Left out: 1"_s);
         find<QMenu>("formatMenu")->setDefaultAction(find<QAction>("mp4LowQualityMenuItem"));
         click("copyCommandLabel");
         QCOMPARE(QApplication::clipboard()->text(),
-            uR"(video-converter-cli convert --to 'MP4 Low Quality' -j 0 -d %1 -- %1/video.mov '%1/it'\''s.mov')"_s
+            uR"(mkdir -p %1/mp4 && video-converter-cli convert --to 'MP4 Low Quality' -j 0 -d %1/mp4 -- %1/video.mov '%1/it'\''s.mp4')"_s
                 .arg(m_folder->path()));
         QVERIFY(open());
         QVERIFY(view("leftOutLabel")->isHidden() && view("copyCommandLabel")->isHidden());

@@ -23,6 +23,8 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -148,10 +150,18 @@ void StateNotes::copyCommand()
     const QString &path = m_intake.processingFilePath();
     const QAction *last = m_outlets.formatMenu->defaultAction();
     const auto entry = FormatEntries::constraintsOf(m_outlets, last ? last : m_outlets.mP4MenuItem);
-    const QStringList words{ u"video-converter-cli"_s, u"convert"_s, u"--to"_s,
-        entry ? entry->destDevice : u"MP4"_s, u"-j"_s, u"0"_s, u"-d"_s,
-        saveFolder(Path::stringByDeletingLastPathComponent(path)), u"--"_s, path };
-    QGuiApplication::clipboard()->setText(Text::shellQuoted(words + m_intake.leftOut()));
+    const QString ext = conversionDescriptor(entry->format).ext;
+    const QStringList videos = QStringList(path) + m_intake.leftOut();
+    QString folder = saveFolder(Path::stringByDeletingLastPathComponent(path));
+    QString command;
+    // No video can be its own result.
+    if (std::ranges::find(videos, ext, &Path::pathExtension) != videos.end()) {
+        folder = Path::stringByAppendingPathComponent(folder, ext);
+        command = Text::shellQuoted({ u"mkdir"_s, u"-p"_s, folder }) + u" && "_s;
+    }
+    const QStringList words{ u"video-converter-cli"_s, u"convert"_s, u"--to"_s, entry->destDevice,
+        u"-j"_s, u"0"_s, u"-d"_s, folder, u"--"_s };
+    QGuiApplication::clipboard()->setText(command + Text::shellQuoted(words + videos));
     m_outlets.copyCommandLabel->setText(localized(
         QT_TRANSLATE_NOOP3("Localizable", "Copied", "a command line is on the clipboard now")));
 }
