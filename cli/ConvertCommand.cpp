@@ -170,11 +170,7 @@ private:
             if (const auto refusal = refusalOfDestination(item))
                 return settle(item, *refusal);
         }
-        // Whatever else bears a result's name may be dear to the user.
-        const OlderFile olderFile = m_line.skipExisting ? OlderFile::SetAside
-            : m_line.overwrite                          ? OlderFile::Replaced
-                                                        : OlderFile::Kept;
-        const Video video{ &item, info, olderFile };
+        const Video video{ &item, info, m_line.overwrite ? OlderFile::Replaced : OlderFile::Kept };
         if (m_line.skipExisting && QFileInfo::exists(item.destPath))
             checkExisting(video);
         else
@@ -202,7 +198,8 @@ private:
                     ++m_sum.skipped;
                     m_reporter.skipped(*video.item);
                 } else {
-                    m_ready.push_back(video);
+                    // It may be no result at all, but dear to the user.
+                    m_ready.push_back({ video.item, video.info, OlderFile::SetAside });
                 }
                 goOn();
             });

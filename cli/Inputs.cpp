@@ -85,10 +85,11 @@ std::vector<Input> inputsIn(const CommandLine &line)
     const QString root = identityOfFolder(line.tree);
     const QString results = identityOfFolder(line.folder);
     std::vector<Input> inputs;
+    std::error_code end;
     std::error_code error;
     // Links to folders are not followed: they may lead in a circle.
-    for (fs::recursive_directory_iterator files(QFile::encodeName(line.tree).constData(), error);
-         files != fs::end(files); files.increment(error)) {
+    for (fs::recursive_directory_iterator files(QFile::encodeName(line.tree).constData(), end);
+         files != fs::end(files); files.increment(end)) {
         Input input = named(QFile::decodeName(files->path().c_str()));
         const bool isHidden = Path::lastPathComponent(input.path).startsWith(u'.');
         const bool isResult = results.size() > root.size() && input.identity.startsWith(results);
@@ -103,6 +104,10 @@ std::vector<Input> inputsIn(const CommandLine &line)
             inputs.push_back(input);
     }
     dropEarlierResults(inputs, line);
+    if (end) {
+        inputs.push_back(named(line.tree));
+        inputs.back().refusal = { Reason::TreeNotReadable };
+    }
     std::ranges::sort(inputs, {}, &Input::identity);
     return inputs;
 }

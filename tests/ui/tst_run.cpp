@@ -167,6 +167,7 @@ private Q_SLOTS:
         QVERIFY(window->isVisible() && window->isEnabled());
 
         QVERIFY(convert("deaf|reports:3000:20000"));
+        m_delegate->takeFiles({ m_video });
         QVERIFY(!window->close() && window->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), 10000);
         QCOMPARE(files(), QStringList{ u"video.mov"_s });

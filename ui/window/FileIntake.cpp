@@ -32,7 +32,8 @@ void FileIntake::takeFiles(const QStringList &paths)
 
 void FileIntake::takeKept()
 {
-    if (m_kept.isEmpty() || !m_isOpen)
+    // A window that is about to close is disabled.
+    if (m_kept.isEmpty() || !m_isOpen || !m_window->isEnabled())
         return;
     if (const auto *sheet = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
         connect(sheet, &QDialog::finished, this, &FileIntake::takeKept,
