@@ -172,7 +172,7 @@ private Q_SLOTS:
             const bool isDeaf = script.startsWith(u"deaf");
             const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool, script.toUtf8());
             const Conversion conversion(path(u"in.mov"_s), path(u"out.mp4"_s));
-            QTRY_VERIFY(QFile::exists(path(u"out.mp4"_s)));
+            QTRY_VERIFY(!contents(u"out.mp4"_s).isEmpty());
             QElapsedTimer timer;
             timer.start();
             conversion.progress->cancel();
