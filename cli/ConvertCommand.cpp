@@ -8,7 +8,7 @@
 #include "engine/Conversion.h"
 #include "engine/Destination.h"
 #include "engine/Remedy.h"
-#include "engine/SteadyTime.h"
+#include "engine/TimeLeft.h"
 #include "engine/Verdict.h"
 #include "support/Interruption.h"
 #include "support/MainQueue.h"
@@ -100,7 +100,7 @@ private:
         OlderFile olderFile;
         std::shared_ptr<Progress> progress = {};
         QElapsedTimer clock = {};
-        SteadyTime steadyTime = {};
+        TimeLeft timeLeft = {};
         qint64 lastReported = -1;
     };
 
@@ -224,8 +224,9 @@ private:
             ProgressSample sample{ .completed = video.progress->completedUnitCount(),
                 .total = video.progress->totalUnitCount(),
                 .elapsed = std::chrono::milliseconds(video.clock.elapsed()) };
-            sample.left = video.steadyTime.shown(sample.secondsLeft());
-            fraction += video.progress->fractionCompleted();
+            const double part = video.progress->fractionCompleted();
+            sample.left = video.timeLeft.at(sample.elapsed, part);
+            fraction += part;
             samples.push_back({ *item, sample, video.lastReported });
         }
         // What was skipped took no time and says nothing about the rest.
@@ -234,7 +235,8 @@ private:
         ProgressSample whole{ .completed = static_cast<qint64>(done * static_cast<double>(parts)),
             .total = static_cast<qint64>(m_sum.all - m_sum.skipped) * parts,
             .elapsed = std::chrono::milliseconds(m_clock.elapsed()) };
-        whole.left = m_steadyTime.shown(whole.secondsLeft());
+        whole.left
+            = m_timeLeft.at(whole.elapsed, done / static_cast<double>(m_sum.all - m_sum.skipped));
         m_reporter.progressed(samples, m_sum, whole);
     }
 
@@ -299,7 +301,7 @@ private:
     std::size_t m_jobs;
     QEventLoop m_loop;
     QElapsedTimer m_clock;
-    SteadyTime m_steadyTime;
+    TimeLeft m_timeLeft;
 
     std::size_t m_next = 0;
     std::size_t m_examining = 0;

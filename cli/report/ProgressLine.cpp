@@ -8,7 +8,6 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -43,16 +42,6 @@ std::optional<double> ProgressSample::speed() const
     if (completed <= 0 || elapsed < 1s)
         return std::nullopt;
     return static_cast<double>(completed) * 1000 / static_cast<double>(elapsed.count());
-}
-
-std::optional<qint64> ProgressSample::secondsLeft() const
-{
-    const std::optional<double> current = speed();
-    if (!current || total < completed)
-        return std::nullopt;
-    const double seconds = std::ceil(static_cast<double>(total - completed) / *current);
-    // A slow start is no reason to predict years.
-    return seconds < 1e9 ? std::optional(static_cast<qint64>(seconds)) : std::nullopt;
 }
 
 QString progressText(const ProgressSample &sample)

@@ -6,17 +6,15 @@
 #include <chrono>
 #include <optional>
 
-/// Units: seconds of media; `total` is not positive while the length is unknown.
+/// Units: seconds, of media but for `left`; `total` is not positive while the length is unknown.
 struct ProgressSample {
     qint64 completed = 0;
     qint64 total = -1;
     std::chrono::milliseconds elapsed{};
-    /// As it is shown.
     std::optional<qint64> left = {};
 
     [[nodiscard]] std::optional<int> percent() const;
     [[nodiscard]] std::optional<double> speed() const;
-    [[nodiscard]] std::optional<qint64> secondsLeft() const;
 };
 
 /// Percent, speed and time left, as far as they are known; else the time since the start.

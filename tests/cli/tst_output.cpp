@@ -146,9 +146,9 @@ private Q_SLOTS:
 
     void terminal_showsABar()
     {
-        // A video of 100 s, converted in about 2 s.
+        // A video of 100 s, converted in about 5 s.
         const ToolSwap swap(u"ffmpeg"_s, ToolSwap::With::FakeTool,
-            R"(print:  Duration: 00:01:40.00, start: 0\n|copy|reports:100:20000)");
+            R"(print:  Duration: 00:01:40.00, start: 0\n|copy|reports:100:50000)");
         const QString screen = m_command.shell(
             u"TERM=xterm script -qec \"'%1' convert --to FLV video.mov -o bar.flv\" /dev/null"_s
                 .arg(Command::program()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/Progress.h"
 #include "engine/RunReport.h"
+#include "engine/TimeLeft.h"
 #include "engine/ToolOutput.h"
 #include "support/Text.h"
 #include "tests/fixtures/Rows.h"
@@ -8,6 +9,7 @@
 #include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 /// How far a run has come: read from the tool's output, and passed on.
 class TestProgress : public QObject {
@@ -104,6 +106,30 @@ private Q_SLOTS:
             progress.cancel();
             QCOMPARE(runs, 1);
         }
+    }
+
+    void timeLeft_speaksWhenSteady_data()
+    {
+        using Speeds = QList<double>;
+        // Each speed holds for half a second; -1 stands for no estimate.
+        addRows<Speeds, int>({ "speeds", "seconds" },
+            { { "too early", Speeds(5, 0.01), -1 }, { "steady", Speeds(20, 0.01), 40 },
+                { "nothing moves", Speeds(20, 0.0), -1 },
+                { "a little slower", Speeds(30, 0.01) + Speeds(6, 0.007), 35 },
+                { "suddenly slower", Speeds(10, 0.02) + Speeds(10, 0.005), -1 },
+                { "slower for long", Speeds(10, 0.02) + Speeds(24, 0.005), 70 },
+                { "done", Speeds(20, 0.05), -1 }, { "days", Speeds(20, 0.000001), -1 } });
+    }
+    void timeLeft_speaksWhenSteady()
+    {
+        QFETCH(const QList<double>, speeds);
+        TimeLeft timeLeft;
+        double fraction = 0;
+        auto elapsed = 0ms;
+        std::optional<qint64> left;
+        for (const double speed : speeds)
+            left = timeLeft.at(elapsed += 500ms, std::min(1.0, fraction += speed));
+        QTEST(int(left.value_or(-1)), "seconds");
     }
 
     void failure_getsASentence_data()

@@ -2,7 +2,6 @@
 #include "tests/fixtures/Rows.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/window/ProposedName.h"
-#include "ui/window/TimeLeft.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -57,28 +56,6 @@ private Q_SLOTS:
                 QVERIFY2(high / low >= least, qPrintable(QString::number(high / low)));
             }
         }
-    }
-
-    void timeLeft_speaksWhenSteady_data()
-    {
-        using Speeds = QList<double>;
-        // Each speed holds for half a second; -1 stands for no estimate.
-        addRows<Speeds, int>({ "speeds", "seconds" },
-            { { "too early", Speeds(5, 0.01), -1 }, { "steady", Speeds(20, 0.01), 40 },
-                { "nothing moves", Speeds(20, 0.0), -1 },
-                { "suddenly slower", Speeds(10, 0.02) + Speeds(10, 0.005), -1 },
-                { "slower for long", Speeds(10, 0.02) + Speeds(24, 0.005), 70 },
-                { "done", Speeds(20, 0.05), -1 }, { "days", Speeds(20, 0.000001), -1 } });
-    }
-    void timeLeft_speaksWhenSteady()
-    {
-        QFETCH(const QList<double>, speeds);
-        TimeLeft timeLeft;
-        double fraction = 0;
-        auto elapsed = 0ms;
-        for (const double speed : speeds)
-            timeLeft.add(elapsed += 500ms, std::min(1.0, fraction += speed));
-        QTEST(int(timeLeft.estimate().value_or(-1)), "seconds");
     }
 
     void proposedName_isNeverTheSource_data()

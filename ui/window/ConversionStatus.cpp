@@ -41,7 +41,6 @@ void ConversionStatus::stateChanged(WindowUIState from, WindowUIState to)
 {
     if (to == WindowUIState::Converting) {
         m_timeLeft = {};
-        m_steadyTime = {};
         m_fraction = -1;
         m_clock.start();
         m_timer.start();
@@ -83,8 +82,7 @@ void ConversionStatus::setProgress(double fraction, qint64 seconds)
 
 QString ConversionStatus::timeLeft()
 {
-    m_timeLeft.add(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
-    const auto left = m_steadyTime.shown(m_timeLeft.estimate());
+    const auto left = m_timeLeft.at(std::chrono::milliseconds(m_clock.elapsed()), m_fraction);
     return left ? formatted(QT_TRANSLATE_NOOP3("Localizable", "%@ left",
                                 "time left of a conversion, such as 1m 30s"),
                { DurationInfo(*left).toString() })

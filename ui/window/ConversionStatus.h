@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "engine/SteadyTime.h"
+#include "engine/TimeLeft.h"
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/LauncherProgress.h"
-#include "ui/window/TimeLeft.h"
 #include "ui/window/WindowUIState.h"
 
 #include <QElapsedTimer>
@@ -44,7 +43,6 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     TimeLeft m_timeLeft;
-    SteadyTime m_steadyTime;
     double m_fraction = -1;
     qint64 m_seconds = 0;
     int m_percent = -1;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/window/TimeLeft.h"
+#include "engine/TimeLeft.h"
 
 #include <cmath>
 
@@ -11,7 +11,7 @@ namespace {
 constexpr TimeLeft::Duration span = 12s;
 constexpr TimeLeft::Duration shortestSpan = 3s;
 /// The speeds of the older and the newer half differ by no more than this part.
-constexpr double tolerance = 0.35;
+constexpr double speedTolerance = 0.35;
 
 qint64 rounded(double seconds)
 {
@@ -21,13 +21,18 @@ qint64 rounded(double seconds)
 
 }
 
-void TimeLeft::add(Duration elapsed, double fraction)
+std::optional<qint64> TimeLeft::at(Duration elapsed, double fraction)
 {
     if (!m_samples.empty() && fraction < m_samples.back().fraction)
         m_samples.clear();
     m_samples.push_back({ elapsed, fraction });
     while (m_samples.front().elapsed < elapsed - span)
         m_samples.pop_front();
+    const std::optional<qint64> now = estimate();
+    const bool isNoise = m_shown && now && *now > *m_shown && *now <= *m_shown * 5 / 4 + 2;
+    if (!isNoise)
+        m_shown = now;
+    return m_shown;
 }
 
 std::optional<qint64> TimeLeft::estimate() const
@@ -46,6 +51,6 @@ std::optional<qint64> TimeLeft::estimate() const
     const double older = remainingSeconds(first, middle);
     const double newer = remainingSeconds(middle, last);
     const double whole = remainingSeconds(first, last);
-    const bool steady = std::isfinite(whole) && std::abs(older - newer) <= tolerance * whole;
+    const bool steady = std::isfinite(whole) && std::abs(older - newer) <= speedTolerance * whole;
     return steady && whole <= 3600.0 * 100 ? std::optional(rounded(whole)) : std::nullopt;
 }
