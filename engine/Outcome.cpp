@@ -41,7 +41,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
     { Reason::TreeNotReadable, "folder-not-readable"_L1, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "There is no such folder, or it may not be read.", "Why videos can't be converted") },
     { Reason::InfoNoJson, "info-no-json"_L1, InputRefused, QT_TRANSLATE_NOOP3("Localizable", "The file holds no JSON.", "Why a saved description of a video can't be used") },
 
-    { Reason::DestinationExists, "destination-exists"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination exists already; --overwrite replaces it.", "Why a conversion's result can't be written") },
+    { Reason::DestinationExists, "destination-exists"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination exists already.", "Why a conversion's result can't be written") },
     { Reason::DestinationNotWritable, "destination-not-writable"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.", "Why a conversion's result can't be written") },
     { Reason::DestinationNameNotText, "destination-name-not-text"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's name can't be represented as text. Please choose another one.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsFolder, "destination-is-folder"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.", "Why a conversion's result can't be written") },

@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -80,32 +79,18 @@ constexpr long SYS_fchmodat2 = 452;
 #endif
 
 // What the file rules leave open, other processes, and ways around this filter.
+// clang-format off
 constexpr auto refusedCalls = std::to_array<long>({
-    SYS_truncate,
-    SYS_fchmod,
-    SYS_fchmodat,
-    SYS_fchmodat2,
-    SYS_fchown,
-    SYS_fchownat,
-    SYS_setxattr,
-    SYS_lsetxattr,
-    SYS_fsetxattr,
-    SYS_removexattr,
-    SYS_lremovexattr,
-    SYS_fremovexattr,
-    SYS_ptrace,
-    SYS_process_vm_readv,
-    SYS_process_vm_writev,
-    SYS_pidfd_open,
-    SYS_pidfd_send_signal,
-    SYS_socket,
-    SYS_io_uring_setup,
 #ifdef SYS_chmod
-    SYS_chmod,
-    SYS_chown,
-    SYS_lchown,
+    SYS_chmod, SYS_chown, SYS_lchown,
 #endif
+    SYS_truncate, SYS_fchmod, SYS_fchmodat, SYS_fchmodat2, SYS_fchown, SYS_fchownat,
+    SYS_setxattr, SYS_lsetxattr, SYS_fsetxattr,
+    SYS_removexattr, SYS_lremovexattr, SYS_fremovexattr,
+    SYS_ptrace, SYS_process_vm_readv, SYS_process_vm_writev,
+    SYS_pidfd_open, SYS_pidfd_send_signal, SYS_socket, SYS_io_uring_setup,
 });
+// clang-format on
 constexpr auto signallingCalls
     = std::to_array<long>({ SYS_kill, SYS_tgkill, SYS_rt_sigqueueinfo, SYS_rt_tgsigqueueinfo });
 
@@ -198,10 +183,8 @@ bool isScript(const QString &toolPath)
 // Libraries of the user's, and those in the tool's own prefix.
 QStringList libraryPaths(const QString &toolFolder)
 {
-    static const QRegularExpression separator(u"[: ]"_s);
     return QStringList{ toolFolder, toolFolder + u"/../lib"_s, toolFolder + u"/../lib64"_s }
-    + qEnvironmentVariable("LD_PRELOAD").split(separator, Qt::SkipEmptyParts)
-        + qEnvironmentVariable("LD_LIBRARY_PATH").split(u':', Qt::SkipEmptyParts);
+    + qEnvironmentVariable("LD_LIBRARY_PATH").split(u':', Qt::SkipEmptyParts);
 }
 
 }

@@ -114,6 +114,11 @@
         <translation>الوجهة أنبوب أو جهاز وليست ملفًا.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>الوجهة موجودة بالفعل.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>الوجهة موجودة بالفعل؛ لاستبدالها أضف ‎--overwrite.</translation>
@@ -362,11 +367,6 @@
         <translation>نعم</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>«⁨%@⁩» مجلد. اختر اسمًا آخر.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>الملف «⁨%@⁩» موجود بالفعل. هل تريد استبداله؟</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>تنبيه! سيُلغى التحويل الجاري.
 هل تريد المتابعة حقًا؟</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>لا يمكن تحويل الفيديو إلى الملف نفسه</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>اختر للنتيجة اسمًا آخر أو مجلدًا آخر.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

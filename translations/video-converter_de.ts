@@ -114,6 +114,11 @@
         <translation>Das Ziel ist eine Pipe oder ein Gerät, keine Datei.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Das Ziel existiert bereits.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Das Ziel existiert bereits; --overwrite ersetzt es.</translation>
@@ -362,11 +367,6 @@
         <translation>Ja</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>„%@“ ist ein Ordner. Wählen Sie einen anderen Namen.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>Die Datei „%@“ existiert bereits. Möchten Sie sie ersetzen?</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>Achtung! Die laufende Konvertierung wird abgebrochen.
 Möchten Sie wirklich fortfahren?</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Das Video kann nicht in sich selbst konvertiert werden</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Wählen Sie für das Ergebnis einen anderen Namen oder Ordner.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

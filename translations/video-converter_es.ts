@@ -114,6 +114,11 @@
         <translation>El destino es una tubería o un dispositivo, no un archivo.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>El destino ya existe.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>El destino ya existe; --overwrite lo reemplaza.</translation>
@@ -362,11 +367,6 @@
         <translation>Sí</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>«%@» es una carpeta. Elija otro nombre.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>«%@» ya existe. ¿Desea reemplazarlo?</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>¡Atención! Se cancelará la conversión en curso.
 ¿Seguro que desea continuar?</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>El vídeo no se puede convertir en sí mismo</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Elija otro nombre u otra carpeta para el resultado.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

@@ -114,6 +114,11 @@
         <translation>La destination est un tube ou un périphérique et non un fichier.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>La destination existe déjà.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>La destination existe déjà&#xa0;; --overwrite la remplace.</translation>
@@ -362,11 +367,6 @@
         <translation>Oui</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>«&#xa0;%@&#xa0;» est un dossier. Choisissez un autre nom.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>Le fichier «&#xa0;%@&#xa0;» existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>Attention&#xa0;! La conversion en cours sera annulée.
 Voulez-vous vraiment continuer&#xa0;?</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Impossible de convertir la vidéo dans son propre fichier</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Choisissez un autre nom ou un autre dossier pour le résultat.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

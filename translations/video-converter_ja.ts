@@ -114,6 +114,11 @@
         <translation>保存先はファイルではなくパイプまたはデバイスです。</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>保存先はすでに存在します。</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>保存先はすでに存在します。置き換えるには --overwrite を指定してください。</translation>
@@ -362,11 +367,6 @@
         <translation>はい</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>「%@」はフォルダーです。別の名前を指定してください。</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>「%@」はすでに存在します。置き換えますか？</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>実行中の変換はキャンセルされます。
 本当によろしいですか？</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>動画をそれ自身に上書きして変換することはできません</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>変換結果に別の名前または別のフォルダーを指定してください。</translation>
     </message>
     <message>
         <source>Error processing %@</source>

@@ -114,6 +114,11 @@
         <translation>O destino é um pipe ou um dispositivo, não um arquivo.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>O destino já existe.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>O destino já existe; --overwrite o substitui.</translation>
@@ -362,11 +367,6 @@
         <translation>Sim</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>“%@” é uma pasta. Escolha outro nome.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>“%@” já existe. Deseja substituí-lo?</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>Atenção! A conversão em andamento será cancelada.
 Tem certeza de que deseja continuar?</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>O vídeo não pode ser convertido nele mesmo</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Escolha outro nome ou outra pasta para o resultado.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

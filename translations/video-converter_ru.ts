@@ -114,6 +114,11 @@
         <translation>Место назначения&#xa0;— канал или устройство, а не файл.</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>Файл назначения уже существует.</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>Файл назначения уже существует; чтобы заменить его, добавьте --overwrite.</translation>
@@ -362,11 +367,6 @@
         <translation>Да</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>«%@»&#xa0;— это папка. Выберите другое имя.</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>Файл «%@» уже существует. Заменить его?</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>Внимание! Текущая конвертация будет отменена.
 Вы уверены, что хотите продолжить?</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Видео нельзя конвертировать в тот же файл</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>Выберите для результата другое имя или другую папку.</translation>
     </message>
     <message>
         <source>Error processing %@</source>

@@ -114,6 +114,11 @@
         <translation>目标是管道或设备，而不是文件。</translation>
     </message>
     <message>
+        <source>The destination exists already.</source>
+        <comment>Why a conversion&apos;s result can&apos;t be written</comment>
+        <translation>目标已存在。</translation>
+    </message>
+    <message>
         <source>The destination exists already; --overwrite replaces it.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
         <translation>目标已存在；使用 --overwrite 可将其替换。</translation>
@@ -362,11 +367,6 @@
         <translation>是</translation>
     </message>
     <message>
-        <source>“%@” is a folder. Choose another name.</source>
-        <comment>alert of the save panel, with the name of a folder</comment>
-        <translation>“%@”是一个文件夹。请选择其他名称。</translation>
-    </message>
-    <message>
         <source>“%@” already exists. Do you want to replace it?</source>
         <comment>question of the save panel, with the name of a file</comment>
         <translation>“%@”已存在。要替换它吗？</translation>
@@ -417,16 +417,6 @@ Are you sure you want to continue?</source>
         <comment>Cancel progress alert message text</comment>
         <translation>注意！当前的转换将被取消。
 确定要继续吗？</translation>
-    </message>
-    <message>
-        <source>The video can&apos;t be converted into itself</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>无法将视频转换为其自身</translation>
-    </message>
-    <message>
-        <source>Choose another name or another folder for the result.</source>
-        <comment>the chosen destination is the source file</comment>
-        <translation>请为转换结果选择其他名称或其他文件夹。</translation>
     </message>
     <message>
         <source>Error processing %@</source>

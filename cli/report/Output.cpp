@@ -89,6 +89,10 @@ void diagnostics(const QByteArray &bytes)
 QString reportedSentence(const Outcome &outcome)
 {
     QString sentence = printable(sentenceOf(outcome));
+    if (outcome.reason == Reason::DestinationExists)
+        return localized(QT_TRANSLATE_NOOP3("Localizable",
+            "The destination exists already; --overwrite replaces it.",
+            "Why a conversion's result can't be written"));
     if (outcome.reason != Reason::Incomplete)
         return sentence;
     return formatted(QT_TRANSLATE_NOOP3("Localizable", "%@; that much was kept.",

@@ -41,7 +41,7 @@ public:
     struct Request {
         QString ext;
         std::function<void(const QString &path)> path;
-        PathRefusal refuses;
+        PathRefusal refusal;
         QString note;
     };
 
@@ -125,21 +125,15 @@ private:
 
     [[nodiscard]] bool mayUse(const QString &path, bool hasAsked) const
     {
-        const QString name = Path::lastPathComponent(path);
-        if (QFileInfo(path).isDir()) {
-            displayError(formatted(
-                QT_TRANSLATE_NOOP3("Localizable", "“%@” is a folder. Choose another name.",
-                    "alert of the save panel, with the name of a folder"),
-                { name }));
+        if (const QString refusal = m_request.refusal(path); !refusal.isEmpty()) {
+            displayError(refusal);
             return false;
         }
-        if (m_request.refuses && m_request.refuses(path))
-            return false;
         return hasAsked || !QFileInfo::exists(path)
             || displayQuestion(formatted(
                 QT_TRANSLATE_NOOP3("Localizable", "“%@” already exists. Do you want to replace it?",
                     "question of the save panel, with the name of a file"),
-                { name }));
+                { Path::lastPathComponent(path) }));
     }
 
     QString m_proposed;
@@ -172,10 +166,10 @@ void runChooseSheet(
 
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
     const std::function<void(const QString &path)> &path, const QString &startFolder,
-    const PathRefusal &refuses, const QString &note)
+    const PathRefusal &refusal, const QString &note)
 {
     auto *sheet = new SaveSheet(
-        window, saveFolder(startFolder), filename + u'.' + ext, { ext, path, refuses, note });
+        window, saveFolder(startFolder), filename + u'.' + ext, { ext, path, refusal, note });
     sheet->open();
 }
 

@@ -13,14 +13,14 @@ class QWidget;
 void runChooseSheet(
     QWidget *window, bool files, const std::function<void(const QString &path)> &path);
 
-/// Tells the user why a path can't be taken, or returns false.
-using PathRefusal = std::function<bool(const QString &path)>;
+/// Why a path can't be taken, for the user; empty when it can.
+using PathRefusal = std::function<QString(const QString &path)>;
 
 /// Proposes `filename` in saveFolder(startFolder). The answer always bears the extension `ext`, and
 /// the user has agreed to replace it. Shows `note`, unless the dialog is the desktop's own.
 void runSaveToSheet(QWidget *window, const QString &filename, const QString &ext,
-    const std::function<void(const QString &path)> &path, const QString &startFolder = {},
-    const PathRefusal &refuses = {}, const QString &note = {});
+    const std::function<void(const QString &path)> &path, const QString &startFolder,
+    const PathRefusal &refusal, const QString &note = {});
 
 /// Where the last result of a video of `startFolder` went, while that is there; else `startFolder`.
 [[nodiscard]] QString saveFolder(const QString &startFolder);

@@ -6,6 +6,7 @@
 #include "support/dialogs/Sheets.h"
 #include "tests/fixtures/Folder.h"
 
+#include <QFileInfo>
 #include <QWidget>
 
 #include <memory>
@@ -28,7 +29,10 @@ protected:
     {
         runSaveToSheet(
             window.get(), filename, QStringLiteral("mp4"),
-            [this](const QString &given) { paths += given; }, folder->path());
+            [this](const QString &given) { paths += given; }, folder->path(),
+            [](const QString &given) {
+                return QFileInfo(given).isDir() ? QStringLiteral("a folder") : QString();
+            });
     }
     [[nodiscard]] QString path(const QString &name) const { return folder->path(name); }
 

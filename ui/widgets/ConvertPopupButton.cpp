@@ -112,9 +112,8 @@ bool ConvertPopupButton::eventFilter(QObject *watched, QEvent *event)
         menu()->setGeometry(m_menuPlace);
         menu()->setActiveAction(menu()->defaultAction());
     }
-    if (watched == menu() && event->type() == QEvent::KeyPress
-        && lookUp(static_cast<QKeyEvent *>(event)->text()))
-        return true;
+    if (watched == menu() && event->type() == QEvent::KeyPress)
+        return lookUp(static_cast<QKeyEvent *>(event)->text());
     return QPushButton::eventFilter(watched, event);
 }
 
@@ -155,9 +154,7 @@ QColor ConvertPopupButton::faceColor() const
     if (!isEnabled())
         return palette().color(QPalette::Disabled, QPalette::Button);
     const QColor accent = palette().color(QPalette::Highlight);
-    if (isDown())
-        return accent.darker(118);
-    return underMouse() ? accent.darker(108) : accent;
+    return accent.darker(isDown() ? 118 : underMouse() ? 108 : 100);
 }
 
 void ConvertPopupButton::paintEvent(QPaintEvent *)

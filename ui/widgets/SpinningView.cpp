@@ -49,10 +49,7 @@ QSize SpinningView::sizeHint() const
 
 void SpinningView::animate()
 {
-    if (m_spinning && m_awake)
-        m_timer.start();
-    else
-        m_timer.stop();
+    m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
     update();
 }
 

@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto cursorKey = "_cursor";
-
 /// A name may hold line breaks and other controls; it still takes one line.
 QString onOneLine(QString text)
 {
@@ -39,10 +37,8 @@ TextField::TextField(QWidget *parent)
 
 void TextField::resetCursorRects()
 {
-    if (property(cursorKey).toString() == "pointingHandCursor"_L1)
-        setCursor(Qt::PointingHandCursor);
-    else
-        unsetCursor();
+    const bool isHand = property("_cursor").toString() == "pointingHandCursor"_L1;
+    isHand ? setCursor(Qt::PointingHandCursor) : unsetCursor();
 }
 
 QSize TextField::minimumSizeHint() const

@@ -36,19 +36,6 @@ bool confirmsCancel()
             "Cancel progress alert message text")));
 }
 
-bool refusesSource(const QString &destPath, const QString &source)
-{
-    if (!sourceRefusal({ .path = destPath, .sources = { source } }))
-        return false;
-    displayError(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "The video can't be converted into itself",
-            "the chosen destination is the source file")),
-        localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Choose another name or another folder for the result.",
-            "the chosen destination is the source file")));
-    return true;
-}
-
 }
 
 ConversionFlow::ConversionFlow(QMainWindow &window, const FileIntake &intake)
@@ -79,7 +66,13 @@ void ConversionFlow::choose(const std::optional<VideoConstraints> &constraints)
                 QString(Path::pathExtension(destPath) + u'_' + entry.destDevice));
             startConversion(destPath, entry);
         },
-        folder, [source](const QString &destPath) { return refusesSource(destPath, source); },
+        folder,
+        [source](const QString &destPath) {
+            // The sheet asks before it gives a file's name.
+            const auto refusal
+                = refusalOf({ .path = destPath, .sources = { source }, .overwrite = true });
+            return refusal ? sentenceOf(*refusal) : QString();
+        },
         VideoWords::expectedSize(expectedSize(*constraints, *m_intake.processingInfo())));
 }
 
@@ -212,16 +205,12 @@ void ConversionFlow::progressWasCancelled()
 
 void ConversionFlow::openFolder() const
 {
-    if (QFileInfo::exists(m_resultFilePath))
-        FileBrowser::reveal(m_resultFilePath);
-    else
-        FileBrowser::open(Path::stringByDeletingLastPathComponent(m_resultFilePath));
+    QFileInfo::exists(m_resultFilePath)
+        ? FileBrowser::reveal(m_resultFilePath)
+        : FileBrowser::open(Path::stringByDeletingLastPathComponent(m_resultFilePath));
 }
 
 void ConversionFlow::openResult() const
 {
-    if (QFileInfo::exists(m_resultFilePath))
-        FileBrowser::open(m_resultFilePath);
-    else
-        openFolder();
+    QFileInfo::exists(m_resultFilePath) ? FileBrowser::open(m_resultFilePath) : openFolder();
 }

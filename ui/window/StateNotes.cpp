@@ -84,9 +84,8 @@ void StateNotes::videoWasExamined(const QImage &cover, const QString &duration)
     // The note stands for sound only, not for a picture that can't be had.
     m_outlets.movieCoverImageView->setArtwork(
         firstStream(info, "video"_L1) ? QString() : u":/artwork/note.svg"_s);
-    const QString facts = VideoWords::factsOf(info);
-    m_outlets.factsLabel->setText(facts);
-    m_outlets.factsLabel->setToolTip(facts);
+    m_outlets.factsLabel->setText(VideoWords::factsOf(info));
+    m_outlets.factsLabel->setToolTip(m_outlets.factsLabel->text());
     m_outlets.againLabel->setText(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "Open “%@” again", "with the name of the last video"),
         { Path::lastPathComponent(path) }));

@@ -122,9 +122,8 @@ QString VideoWords::resultLine(const QString &path, const QString &length)
 
 QString VideoWords::expectedSize(const std::optional<qint64> &size)
 {
-    if (!size)
-        return {};
-    return formatted(QT_TRANSLATE_NOOP3("Localizable", "The result will take about %@.",
-                         "in the save panel, with a size such as 12.3 MB"),
-        { bytes(*size) });
+    return size ? formatted(QT_TRANSLATE_NOOP3("Localizable", "The result will take about %@.",
+                                "in the save panel, with a size such as 12.3 MB"),
+               { bytes(*size) })
+                : QString();
 }
