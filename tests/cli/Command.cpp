@@ -16,6 +16,9 @@ Command::Command()
     // The texts are compared in English.
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("LANGUAGE");
+    // Permissions bind the superuser too.
+    if (::geteuid() == 0)
+        m_wrapper = QStringList{ u"setpriv"_s, u"--bounding-set=-dac_override,-dac_read_search"_s };
 }
 
 QString Command::program()
@@ -38,16 +41,6 @@ QStringList Command::listing() const
 QString Command::shell(const QString &script) const
 {
     return QString::fromUtf8(Media::run(u"sh"_s, { u"-ec"_s, u"cd \"$0\"\n"_s + script, path() }));
-}
-
-bool Command::dropPrivileges()
-{
-    if (::geteuid() != 0)
-        return true;
-    QFile::setPermissions(path(), QFile::Permissions(0x7755));
-    m_wrapper
-        = QStringList{ u"setpriv"_s, u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s };
-    return run(u"--version"_s).exitCode == 0;
 }
 
 std::unique_ptr<QProcess> Command::start(

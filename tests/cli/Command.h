@@ -40,8 +40,6 @@ public:
     /// Runs a script in the folder and gives what it prints.
     QString shell(const QString &script) const;
 
-    /// Further runs are those of a user whom permissions bind. False where that can't be had.
-    [[nodiscard]] bool dropPrivileges();
     /// The arguments are the words of `line`, quoted with " where need be, and `further`.
     [[nodiscard]] Finished run(
         const QString &line, const QStringList &further = {}, const QByteArray &input = {}) const;

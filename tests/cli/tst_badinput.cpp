@@ -65,8 +65,6 @@ private Q_SLOTS:
         Command command;
         command.write(u"video.mp4"_s, "x");
         QFile::setPermissions(command.path(u"video.mp4"_s), {});
-        if (!command.dropPrivileges())
-            QSKIP("No other user can run the program here");
         QCOMPARE(command.run(u"probe video.mp4"_s).end(),
             u"3: video.mp4: The file may not be read: permission denied.\n"_s);
     }

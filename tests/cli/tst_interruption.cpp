@@ -52,13 +52,9 @@ private Q_SLOTS:
     void signal_cancelsAConversion_data()
     {
         addRows<int, bool>({ "signal", "toAll" },
-            {
-                { "SIGINT", SIGINT, false },
-                { "SIGTERM", SIGTERM, false },
-                { "SIGHUP", SIGHUP, false },
-                { "SIGQUIT", SIGQUIT, false },
-                { "SIGINT by the terminal", SIGINT, true },
-            });
+            { { "SIGINT", SIGINT, false }, { "SIGTERM", SIGTERM, false },
+                { "SIGHUP", SIGHUP, false }, { "SIGQUIT", SIGQUIT, false },
+                { "SIGINT by the terminal", SIGINT, true } });
     }
     void signal_cancelsAConversion()
     {

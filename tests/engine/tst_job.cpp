@@ -191,12 +191,10 @@ private Q_SLOTS:
     void olderFile_outlivesEverythingButSuccess_data()
     {
         addRows<Utf8, Utf8, Utf8>({ "source", "script", "results" },
-            {
-                { "success", "whole.mp4", "", "out.mkv" },
+            { { "success", "whole.mp4", "", "out.mkv" },
                 { "short", "cut-fast.mp4", "", "out (earlier).mkv out.mkv" },
                 { "failure", "whole.mp4", "output|exit:1", "out.mkv" },
-                { "cancelled", "whole.mp4", "output|forever", "out.mkv" },
-            });
+                { "cancelled", "whole.mp4", "output|forever", "out.mkv" } });
     }
     void olderFile_outlivesEverythingButSuccess()
     {

@@ -208,13 +208,6 @@ private Q_SLOTS:
         QCOMPARE(size("GIF", both), -1);
     }
 
-    void strangeInformation_givesArguments()
-    {
-        for (const char *info : { "", "not JSON", R"([{"codec_type":"video"}])",
-                 R"({"streams":{"0":{"codec_type":"video"}}})", R"({"streams":"video"})" })
-            QCOMPARE(planned(entry(u"MP4"_s), info), u"-strict experimental -f mp4"_s);
-    }
-
     void title_leadsToItsEntry()
     {
         // In a menu with other titles, the entries that they translate have no English one.

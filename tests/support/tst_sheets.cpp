@@ -53,9 +53,7 @@ private Q_SLOTS:
         const auto *buttons = sheet()->findChild<QDialogButtonBox *>();
         QPushButton *accept = buttons->button(QDialogButtonBox::Save);
         QVERIFY(accept->isDefault());
-        QCOMPARE(accept->text().remove(u'&'), u"Convert"_s);
         QCOMPARE(sheet()->windowModality(), Qt::WindowModal);
-        QCOMPARE(sheet()->windowTitle(), u"Convert"_s);
         QCOMPARE(sheet()->labelText(QFileDialog::FileName), u"Result filename:"_s);
         QCOMPARE(nameField()->text(), u"a'b\"c 100%d.mp4"_s);
         QCOMPARE(nameField()->selectedText(), u"a'b\"c 100%d"_s);

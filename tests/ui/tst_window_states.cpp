@@ -96,10 +96,7 @@ private Q_SLOTS:
     {
         const std::pair<const char *, QAccessible::Role> roles[] = {
             { "openFromFolderLabel", QAccessible::PushButton },
-            { "openFolderImageView", QAccessible::PushButton },
-            { "convertToButton", QAccessible::ButtonMenu },
             { "movieCoverImageView", QAccessible::Graphic },
-            { "conversionCompleteStatusLabel", QAccessible::StaticText },
         };
         for (const auto &[name, role] : roles) {
             const auto *control = QAccessible::queryAccessibleInterface(view(name));

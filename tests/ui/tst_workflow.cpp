@@ -274,7 +274,8 @@ private Q_SLOTS:
         choose(u"MP4"_s);
         QVERIFY(waitFor(WindowUIState::ConversionIsDone));
         QCOMPARE(m_user.names, QStringList());
-        QCOMPARE(m_user.read, QStringList(2, u"The result can't replace a video that is to be converted."_s));
+        QCOMPARE(m_user.read,
+            QStringList(2, u"The result can't replace a video that is to be converted."_s));
         QCOMPARE(m_delegate->resultFilePath(), path(u"other.mp4"_s));
         QCOMPARE(QFileInfo(path(u"video.mp4"_s)).size(), size);
     }
