@@ -249,13 +249,16 @@ private Q_SLOTS:
     {
         QVERIFY(QFile(path(u"empty.mov"_s)).open(QIODevice::WriteOnly));
         QVERIFY(open());
-        // Nothing arrives while the message stands.
-        m_user.whileReading = [this] { drop({ url(u"video.mov"_s) }); };
+        // Nothing is taken while the message stands, nor the reason after it.
+        m_user.whileReading = [this] {
+            drop({ url(u"video.mov"_s) });
+            m_delegate->takeFiles({ m_video });
+        };
         QVERIFY(drop({ url(u"empty.mov"_s) }));
         auto *reason = find<QLabel>("refusalLabel");
         QTRY_COMPARE(reason->text(), u"The file is empty."_s);
-        QVERIFY(reason->isVisible());
         QTest::qWait(50);
+        QVERIFY(reason->isVisible() && view("keptLabel")->isVisible());
         QCOMPARE(m_user.read, QStringList(u"Video not supported"_s));
         QCOMPARE(m_delegate->uiState(), WindowUIState::InitialState);
         QCOMPARE(m_delegate->processingFilePath(), m_video);

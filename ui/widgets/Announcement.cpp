@@ -70,9 +70,10 @@ Announcement::Announcement(QWidget *window)
 // A notification that appears is read at once; the desktop never hears of Qt's own alerts.
 void Announcement::say(QWidget *outlet)
 {
-    if (!QAccessible::isActive())
+    const QString text = outlet->property("text").toString();
+    if (!QAccessible::isActive() || text.isEmpty())
         return;
-    setAccessibleName(QAccessible::queryAccessibleInterface(outlet)->text(QAccessible::Name));
+    setAccessibleName(text);
     QAccessibleEvent appears(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&appears);
 }

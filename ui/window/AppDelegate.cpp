@@ -42,9 +42,11 @@ void dress(const Ui::MainWindow &outlets, int line)
     // What is hidden keeps its place, so that nothing jumps when the state changes.
     for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
         QSizePolicy policy = view->sizePolicy();
-        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel);
+        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel);
         view->setSizePolicy(policy);
     }
+    // The result is dragged out of the picture below.
+    outlets.remarksLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     enlarge(outlets.dragFileHereLabel, 1.45);
     enlarge(outlets.movieNameLabel, 1.15);
     for (QLabel *dimmed : std::initializer_list<QLabel *>{ outlets.refusalLabel,
@@ -57,9 +59,8 @@ void dress(const Ui::MainWindow &outlets, int line)
             outlets.logLabel, outlets.copyCommandLabel, outlets.keptLabel }) {
         link->setForegroundRole(QPalette::Link);
         // Room for the ring around the text.
-        link->setContentsMargins(line / 3, 0, line / 3, 0);
+        link->setContentsMargins(line / 3, line / 6, line / 3, line / 6);
     }
-    outlets.openFromFolderLabel->setContentsMargins(line / 2, line / 4, line / 2, line / 4);
 }
 
 }
@@ -194,11 +195,12 @@ void AppDelegate::connectWork()
     connect(
         &m_intake, &FileIntake::examined, this, [this] { setUiState(WindowUIState::CoverIsSet); });
     connect(&m_intake, &FileIntake::refused, this, [this](const Outcome &refusal) {
+        // Before the state, as a file that waits is not taken while there is something to read.
+        m_outlets->refusalLabel->setText(sentenceOf(refusal));
         setUiState(WindowUIState::InitialState);
         displayError(localized(QT_TRANSLATE_NOOP3(
             "Localizable", "Video not supported", "Error message 'Video not supported'")));
-        showRefusal(refusal);
-        showIntake();
+        m_announcement->say(m_outlets->refusalLabel);
     });
     connect(&m_conversion, &ConversionFlow::workChanged, m_status.get(),
         [this](const PlannedWork &work) {
@@ -210,8 +212,7 @@ void AppDelegate::connectWork()
         rememberSaveFolder(Path::stringByDeletingLastPathComponent(processingFilePath()),
             Path::stringByDeletingLastPathComponent(resultFilePath()));
         setUiState(WindowUIState::ConversionIsDone);
-        if (!m_outlets->remarksLabel->text().isEmpty())
-            m_announcement->say(m_outlets->remarksLabel);
+        m_announcement->say(m_outlets->remarksLabel);
         m_status->notify(m_outlets->conversionCompleteStatusLabel->text(),
             Path::lastPathComponent(resultFilePath()));
     });
@@ -222,9 +223,10 @@ void AppDelegate::connectWork()
             m_status->notify(m_window.windowTitle(), message);
         });
     connect(&m_conversion, &ConversionFlow::cancelled, this, [this](const Outcome &outcome) {
-        setUiState(WindowUIState::InitialState);
         if (kindOf(outcome) == OutcomeKind::ToolMissing)
-            showRefusal(outcome);
+            m_outlets->refusalLabel->setText(sentenceOf(outcome));
+        setUiState(WindowUIState::InitialState);
+        m_announcement->say(m_outlets->refusalLabel);
     });
     connect(&m_conversion, &ConversionFlow::ended, this, &AppDelegate::showIntake);
 }
@@ -266,15 +268,6 @@ bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QObject::eventFilter(watched, event);
-}
-
-void AppDelegate::showRefusal(const Outcome &refusal)
-{
-    if (m_uiState != WindowUIState::InitialState)
-        return;
-    m_outlets->refusalLabel->setText(sentenceOf(refusal));
-    m_outlets->refusalLabel->show();
-    m_announcement->say(m_outlets->refusalLabel);
 }
 
 void AppDelegate::rawFormatMenuItemPressed(QAction *item)

@@ -46,7 +46,6 @@ private:
     void connectWork();
     void showIntake();
     void showStateInMenus();
-    void showRefusal(const Outcome &refusal);
     void updateProgress(double fraction, qint64 seconds);
     void cancelProgressPressed();
 
