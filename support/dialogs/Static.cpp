@@ -8,11 +8,10 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -23,16 +22,6 @@ QString programName()
     return Bundle::main()
         .infoString(u"CFBundleName"_s)
         .value_or(QGuiApplication::applicationDisplayName());
-}
-
-QLabel *addLabel(QVBoxLayout *layout, const QString &text = {})
-{
-    auto *label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    layout->addWidget(label);
-    return label;
 }
 
 /// Only Russian has a site of its own. Prints a line for a language that the bundle has.
@@ -51,43 +40,29 @@ QString siteAddress()
 /// Open, it does not keep the program from ending with its main window.
 QDialog *makeAboutBox()
 {
-    auto *box = new QDialog;
+    auto *box = new QMessageBox;
     box->setAttribute(Qt::WA_QuitOnClose, false);
     box->setWindowTitle(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "About %@", "about box, with the program's name"),
         { programName() }));
-    auto *layout = new QVBoxLayout(box);
-    layout->setContentsMargins(32, 24, 32, 24);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addStrut(240);
-
-    auto *icon = addLabel(layout);
-    icon->setPixmap(QApplication::windowIcon().pixmap(96));
-    icon->setHidden(QApplication::windowIcon().isNull());
-
-    QLabel *name = addLabel(layout, programName());
-    QFont font = name->font();
-    font.setPointSizeF(font.pointSizeF() * 1.5);
-    font.setBold(true);
-    name->setFont(font);
-
+    box->setIconPixmap(QApplication::windowIcon().pixmap(96));
+    box->setText(programName());
     const auto bundled = Bundle::main().infoString(u"CFBundleShortVersionString"_s);
-    QLabel *version = addLabel(layout,
-        formatted(
-            QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
-            { bundled.value_or(Configuration::version()) }));
-    version->setTextInteractionFlags(Qt::TextSelectableByMouse);
-
-    layout->addSpacing(8);
-    if (!Static::applicationURL().isEmpty()) {
-        auto *website = new QPushButton(localized(
-            QT_TRANSLATE_NOOP3("Localizable", "Visit Web Site", "button of the about box")));
-        layout->addWidget(website, 0, Qt::AlignCenter);
-        QObject::connect(website, &QPushButton::clicked, box, [] {
-            if (const QUrl site(Static::applicationURL()); site.isValid())
-                QDesktopServices::openUrl(site);
-        });
-    }
+    box->setInformativeText(formatted(
+        QT_TRANSLATE_NOOP3("Localizable", "Version %@", "about box, with the version number"),
+        { bundled.value_or(Configuration::version()) }));
+    for (QLabel *label : box->findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
+    box->addButton(QMessageBox::Close);
+    if (Static::applicationURL().isEmpty())
+        return box;
+    const auto *website = box->addButton(
+        localized(QT_TRANSLATE_NOOP3("Localizable", "Visit Web Site", "button of the about box")),
+        QMessageBox::ActionRole);
+    QObject::connect(website, &QPushButton::clicked, box, [] {
+        if (const QUrl site(Static::applicationURL()); site.isValid())
+            QDesktopServices::openUrl(site);
+    });
     return box;
 }
 

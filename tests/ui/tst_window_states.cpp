@@ -94,11 +94,9 @@ private Q_SLOTS:
 
     void assistant_learnsEveryControl()
     {
-        const std::pair<const char *, QAccessible::Role> roles[] = {
-            { "openFromFolderLabel", QAccessible::PushButton },
-            { "movieCoverImageView", QAccessible::Graphic },
-        };
-        for (const auto &[name, role] : roles) {
+        for (const auto &[name, role] :
+            { std::pair{ "openFromFolderLabel", QAccessible::PushButton },
+                { "movieCoverImageView", QAccessible::Graphic } }) {
             const auto *control = QAccessible::queryAccessibleInterface(view(name));
             QVERIFY2(control->role() == role && !control->text(QAccessible::Name).isEmpty(), name);
         }

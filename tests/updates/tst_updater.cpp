@@ -210,14 +210,12 @@ private Q_SLOTS:
     {
         using enum UpdateDownload::End;
         addRows<Answer, UpdateDownload::End>({ "answer", "end" },
-            {
-                { "rightly signed", { .body = package }, Saved },
+            { { "rightly signed", { .body = package }, Saved },
                 { "redirected once", redirection("/moved"), Saved },
                 { "one byte changed", { .body = "the new packagf" }, Forged },
                 { "one byte more", { .body = QByteArray(package) + "\n" }, Forged },
                 { "empty", {}, Failed },
-                { "huge", { .body = QByteArray(2 << 20, 'x') }, Failed },
-            });
+                { "huge", { .body = QByteArray(2 << 20, 'x') }, Failed } });
     }
     void download_keepsOnlyWhatWasSigned()
     {

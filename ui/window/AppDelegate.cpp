@@ -39,10 +39,12 @@ void enlarge(QLabel *label, double factor)
 
 void dress(const Ui::MainWindow &outlets, int line)
 {
-    // What is hidden keeps its place, so that nothing jumps when the state changes.
+    // What is hidden keeps its place, so that nothing jumps when the state changes. The exceptions
+    // share theirs with others.
     for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
         QSizePolicy policy = view->sizePolicy();
-        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel);
+        policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel
+            && view != outlets.leftOutLabel);
         view->setSizePolicy(policy);
     }
     // The result is dragged out of the picture below.
