@@ -459,11 +459,6 @@ Are you sure you want to continue?</source>
         <translation>أُعلن عن تحديث، لكنه ليس من مطوّري Video Converter، ولذلك لن يُعرض.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>ما الجديد</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>تحديث البرنامج</translation>

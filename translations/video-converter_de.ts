@@ -459,11 +459,6 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Es wurde ein Update angekündigt, das nicht von den Entwicklern von Video Converter stammt. Es wird nicht angeboten.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>Neuerungen</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>Softwareupdate</translation>

@@ -459,11 +459,6 @@ Are you sure you want to continue?</source>
         <translation>Se anunció una actualización, pero no procede de los creadores de Video Converter. No se ofrecerá.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>Novedades</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>Actualización de software</translation>

@@ -459,11 +459,6 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Une mise à jour a été annoncée, mais pas par les développeurs de Video Converter. Elle n’est pas proposée.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>Nouveautés</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>Mise à jour logicielle</translation>

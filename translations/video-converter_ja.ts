@@ -459,11 +459,6 @@ Are you sure you want to continue?</source>
         <translation>アップデートの通知がありましたが、Video Converter の開発元によるものではないため、提供しません。</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>新機能</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>ソフトウェアアップデート</translation>

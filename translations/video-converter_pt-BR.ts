@@ -459,11 +459,6 @@ Tem certeza de que deseja continuar?</translation>
         <translation>Uma atualização foi anunciada, mas não pelos criadores do Video Converter. Ela não será oferecida.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>Novidades</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>Atualização de software</translation>

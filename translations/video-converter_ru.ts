@@ -459,11 +459,6 @@ Are you sure you want to continue?</source>
         <translation>Объявлено обновление, но не от разработчиков Video Converter. Оно не будет предложено.</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>Что нового</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>Обновление программы</translation>

@@ -459,11 +459,6 @@ Are you sure you want to continue?</source>
         <translation>发现了一个更新通知，但并非由 Video Converter 的开发者发布，因此不予提供。</translation>
     </message>
     <message>
-        <source>What is new</source>
-        <comment>update dialog, release notes</comment>
-        <translation>新增内容</translation>
-    </message>
-    <message>
         <source>Software Update</source>
         <comment>update dialog, title</comment>
         <translation>软件更新</translation>

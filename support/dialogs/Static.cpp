@@ -42,6 +42,7 @@ QDialog *makeAboutBox()
 {
     auto *box = new QMessageBox;
     box->setAttribute(Qt::WA_QuitOnClose, false);
+    box->setModal(false);
     box->setWindowTitle(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "About %@", "about box, with the program's name"),
         { programName() }));

@@ -51,6 +51,9 @@ private Q_SLOTS:
         Updater updater({ .version = u"1.0"_s });
         addHelpMenu(*m_delegate, updater);
         qputenv("VIDEO_CONVERTER_COLLECTOR_URL", "http://localhost:9");
+        // A run that failed may have left others.
+        Preferences::setSendsUsage(true);
+        Preferences::setLanguage({});
         const auto change = [this](Qt::Key end) {
             QTest::keyClick(m_delegate->window(), Qt::Key_Comma, Qt::ControlModifier);
             auto *dialog = m_delegate->window()->findChild<QDialog *>();
@@ -68,8 +71,6 @@ private Q_SLOTS:
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
         QVERIFY(!Preferences::sendsUsage() && Preferences::checksForUpdates());
         QVERIFY(!Preferences::language().isEmpty());
-        Preferences::setSendsUsage(true);
-        Preferences::setLanguage({});
     }
 };
 

@@ -16,6 +16,7 @@ Command::Command()
     // The texts are compared in English.
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("LANGUAGE");
+    qputenv("TERM", "xterm");
     // Permissions bind the superuser too.
     if (::geteuid() == 0)
         m_wrapper = QStringList{ u"setpriv"_s, u"--bounding-set=-dac_override,-dac_read_search"_s };

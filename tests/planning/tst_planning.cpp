@@ -206,6 +206,8 @@ private Q_SLOTS:
         QCOMPARE(size("audio", audio("aac", "48000", 6)), 168000);
         QCOMPARE(size("audio", audio("aac", "32000", 2)), -1);
         QCOMPARE(size("GIF", both), -1);
+        const JSON ofUnknownLength = JSON::parse(R"({"streams":[)" + both + "]}");
+        QVERIFY(!expectedSize(entry(u"audio"_s), ofUnknownLength));
     }
 
     void title_leadsToItsEntry()

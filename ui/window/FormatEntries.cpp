@@ -95,10 +95,11 @@ QIcon quickMark(const QMenu &menu)
     return mark;
 }
 
-QString reasonAgainst(const PlannedWork &work, const VideoConstraints &constraints)
+/// Of an entry, or why it is not offered.
+QString explanation(const PlannedWork &work, const VideoConstraints &constraints)
 {
     if (!work.isEmpty())
-        return {};
+        return VideoWords::willDo(work);
     const bool wantsSound = conversionDescriptor(constraints.format).vName.isEmpty();
     return wantsSound ? localized(QT_TRANSLATE_NOOP3("Localizable", "The video has no sound",
                "why an entry of the format menu is not offered"))
@@ -140,13 +141,12 @@ void FormatEntries::mark(const Ui::MainWindow &outlets, const JSON &info)
         if (!constraints)
             continue;
         const PlannedWork work = plannedWork(*constraints, info);
-        const QString against = reasonAgainst(work, *constraints);
-        item->setEnabled(against.isEmpty());
+        item->setEnabled(!work.isEmpty());
         item->setIcon(work.isCopy() ? quick : QIcon());
         item->setIconVisibleInMenu(true);
         const QString ext = conversionDescriptor(constraints->format).ext.toUpper();
         const bool namesIt = title(item).contains(ext, Qt::CaseInsensitive);
-        item->setToolTip(VideoWords::joined(
-            { namesIt ? QString() : ext, against.isEmpty() ? VideoWords::willDo(work) : against }));
+        item->setToolTip(
+            VideoWords::joined({ namesIt ? QString() : ext, explanation(work, *constraints) }));
     }
 }

@@ -4,19 +4,14 @@
 #include "support/Localized.h"
 
 #include <QDesktopServices>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
-#include <QVBoxLayout>
 
 #include <array>
 
@@ -50,14 +45,6 @@ constexpr std::array endTexts{
         "The update could not be downloaded. Please try again later.", "update download"),
 };
 
-QLabel *plainLabel(const QString &text)
-{
-    auto *label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
 /// The text of mark-up, without what could turn the order of the words around it.
 QString plainText(const QString &html)
 {
@@ -69,16 +56,6 @@ QString plainText(const QString &html)
         lines << (block.textList() ? u"•  "_s : QString()) + block.text();
     QString text = lines.join(u'\n');
     return text.removeIf([](QChar c) { return c.category() == QChar::Other_Format; });
-}
-
-QPlainTextEdit *notesView(const QString &notes)
-{
-    auto *view = new QPlainTextEdit(plainText(notes));
-    view->setReadOnly(true);
-    view->setTabChangesFocus(true);
-    view->setAccessibleName(localized(
-        QT_TRANSLATE_NOOP3("Localizable", "What is new", "update dialog, release notes")));
-    return view;
 }
 
 }
@@ -96,59 +73,48 @@ void UpdateDialogs::showCheck(const UpdateCheck &check)
     if (check.outcome == UpdateCheck::Outcome::Available)
         showAvailable(check);
     else
-        showMessage(formatted(outcomeTexts.at(static_cast<std::size_t>(check.outcome)),
-            { m_updater.settings().version }));
+        makeMessage(formatted(outcomeTexts.at(static_cast<std::size_t>(check.outcome)),
+                        { m_updater.settings().version }))
+            ->open();
 }
 
 void UpdateDialogs::showAvailable(const UpdateCheck &check)
 {
     delete m_offer;
-    auto *dialog = new QDialog(m_window);
-    m_offer = dialog;
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(
-        localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")));
-    dialog->setMinimumWidth(440);
-    auto *layout = new QVBoxLayout(dialog);
-    // Nobody asked for it: what the user types or clicks goes on where it was.
-    dialog->setAttribute(Qt::WA_ShowWithoutActivating, !check.byUser);
-    layout->addWidget(plainLabel(formatted(
+    QMessageBox *offer = makeMessage(formatted(
         QT_TRANSLATE_NOOP3("Localizable", "Video Converter %1$@ is available. You have %2$@.",
             "update dialog: new, own version"),
-        { check.item.displayVersion, m_updater.settings().version })));
-    if (!check.item.notes.isEmpty())
-        layout->addWidget(notesView(check.item.notes));
-    auto *buttons = new QDialogButtonBox;
-    buttons->addButton(
+        { check.item.displayVersion, m_updater.settings().version }));
+    m_offer = offer;
+    // Nobody asked for it: what the user types or clicks goes on where it was.
+    offer->setAttribute(Qt::WA_ShowWithoutActivating, !check.byUser);
+    offer->setModal(false);
+    offer->setStandardButtons(QMessageBox::NoButton);
+    offer->setDetailedText(plainText(check.item.notes));
+    offer->setDefaultButton(offer->addButton(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Later", "update dialog, button")),
-        QDialogButtonBox::RejectRole);
-    const auto *skip = buttons->addButton(
+        QMessageBox::RejectRole));
+    const auto *skip = offer->addButton(
         localized(QT_TRANSLATE_NOOP3("Localizable", "Skip This Version", "update dialog, button")),
-        QDialogButtonBox::DestructiveRole);
-    connect(skip, &QPushButton::clicked, dialog, [dialog, item = check.item] {
-        Updater::skip(item);
-        dialog->reject();
-    });
+        QMessageBox::DestructiveRole);
+    connect(skip, &QPushButton::clicked, offer, [item = check.item] { Updater::skip(item); });
     if (!m_updater.settings().publicKey.isEmpty()) {
-        buttons->addButton(
+        const auto *download = offer->addButton(
             localized(QT_TRANSLATE_NOOP3("Localizable", "Download", "update dialog, button")),
-            QDialogButtonBox::AcceptRole);
-        connect(
-            dialog, &QDialog::accepted, this, [this, item = check.item] { startDownload(item); });
+            QMessageBox::AcceptRole);
+        connect(download, &QPushButton::clicked, this,
+            [this, item = check.item] { startDownload(item); });
     } else if (m_site.isValid()) {
-        buttons->addButton(
+        const auto *site = offer->addButton(
             localized(QT_TRANSLATE_NOOP3("Localizable", "Open Web Site", "update dialog, button")),
-            QDialogButtonBox::AcceptRole);
-        connect(dialog, &QDialog::accepted, this, [this] { QDesktopServices::openUrl(m_site); });
+            QMessageBox::AcceptRole);
+        connect(site, &QPushButton::clicked, this, [this] { QDesktopServices::openUrl(m_site); });
     } else {
-        layout->addWidget(plainLabel(localized(
+        offer->setInformativeText(localized(
             QT_TRANSLATE_NOOP3("Localizable", "Get it where you got Video Converter from.",
-                "update dialog, when neither a download nor a web site is known"))));
+                "update dialog, when neither a download nor a web site is known")));
     }
-    connect(buttons, &QDialogButtonBox::accepted, dialog, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
-    layout->addWidget(buttons);
-    dialog->show();
+    offer->show();
 }
 
 void UpdateDialogs::startDownload(const AppcastItem &item)
@@ -184,7 +150,8 @@ void UpdateDialogs::showEnd(UpdateDownload::End end, const QString &path)
     m_download.release()->deleteLater();
     const QFileInfo file(path);
     QMessageBox *box
-        = showMessage(formatted(endTexts.at(static_cast<std::size_t>(end)), { file.fileName() }));
+        = makeMessage(formatted(endTexts.at(static_cast<std::size_t>(end)), { file.fileName() }));
+    box->open();
     if (end != UpdateDownload::End::Saved)
         return;
     const auto *open = box->addButton(
@@ -194,13 +161,12 @@ void UpdateDialogs::showEnd(UpdateDownload::End end, const QString &path)
         [folder = file.path()] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
 }
 
-QMessageBox *UpdateDialogs::showMessage(const QString &text)
+QMessageBox *UpdateDialogs::makeMessage(const QString &text)
 {
     auto *box = new QMessageBox(QMessageBox::Information,
         localized(QT_TRANSLATE_NOOP3("Localizable", "Software Update", "update dialog, title")),
         text, QMessageBox::Ok, m_window);
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
     return box;
 }

@@ -25,7 +25,7 @@ private:
     void showAvailable(const UpdateCheck &check);
     void startDownload(const AppcastItem &item);
     void showEnd(UpdateDownload::End end, const QString &path);
-    QMessageBox *showMessage(const QString &text);
+    QMessageBox *makeMessage(const QString &text);
 
     Updater &m_updater;
     QWidget *m_window;
