@@ -185,7 +185,7 @@ void AppDelegate::connectWork()
         m_outlets->examiningLabel->setText(
             formatted(QT_TRANSLATE_NOOP3("Localizable", "Examining “%@”", "name of a video"),
                 { Path::lastPathComponent(path) }));
-        m_conversion.stayOpen();
+        m_closing.stayOpen();
         setUiState(WindowUIState::WaitingForCover);
     });
     connect(&m_intake, &FileIntake::kept, this, [this] {
@@ -247,7 +247,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 {
-    m_conversion.stayOpen();
+    m_closing.stayOpen();
     m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
     m_window.show();
     m_window.raise();
@@ -259,10 +259,6 @@ bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows)
 
 bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &m_window && event->type() == QEvent::Close && !m_conversion.mayCloseNow()) {
-        event->ignore();
-        return true;
-    }
     if (watched == &m_window && event->type() == QEvent::PaletteChange)
         m_outlets->spinner->setSpinColor(m_window.palette().color(QPalette::WindowText));
     if (watched == qApp && event->type() == QEvent::FileOpen) {

@@ -3,6 +3,7 @@
 
 #include "ui/window/ConversionFlow.h"
 #include "ui/window/FileIntake.h"
+#include "ui/window/WindowClosing.h"
 #include "ui/window/WindowUIState.h"
 
 class Announcement;
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<ConversionStatus> m_status;
     FileIntake m_intake{ &m_window };
     ConversionFlow m_conversion{ m_window, m_intake };
+    WindowClosing m_closing{ m_window, m_conversion };
     std::unique_ptr<StateNotes> m_notes;
     QAction *m_chosenEntry = nullptr;
     WindowUIState m_uiState = WindowUIState::InitialState;

@@ -161,30 +161,15 @@ void ConversionFlow::failWhileConverting(const std::optional<QString> &errmsg)
 
 void ConversionFlow::end()
 {
-    if (m_closesAfterRun && m_alerts == 0 && !isRunning())
-        m_window.close();
-    Q_EMIT ended();
-}
-
-bool ConversionFlow::mayCloseNow()
-{
-    if (m_progress && isRunning() && !cancelIfConfirmed())
-        return false;
-    // A cancelled run still removes its partial result.
-    m_closesAfterRun = isRunning();
-    m_window.setEnabled(!m_closesAfterRun);
-    return !m_closesAfterRun;
-}
-
-void ConversionFlow::stayOpen()
-{
-    m_closesAfterRun = false;
-    m_window.setEnabled(true);
+    if (m_alerts == 0 && !isRunning())
+        Q_EMIT ended();
 }
 
 bool ConversionFlow::cancelIfConfirmed()
 {
-    if (!m_progress || !confirmsCancel())
+    if (!m_progress)
+        return true;
+    if (!confirmsCancel())
         return false;
     Analytics::send(QString(), u"convert"_s, u"abort"_s, true);
     // The conversion may have ended while the question stood.

@@ -23,11 +23,11 @@ public:
     ~ConversionFlow() override;
 
     void choose(const std::optional<VideoConstraints> &constraints);
-    /// Asks, then cancels the conversion that is shown. True when it is cancelled.
+    /// Asks, then cancels the conversion that is shown, if any. False when the user wants it to go
+    /// on.
     bool cancelIfConfirmed();
-    /// Asks while a conversion runs. The window then closes by itself, when the tool is gone.
-    [[nodiscard]] bool mayCloseNow();
-    void stayOpen();
+    /// A tool runs, also while it writes its last bytes or its partial result is removed.
+    [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
     void openFolder() const;
     void openResult() const;
 
@@ -58,8 +58,6 @@ private:
     void progressWasCancelled();
     void failWhileConverting(const std::optional<QString> &errmsg);
     void end();
-    /// A tool runs, also while it writes its last bytes or its partial result is removed.
-    [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
 
     QMainWindow &m_window;
     const FileIntake &m_intake;
@@ -72,5 +70,4 @@ private:
     /// The last conversion, also after its bar is full: the tool may still write the last bytes.
     std::shared_ptr<Progress> m_run;
     int m_alerts = 0;
-    bool m_closesAfterRun = false;
 };
