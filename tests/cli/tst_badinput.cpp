@@ -37,16 +37,13 @@ private Q_SLOTS:
     {
         const Utf8 noVideo = "The file is not a video, or it is damaged or incomplete.";
         addRows<Utf8, Utf8>({ "video", "message" },
-            {
-                { "missing", "missing.mp4", "There is no such file." },
+            { { "missing", "missing.mp4", "There is no such file." },
                 { "empty name", "", "This is a folder, not a video." },
                 { "FIFO", "fifo.mp4", "This is a pipe or a device, not a file." },
                 { "device", "/dev/zero", "This is a pipe or a device, not a file." },
                 { "empty file", "empty.mp4", "The file is empty." },
-                { "text", "text.mp4", noVideo },
-                { "cut in the middle", "cut.mp4", noVideo },
-                { "too short", "short.mp4", "The video is shorter than one second." },
-            });
+                { "text", "text.mp4", noVideo }, { "cut in the middle", "cut.mp4", noVideo },
+                { "too short", "short.mp4", "The video is shorter than one second." } });
     }
     void video_isRefused()
     {
@@ -72,16 +69,14 @@ private Q_SLOTS:
     void strangeTool_fails_data()
     {
         addRows<Utf8, Utf8, Utf8>({ "tool", "script", "end" },
-            {
-                { "a library's word in front", "ffprobe",
-                    R"(print:{library}\n|out:{"format":{"size":"17"}})",
-                    "3: video.mp4: The file does not say how long it plays.\n" },
+            { { "a library's word in front", "ffprobe",
+                  R"(print:{library}\n|out:{"format":{"size":"17"}})",
+                  "3: video.mp4: The file does not say how long it plays.\n" },
                 { "broken tool", "ffprobe", R"(print:no library\n|exit:127)",
                     "5: video.mp4: The tool can't examine videos: no library\n" },
                 { "flood that is not UTF-8", "ffmpeg",
                     R"(output|flood:50000000|print:\xff bad \xd0\nlast words\n|exit:1)",
-                    "1: video.mp4: The tool failed: last words\n" },
-            });
+                    "1: video.mp4: The tool failed: last words\n" } });
     }
     void strangeTool_fails()
     {

@@ -32,8 +32,7 @@ private Q_SLOTS:
         const Utf8 folder = "The destination is a folder, not a file.";
         const Utf8 readOnlyFolder = "The destination's folder may not be written to.";
         addRows<Utf8, Utf8>({ "words", "message" },
-            {
-                { "the video, to be overwritten", "-o video.mp4 --overwrite", source },
+            { { "the video, to be overwritten", "-o video.mp4 --overwrite", source },
                 { "detour", "-o folder/.//../video.mp4 --overwrite", source },
                 { "symbolic link", "-o symlink.mp4 --overwrite", source },
                 { "hard link", "-o hardlink.mp4 --overwrite", source },
@@ -50,8 +49,7 @@ private Q_SLOTS:
                 { "file in a read-only folder", "-o readonly/x.mp4", readOnlyFolder },
                 { "to be replaced there", "-o readonly/exists.mp4 --overwrite", readOnlyFolder },
                 { "read-only file", "-o readonly.mp4 --overwrite",
-                    "The destination may not be written to." },
-            });
+                    "The destination may not be written to." } });
     }
     void destination_isRefused()
     {

@@ -38,9 +38,7 @@ private Q_SLOTS:
         const auto done = ExitCode::Done;
         // The rows' names are the words.
         addRows<ExitCode, Utf8>({ "code", "about" },
-            {
-                { "", usage, "Usage" },
-                { "burn a.mov", usage, "no command named \"burn\"" },
+            { { "", usage, "Usage" }, { "burn a.mov", usage, "no command named \"burn\"" },
                 { "convert --to MP4 -o b -i.mov", usage, "Unknown option" },
                 { "probe", usage, "needs a file" },
                 { "probe a --overwrite", usage, "'probe' does not take --overwrite" },
@@ -58,11 +56,9 @@ private Q_SLOTS:
                 { "convert --to mp4 a -d b --shard 3/2", usage, "2/8" },
                 { "convert --to mp4 a -d b --overwrite --skip-existing", usage, "exclude" },
                 { "convert --to all a -o b", usage, "'formats' lists" },
-                { "-h", done, "Exit status" },
-                { "--help plan", done, "--info" },
+                { "-h", done, "Exit status" }, { "--help plan", done, "--info" },
                 { "probe --help --burn", done, "probe FILE" },
-                { "--version", done, "video-converter-cli 1." },
-            });
+                { "--version", done, "video-converter-cli 1." } });
     }
     void line_isAnswered()
     {

@@ -82,8 +82,7 @@ private Q_SLOTS:
     void progress_followsTheOutput_data()
     {
         addRows<Utf8, Utf8, int, int, Utf8>({ "output", "steps", "lastDelta", "left", "error" },
-            {
-                { "last report of a chunk", "LENGTH|@10@60|@99", "60 99 100", -39, 1, "" },
+            { { "last report of a chunk", "LENGTH|@10@60|@99", "60 99 100", -39, 1, "" },
                 { "report beyond the end", "LENGTH|@50|@120", "50 100 100", -50, 0, "" },
                 { "too early to count", "@90|LENGTH", "100", 0, 100, "0s" },
                 { "one report explains nothing", "LENGTH|@7|@7", "7 7 100", 0, 93, "7s" },
@@ -98,8 +97,7 @@ private Q_SLOTS:
                     -100, 0, "" },
                 { "position beyond 64 bits", "LENGTHtime=9999999999999999:00:00 bitrate\\n|@100",
                     "100 100", -100, 0, "" },
-                { "length unknown", "Duration: N/A, start: 0|@90", "-1", 0, -1, "" },
-            });
+                { "length unknown", "Duration: N/A, start: 0|@90", "-1", 0, -1, "" } });
     }
     void progress_followsTheOutput()
     {

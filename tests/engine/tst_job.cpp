@@ -123,9 +123,7 @@ private Q_SLOTS:
         const Utf8 cutAt4
             = "The converting progress was finished at 4s|The video is damaged in places.";
         addRows<Utf8, Utf8, Utf8>({ "source", "entry", "said" },
-            {
-                { "whole", "whole.mp4", "MKV", "" },
-                { "cut", "cut-fast.mp4", "MKV", cutAt4 },
+            { { "whole", "whole.mp4", "MKV", "" }, { "cut", "cut-fast.mp4", "MKV", cutAt4 },
                 { "cut, encoded", "cut-whole.mkv", "AVI", cutAt4 },
                 { "odd size", "odd.avi", "MP4",
                     "|The picture was made a little smaller, because this output needs even "
@@ -143,8 +141,8 @@ private Q_SLOTS:
                 { "longer than its streams", "boasting.mp4", "MKV",
                     "The converting progress was finished at 8s" },
                 { "frames without time stamps", "bframes.avi", "MKV",
-                    "|The picture was encoded anew, because this output can't take it as it is." },
-            });
+                    "|The picture was encoded anew, because this output can't take it as it "
+                    "is." } });
     }
     void result_isMeasured()
     {
@@ -158,17 +156,13 @@ private Q_SLOTS:
     {
         using enum ConversionFormat;
         addRows<ConversionFormat, Utf8, Utf8, Utf8>({ "format", "container", "video", "audio" },
-            {
-                { "FLV", flv, "flv", "h264", "mp3" },
+            { { "FLV", flv, "flv", "h264", "mp3" },
                 { "MP4", mp4, "mov,mp4,m4a,3gp,3g2,mj2", "h264", "aac" },
                 { "MKV", mkv, "matroska,webm", "h264", "aac" },
                 { "MPEG-4", mov, "mov,mp4,m4a,3gp,3g2,mj2", "mpeg4", "aac" },
-                { "AVI", avi, "avi", "mpeg4", "mp3" },
-                { "MP3", mp3, "mp3", "", "mp3" },
-                { "MPEG-2", mpg, "mpeg", "mpeg2video", "ac3" },
-                { "GIF", gif, "gif", "gif", "" },
-                { "WebM", webm, "matroska,webm", "vp8", "vorbis" },
-            });
+                { "AVI", avi, "avi", "mpeg4", "mp3" }, { "MP3", mp3, "mp3", "", "mp3" },
+                { "MPEG-2", mpg, "mpeg", "mpeg2video", "ac3" }, { "GIF", gif, "gif", "gif", "" },
+                { "WebM", webm, "matroska,webm", "vp8", "vorbis" } });
     }
     void everyFormat_isReallyMade()
     {

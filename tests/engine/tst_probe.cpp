@@ -59,16 +59,14 @@ private Q_SLOTS:
     void file_getsOneAnswer_data()
     {
         addRows<Utf8, Utf8, Utf8>({ "name", "missingTool", "answer" },
-            {
-                { "video", "five.mp4", "", "5s, 320 x 180" },
+            { { "video", "five.mp4", "", "5s, 320 x 180" },
                 { "cover would lie behind the end", "fifteen.mkv", "", "15s, 0 x 0" },
                 { "large picture", "8k.mov", "", "3s, 8192 x 4320" },
                 { "sound alone", "sound.mp3", "", "5s, 0 x 0" },
                 { "FIFO", "fifo.mp4", "", "This is a pipe or a device, not a file." },
                 { "no ffprobe", "five.mp4", "ffprobe",
                     "The tool TOOL is missing or can't be run." },
-                { "no ffmpeg, so no cover", "five.mp4", "ffmpeg", "5s, 0 x 0" },
-            });
+                { "no ffmpeg, so no cover", "five.mp4", "ffmpeg", "5s, 0 x 0" } });
     }
     void file_getsOneAnswer()
     {

@@ -141,10 +141,9 @@ private Q_SLOTS:
         const Utf8 noSpace = "There is no space left on the destination's disk.";
         const Utf8 killed = "The tool was killed before it was done.";
         addRows<QByteArray, Utf8>({ "output", "sentence" },
-            {
-                { "disk full in the middle",
-                    report + "av_interleaved_write_frame(): No space left on device\n" + end,
-                    noSpace },
+            { { "disk full in the middle",
+                  report + "av_interleaved_write_frame(): No space left on device\n" + end,
+                  noSpace },
                 { "disk full, then an encoder that can't start",
                     "Could not write header for output file #0: No space left on device\n"
                     "Error initializing output stream 0:0 -- \nConversion failed!\n",
@@ -169,8 +168,7 @@ private Q_SLOTS:
                 { "percent signs, control characters, bad bytes", "100%d %s \x1b[31mred \xff\n",
                     "The tool failed: 100%d %s \x1b[31mred \ufffd" },
                 { "long ago", ": No space left on device\n" + QByteArray("chatter\n").repeated(300),
-                    "The tool failed: chatter" },
-            });
+                    "The tool failed: chatter" } });
     }
     void failure_getsASentence()
     {

@@ -113,8 +113,7 @@ private Q_SLOTS:
         const QByteArray refused = "Permission denied =0";
         const auto socket = [](int family) { return "socket:" + QByteArray::number(family); };
         addRows<QByteArray, QByteArray>({ "attempt", "answer" },
-            {
-                { "reads the source", "read:SOURCE/video.mp4", allowed },
+            { { "reads the source", "read:SOURCE/video.mp4", allowed },
                 { "reads the source's neighbour", "read:SOURCE/diary.txt", refused },
                 { "writes the source", "write:SOURCE/video.mp4", refused },
                 { "empties the source", "truncate:SOURCE/video.mp4", refused },
@@ -149,8 +148,7 @@ private Q_SLOTS:
                 { "starts processes", "fork", "Operation not permitted =0" },
                 { "starts threads", "threads:64", allowed },
                 { "starts threads without end", "threads:1000000", "no more =0" },
-                { "opens files without end", "descriptors", "Too many open files =0" },
-            });
+                { "opens files without end", "descriptors", "Too many open files =0" } });
     }
     void sandbox_refusesWhatIsNotNeeded()
     {

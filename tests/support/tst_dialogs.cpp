@@ -48,11 +48,9 @@ private Q_SLOTS:
     void alert_showsPlainText_data()
     {
         addRows<bool, QStringList>({ "isQuestion", "texts" },
-            {
-                { "question", true, { u"<i>100%d</i>\nnext"_s } },
+            { { "question", true, { u"<i>100%d</i>\nnext"_s } },
                 { "mark-up", false, { u"<b>a</b>.mp4"_s, u"<a href='x'>100%d</a>\nnext"_s } },
-                { "long names", false, { QString(250, u'm'), u"🎬"_s.repeated(250) } },
-            });
+                { "long names", false, { QString(250, u'm'), u"🎬"_s.repeated(250) } } });
     }
     void alert_showsPlainText()
     {

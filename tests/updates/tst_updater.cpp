@@ -118,8 +118,7 @@ private Q_SLOTS:
         const auto signedAs
             = [&](const QByteArray &signature) { return feed(item("1.6", right, signature)); };
         addRows<Answer, UpdateCheck::Outcome>({ "answer", "outcome" },
-            {
-                { "newest", feed(good("1.9") + good("1.10") + good("1.10-rc1")), Available },
+            { { "newest", feed(good("1.9") + good("1.10") + good("1.10-rc1")), Available },
                 { "newer unsigned", feed(good("1.10") + item("1.11", right, right)), Available },
                 { "nothing newer", feed(good("1.5.0") + good("1.5-rc1")), UpToDate },
                 { "nothing", feed({}), UpToDate },
@@ -134,8 +133,7 @@ private Q_SLOTS:
                 { "never ends", { .body = "<rss>", .isEndless = true }, Failed },
                 { "missing", { .status = "404 Not Found", .body = "<rss/>" }, Failed },
                 { "redirected in a circle", redirection("/update.xml"), Failed },
-                { "redirected out of the web", redirection("data:text/xml,<rss/>"), Failed },
-            });
+                { "redirected out of the web", redirection("data:text/xml,<rss/>"), Failed } });
     }
     void check_judgesTheFeed()
     {
