@@ -7,6 +7,7 @@
 #include "engine/Task.h"
 #include "planning/ConversionDescriptor.h"
 #include "support/Interruption.h"
+#include "support/Path.h"
 #include "support/StandardInput.h"
 #include "support/Text.h"
 
@@ -47,9 +48,16 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             words.prepend(toolPath(Tool::Ffmpeg));
         if (line.entries.size() > 1)
             Output::line(u"# "_s + entry.destDevice);
+        QString text = Text::shellQuoted(words);
+        // What was found keeps its place in a tree, which may not be there yet.
+        if (item && item->input.isFound)
+            text.prepend(Text::shellQuoted({ u"mkdir"_s, u"-p"_s,
+                             Path::stringByDeletingLastPathComponent(item->destPath) })
+                + u" && "_s);
         // The tool would read the lines after its own, where many are pasted.
-        const bool isOneOfMany = !line.folder.isEmpty();
-        Output::line(Text::shellQuoted(words) + (isOneOfMany ? u" </dev/null"_s : QString()));
+        if (!line.folder.isEmpty())
+            text += u" </dev/null"_s;
+        Output::line(text);
     }
     if (line.json)
         Output::json(QJsonDocument(object),

@@ -28,9 +28,10 @@ void setAside()
 std::optional<QByteArray> contentsOf(const QString &name, qint64 limit)
 {
     QFile file(name);
-    if (name == u"-" || name == u"/dev/stdin")
-        return file.open(original, QIODevice::ReadOnly) ? file.read(limit) : QByteArray();
-    return file.open(QIODevice::ReadOnly) ? std::optional(file.read(limit)) : std::nullopt;
+    const bool isOpen = name == u"-" || name == u"/dev/stdin"
+        ? original >= 0 && file.open(original, QIODevice::ReadOnly)
+        : file.open(QIODevice::ReadOnly);
+    return isOpen ? std::optional(file.read(limit)) : std::nullopt;
 }
 
 }

@@ -12,7 +12,7 @@ namespace StandardInput {
 /// thing in main.
 void setAside();
 /// What a file holds, or for "-" and "/dev/stdin" all that comes from the input that was put aside;
-/// at most `limit` bytes. Absent when the file can't be read.
+/// at most `limit` bytes. Absent when it can't be read, or was closed.
 [[nodiscard]] std::optional<QByteArray> contentsOf(const QString &name, qint64 limit);
 
 }

@@ -108,13 +108,13 @@ ExitCode failure(const QString &file, const Outcome &outcome)
 
 bool hasFailed() { return failed; }
 
-int terminalColumns()
+QSize terminalSize()
 {
     if (::isatty(STDOUT_FILENO) == 0 || qgetenv("TERM") == "dumb")
-        return 0;
+        return {};
     struct winsize size { };
     const bool known = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return known ? size.ws_col : 80;
+    return known ? QSize(size.ws_col, size.ws_row) : QSize(80, 24);
 }
 
 }

@@ -4,6 +4,7 @@
 #include "cli/ExitCode.h"
 
 #include <QJsonDocument>
+#include <QSize>
 #include <QString>
 
 /// Standard output and standard error. A reader that has gone interrupts the program. Thread: any.
@@ -26,7 +27,7 @@ void diagnostics(const QByteArray &bytes);
 /// Standard output could not be written, other than because its reader has gone.
 [[nodiscard]] bool hasFailed();
 
-/// 0 when standard output is no terminal that can move its cursor.
-[[nodiscard]] int terminalColumns();
+/// Columns and rows; not valid when standard output is no terminal that can move its cursor.
+[[nodiscard]] QSize terminalSize();
 
 }

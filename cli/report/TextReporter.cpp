@@ -25,7 +25,7 @@ class TextReporter : public Reporter {
 public:
     explicit TextReporter(bool isQuiet)
         : m_isQuiet(isQuiet)
-        , m_isTerminal(!isQuiet && Output::terminalColumns() > 0)
+        , m_isTerminal(!isQuiet && Output::terminalSize().isValid())
     {
     }
 
@@ -43,16 +43,18 @@ public:
             std::ranges::for_each(running, printStep);
             return;
         }
-        const int columns = Output::terminalColumns();
+        const QSize terminal = Output::terminalSize();
         QStringList bars;
         for (const RunningSample &each : running)
-            bars << progressBar(each.item.input.name, each.sample, columns);
+            bars << progressBar(each.item.input.name, each.sample, terminal.width());
         if (sum.all > 1)
             bars << progressBar(formatted(QT_TRANSLATE_NOOP3("Localizable", "%d of %d",
                                               "Number of videos that are done, and of all"),
                                     { qint64(sum.ended()), qint64(sum.all) }),
                 { .completed = whole.completed, .total = whole.total, .left = whole.left },
-                columns);
+                terminal.width());
+        // What has scrolled away can't be drawn over.
+        bars = bars.last(std::min<qsizetype>(bars.size(), std::max(1, terminal.height())));
         Output::raw(toFirstBar() + bars.join(u"\u001b[K\n"_s) + u"\u001b[K\u001b[J"_s);
         m_shownBars = static_cast<int>(bars.size());
     }

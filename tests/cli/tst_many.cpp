@@ -75,7 +75,8 @@ private Q_SLOTS:
                 u"failed broken.mkv not-media"_s, u"failed n\uFFFD.mkv name-not-text"_s,
                 u"skipped  not-media"_s, u"skipped  not-media"_s, u"skipped  not-media"_s,
                 u"skipped  not-media"_s, u"skipped  too-short"_s }));
-        QCOMPARE(m_command.run(u"plan --to mkv -r in -d planned"_s).out.count(u'\n'), 2);
+        m_command.shell(m_command.run(u"plan --to mkv -r in -d planned"_s).out);
+        QCOMPARE(m_command.listing().filter(u"planned/"_s).filter(u".mkv"_s).size(), 2);
         QCOMPARE(m_command.listing().filter(u"out/"_s).filter(u".mkv"_s).size(), 2);
         QVERIFY(QFile::exists(m_command.path(u"out/sub/a.mkv"_s)));
 

@@ -44,9 +44,8 @@ constexpr Shade shades[] = {
 };
 // clang-format on
 
-/// The desktop's style. It leaves out what a menu bar draws where its menus find no room: the
-/// window is never so narrow, and Qt loads each of its image plugins for that arrow as soon as
-/// there is a menu bar.
+/// The desktop's style without the arrow of a menu bar that is too narrow, which ours never is: Qt
+/// would load each of its image plugins for it.
 class Style : public QProxyStyle {
 public:
     QIcon standardIcon(

@@ -16,8 +16,7 @@ namespace {
 /// A name may hold line breaks and other controls; it still takes one line.
 QString onOneLine(QString text)
 {
-    // No expression: its library would be the first thing that the window's start loads for
-    // nothing.
+    // No expression: its library would be loaded at each start for this alone.
     const auto breaksLine = [](QChar character) {
         return character.category() == QChar::Other_Control || character == QChar::LineSeparator
             || character == QChar::ParagraphSeparator;

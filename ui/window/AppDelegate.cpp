@@ -172,10 +172,9 @@ void AppDelegate::connectControls()
     connect(outlets.dropAcceptor, &DropBox::performDragOperation, &m_intake,
         &FileIntake::performDragOperation);
     connect(m_status.get(), &ConversionStatus::notificationActivated, this, [this] {
-        if (m_uiState == WindowUIState::ConversionIsDone)
-            m_conversion.openFolder();
-        else
-            applicationShouldHandleReopen(m_window.isVisible());
+        m_uiState == WindowUIState::ConversionIsDone
+            ? m_conversion.openFolder()
+            : void(applicationShouldHandleReopen(m_window.isVisible()));
     });
 }
 
