@@ -43,9 +43,8 @@ constexpr quint64 firstRights = (1ULL << 13) - 1;
 constexpr auto systemTrees = std::to_array<QStringView>({ u"/usr", u"/lib", u"/lib64", u"/opt",
     u"/nix/store", u"/gnu/store", u"/home/linuxbrew/.linuxbrew", u"/etc/fonts",
     u"/var/cache/fontconfig", u"/sys/devices/system" });
-constexpr auto systemFiles
-    = std::to_array<QStringView>({ u"/etc/ld.so.cache", u"/etc/ld.so.preload", u"/etc/localtime",
-        u"/proc/cpuinfo", u"/proc/meminfo", u"/dev/zero", u"/dev/urandom" });
+constexpr auto systemFiles = std::to_array<QStringView>({ u"/etc/ld.so.cache", u"/etc/localtime",
+    u"/proc/cpuinfo", u"/proc/meminfo", u"/dev/zero", u"/dev/urandom" });
 
 // Rights that the running kernel can restrict; 0 when it has none.
 quint64 handledRights(long version)
