@@ -45,7 +45,7 @@ QString streamText(const JSON &stream)
 
 void printField(const LocalizedText &name, const QString &value)
 {
-    Output::line(leftJustified(localized(name) + u": "_s, 12) + value);
+    Output::line(leftJustified(localized(name) + u": "_s, 14) + value);
 }
 
 void printText(const VideoDescription &video)

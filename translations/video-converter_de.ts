@@ -1071,7 +1071,7 @@ Möchten Sie wirklich fortfahren?</translation>
     </message>
     <message>
         <source>Choose what the video becomes</source>
-        <translation>Auswählen, in was das Video konvertiert wird</translation>
+        <translation>Auswählen, in welches Format das Video konvertiert wird</translation>
     </message>
     <message>
         <source>Converting…</source>

@@ -216,7 +216,7 @@
     <message>
         <source>Length</source>
         <comment>Property of a video</comment>
-        <translation>Длина</translation>
+        <translation>Длительность</translation>
     </message>
     <message>
         <source>Container</source>
@@ -1103,7 +1103,7 @@ Are you sure you want to continue?</source>
     </message>
     <message>
         <source>Convert Another</source>
-        <translation>Конвертировать ещё</translation>
+        <translation>Конвертировать ещё одно</translation>
     </message>
     <message>
         <source>Start over with another video</source>
