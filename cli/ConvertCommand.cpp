@@ -54,8 +54,7 @@ Outcome outcomeOf(const Progress &progress)
 }
 
 /// Converts many videos, several side by side, and examines the next ones meanwhile. What one of
-/// them comes to touches no other, except that a missing tool or an interruption ends all. Each
-/// tool is a process of its own.
+/// them comes to touches no other, except that a missing tool or an interruption ends all.
 class Batch {
 public:
     Batch(const CommandLine &line, std::vector<ConversionItem> items, Reporter &reporter)
@@ -208,6 +207,9 @@ private:
 
     void start(Video video)
     {
+        // Another run that ended meanwhile may have taken an empty one for its own.
+        if (video.item->input.isFound)
+            makeFolder(Path::stringByDeletingLastPathComponent(video.item->destPath));
         m_reporter.started(*video.item);
         video.clock.start();
         video.progress = Conversion::start(jobOf(video), video.olderFile, [](const auto &) {});
@@ -230,13 +232,13 @@ private:
             samples.push_back({ *item, sample, video.lastReported });
         }
         // What was skipped took no time and says nothing about the rest.
-        constexpr qint64 parts = 1000;
+        constexpr double parts = 1000;
         const auto done = static_cast<double>(m_sum.ended() - m_sum.skipped) + fraction;
-        ProgressSample whole{ .completed = static_cast<qint64>(done * static_cast<double>(parts)),
-            .total = static_cast<qint64>(m_sum.all - m_sum.skipped) * parts,
+        const auto all = static_cast<double>(m_sum.all - m_sum.skipped);
+        ProgressSample whole{ .completed = static_cast<qint64>(done * parts),
+            .total = static_cast<qint64>(all * parts),
             .elapsed = std::chrono::milliseconds(m_clock.elapsed()) };
-        whole.left
-            = m_timeLeft.at(whole.elapsed, done / static_cast<double>(m_sum.all - m_sum.skipped));
+        whole.left = m_timeLeft.at(whole.elapsed, done / all);
         m_reporter.progressed(samples, m_sum, whole);
     }
 
