@@ -23,21 +23,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool isBlocked() { return QApplication::activeModalWidget() != nullptr; }
-
-bool confirmsCancel()
-{
-    return !isBlocked()
-        && displayQuestion(localized(QT_TRANSLATE_NOOP3("Localizable",
-            "Attention! Current converting process will be cancelled.\nAre you sure you want to "
-            "continue?",
-            "Cancel progress alert message text")));
-}
-
-}
-
 ConversionFlow::ConversionFlow(QMainWindow &window, const FileIntake &intake)
     : m_window(window)
     , m_intake(intake)
@@ -54,7 +39,7 @@ ConversionFlow::~ConversionFlow()
 
 void ConversionFlow::choose(const std::optional<VideoConstraints> &constraints)
 {
-    if (!constraints || !m_intake.processingInfo() || isBlocked())
+    if (!constraints || !m_intake.processingInfo() || QApplication::activeModalWidget())
         return;
     const QString source = m_intake.processingFilePath();
     const QString folder = Path::stringByDeletingLastPathComponent(source);
@@ -169,7 +154,11 @@ bool ConversionFlow::cancelIfConfirmed()
 {
     if (!m_progress)
         return true;
-    if (!confirmsCancel())
+    if (QApplication::activeModalWidget()
+        || !displayQuestion(localized(QT_TRANSLATE_NOOP3("Localizable",
+            "Attention! Current converting process will be cancelled.\nAre you sure you want to "
+            "continue?",
+            "Cancel progress alert message text"))))
         return false;
     Analytics::send(QString(), u"convert"_s, u"abort"_s, true);
     // The conversion may have ended while the question stood.

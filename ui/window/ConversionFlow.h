@@ -23,8 +23,7 @@ public:
     ~ConversionFlow() override;
 
     void choose(const std::optional<VideoConstraints> &constraints);
-    /// Asks, then cancels the conversion that is shown, if any. False when the user wants it to go
-    /// on.
+    /// Asks, then cancels what is shown, if anything. False when it is to go on.
     bool cancelIfConfirmed();
     /// A tool runs, also while it writes its last bytes or its partial result is removed.
     [[nodiscard]] bool isRunning() const { return m_run && !m_run->isEnded(); }
