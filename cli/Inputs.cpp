@@ -121,7 +121,10 @@ Inputs inputsOf(const CommandLine &line)
         const auto list = StandardInput::contentsOf(line.list, listLimit);
         if (!list)
             return { .refusedName = line.list, .refusal = { Reason::ListNotReadable } };
-        for (const QByteArray &name : list->split(line.listIsNullSeparated ? '\0' : '\n')) {
+        for (QByteArray name : list->split(line.listIsNullSeparated ? '\0' : '\n')) {
+            // Lists from other systems end their lines so.
+            if (!line.listIsNullSeparated && name.endsWith('\r'))
+                name.chop(1);
             if (!name.isEmpty())
                 names << QFile::decodeName(name);
         }

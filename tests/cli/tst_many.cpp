@@ -104,9 +104,10 @@ private Q_SLOTS:
 
     void list_isDividedByNamesAlone()
     {
-        m_command.shell(u"for i in 1 2 3 4 5 6; do mkdir n$i; cp video.mp4 n$i/v.mov; done;"
-                        "mv n6/v.mov n6/V.mov;"
-                        "ls n*/* > list; ls -r n*/* | tr '\\n' '\\0' > reversed; mkdir o"_s);
+        m_command.shell(
+            u"for i in 1 2 3 4 5 6; do mkdir n$i; cp video.mp4 n$i/v.mov; done;"
+            "mv n6/v.mov n6/V.mov;"
+            "ls n*/* | sed 's/$/\\r/' > list; ls -r n*/* | tr '\\n' '\\0' > reversed; mkdir o"_s);
         QStringList parts;
         for (const QString &shard : { u"list --shard 1/2"_s, u"reversed -0 --shard 2/2"_s }) {
             const QStringList part
