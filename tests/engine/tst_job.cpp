@@ -186,7 +186,7 @@ private Q_SLOTS:
     {
         addRows<Utf8, Utf8, Utf8>({ "source", "script", "results" },
             { { "success", "whole.mp4", "", "out.mkv" },
-                { "short", "cut-fast.mp4", "", "out (earlier).mkv out.mkv" },
+                { "short", "cut-fast.mp4", "", "out (earlier 2).mkv out (earlier).mkv out.mkv" },
                 { "failure", "whole.mp4", "output|exit:1", "out.mkv" },
                 { "cancelled", "whole.mp4", "output|forever", "out.mkv" } });
     }
@@ -196,6 +196,8 @@ private Q_SLOTS:
         QFETCH(const QString, script);
         QFETCH(const QString, results);
         write(u"out.mkv"_s, "older");
+        if (results.contains(u"earlier"))
+            write(u"out (earlier).mkv"_s, "oldest");
         QVERIFY(QFile::setPermissions(path(u"out.mkv"_s), QFile::ReadOwner | QFile::WriteOwner));
         const ConversionJob request = job(source, u"out.mkv"_s, u"MKV"_s);
         std::optional<ToolSwap> swap;
@@ -211,7 +213,7 @@ private Q_SLOTS:
         const bool isReplaced = script.isEmpty();
         QCOMPARE(contents(u"out.mkv"_s) == "older", !isReplaced);
         if (results.contains(u"earlier"))
-            QCOMPARE(contents(u"out (earlier).mkv"_s), "older");
+            QCOMPARE(contents(u"out (earlier 2).mkv"_s), "older");
         QCOMPARE(QFile::permissions(path(u"out.mkv"_s)) & QFile::Permissions(0x77),
             QFile::Permissions());
         QCOMPARE(done(request, OlderFile::Kept).reason, Reason::DestinationExists);

@@ -80,8 +80,6 @@ private Q_SLOTS:
         QDialog &window = Static::aboutWindow();
         QVERIFY(info.remove());
         window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
 
         QCOMPARE(window.windowTitle(), u"About Video <b>Turner"_s);
         QCOMPARE(plainTexts(window).join(u'|'), u"Video <b>Turner|Version 7.8"_s);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/fixtures/Rows.h"
 #include "ui/widgets/Appearance.h"
+#include "ui/widgets/Color.h"
+#include "ui/widgets/ProgressBar.h"
 #include "ui/window/ProposedName.h"
 
 #include <QTemporaryDir>
@@ -9,7 +11,6 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 class tst_widgets : public QObject {
     Q_OBJECT
@@ -56,6 +57,25 @@ private Q_SLOTS:
                 QVERIFY2(high / low >= least, qPrintable(QString::number(high / low)));
             }
         }
+    }
+
+    void bar_fillsFromItsStart()
+    {
+        for (const Qt::LayoutDirection direction : { Qt::LeftToRight, Qt::RightToLeft }) {
+            ProgressBar bar;
+            bar.setLayoutDirection(direction);
+            bar.resize(200, bar.sizeHint().height());
+            bar.setFraction(0.25);
+            const QImage image = bar.grab().toImage();
+            const auto isFilled = [&](int x) {
+                return image.pixelColor(x, image.height() / 2)
+                    == bar.palette().color(QPalette::Link);
+            };
+            QCOMPARE(isFilled(40), direction == Qt::LeftToRight);
+            QCOMPARE(isFilled(160), direction == Qt::RightToLeft);
+            QVERIFY(!isFilled(60) && !isFilled(140));
+        }
+        QCOMPARE(Color::rgb(1, 2, 255), QColor::fromRgbF(1, 0, 0));
     }
 
     void proposedName_isNeverTheSource_data()

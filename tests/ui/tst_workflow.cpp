@@ -226,8 +226,16 @@ private Q_SLOTS:
             bring();
             QVERIFY2(waitFor(WindowUIState::CoverIsSet), name);
         }
+        QList<QColor> veils;
+        m_user.whileDragging = [&] {
+            const QImage veil = view("dropAcceptor")->grab().toImage();
+            veils << veil.pixelColor(30, 30) << veil.pixelColor(8, veil.height() / 2);
+        };
         QVERIFY(!drop({}) && !drop({ u"http://localhost/video.mov"_s }));
         QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
+        QVERIFY(open());
+        QVERIFY(veils[0] == veils[2] && veils[0] != veils[4]);
+        QCOMPARE(veils[5], QApplication::palette().color(QPalette::Link));
     }
 
     void severalVideos_areCounted()
