@@ -49,7 +49,8 @@ QSize SpinningView::sizeHint() const
 
 void SpinningView::animate()
 {
-    m_spinning &&m_awake ? m_timer.start() : m_timer.stop();
+    const bool isTurning = m_spinning && m_awake;
+    isTurning ? m_timer.start() : m_timer.stop();
     update();
 }
 
