@@ -12,6 +12,7 @@
 #include "support/Localized.h"
 #include "support/StandardInput.h"
 #include "support/Translation.h"
+#include "ui/desktop/Fonts.h"
 #include "ui/desktop/SingleInstance.h"
 #include "ui/widgets/Appearance.h"
 #include "ui/widgets/ImageView.h"
@@ -22,6 +23,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QTimer>
 
@@ -107,7 +109,9 @@ int main(int argc, char *argv[])
 {
     StandardInput::setAside();
     CrashReporter::start();
+    readFontsAhead();
     const QApplication application(argc, argv);
+    Async::background([] { QFontDatabase::families(); }); // read before the first text asks
     // Without a question, as the desktop's session or the user's shell does not wait for an answer.
     const Interruption interruption;
     QObject::connect(&interruption, &Interruption::arrived, &application,

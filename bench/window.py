@@ -38,8 +38,8 @@ class Screen:
         self.server.wait()
 
     def ink(self):
-        """Bytes of the picture that are not black."""
-        picture = self.pixels[4096:]
+        """Bytes of the picture that are not black, of a sample: to read all of it would keep a core from the program."""
+        picture = self.pixels[4096::401]
         return len(picture) - picture.count(b"\0")
 
     def first_paint(self, command):
@@ -47,7 +47,7 @@ class Screen:
         started = time.perf_counter()
         program = subprocess.Popen([str(c) for c in command], env=self.env, stdin=subprocess.DEVNULL,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        while self.ink() - self.blank < 200_000:
+        while self.ink() - self.blank < 500:
             time.sleep(0.001)
         seconds = time.perf_counter() - started
         time.sleep(2)
@@ -55,7 +55,7 @@ class Screen:
         mebibytes = int(status.split("VmRSS:")[1].split()[0]) / 1024
         program.kill()
         program.wait()
-        while self.ink() - self.blank > 1000:
+        while self.ink() - self.blank > 0:
             time.sleep(0.01)
         return seconds, mebibytes
 
@@ -83,7 +83,7 @@ def measure(build, folder):
     print("The window")
     with Screen(folder) as screen:
         rounds = [(screen.first_paint([build / "VideoConverter.app/Contents/MacOS/video-converter"]),
-                   screen.first_paint([build / "bench/bench-empty-window"])) for _ in range(7)]
+                   screen.first_paint([build / "bench/bench-empty-window"])) for _ in range(15)]
         ours, empty = (statistics.median(r[i][0] for r in rounds) for i in (0, 1))
         ours_memory, empty_memory = (statistics.median(r[i][1] for r in rounds) for i in (0, 1))
         print(f"{'start to first paint':34} {ours * 1000:.0f} ms / empty window {empty * 1000:.0f} ms = {ours / empty:.2f}")

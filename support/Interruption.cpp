@@ -16,13 +16,6 @@ std::atomic<int> firstSignal = 0;
 // A signal handler may do no more than write to a pipe; the event loop reads it.
 std::array<int, 2> wakeUp{ -1, -1 };
 
-extern "C" void handleSignal(int signalNumber)
-{
-    const int error = errno;
-    Interruption::request(signalNumber);
-    errno = error;
-}
-
 // Ignored ones stay so: nohup and a script's background jobs leave them like that.
 void watch(int signalNumber)
 {
@@ -30,7 +23,7 @@ void watch(int signalNumber)
     if (::sigaction(signalNumber, nullptr, &action) == 0 && action.sa_handler == SIG_IGN)
         return;
     action = {};
-    action.sa_handler = handleSignal;
+    action.sa_handler = Interruption::request;
     ::sigemptyset(&action.sa_mask);
     // No SA_RESTART: a write to a reader that does not read must end too.
     ::sigaction(signalNumber, &action, nullptr);
@@ -61,9 +54,11 @@ int Interruption::signal() { return firstSignal; }
 
 void Interruption::request(int signalNumber)
 {
+    const int error = errno;
     int none = 0;
     firstSignal.compare_exchange_strong(none, signalNumber);
     const char byte = 0;
     // A full pipe wakes the loop as well.
     [[maybe_unused]] const ssize_t written = ::write(wakeUp[1], &byte, 1);
+    errno = error;
 }

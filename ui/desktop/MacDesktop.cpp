@@ -3,6 +3,7 @@
 // not shown there yet.
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/FileBrowser.h"
+#include "ui/desktop/Fonts.h"
 #include "ui/desktop/KeepAwake.h"
 #include "ui/desktop/LauncherProgress.h"
 
@@ -25,6 +26,8 @@ std::shared_ptr<void> keepAwake(const QString & /*reason*/)
         { u"-i"_s, u"-w"_s, QString::number(QCoreApplication::applicationPid()) });
     return process;
 }
+
+void readFontsAhead() { }
 
 void LauncherProgress::show(std::optional<int> /*percent*/, bool /*urgent*/) { }
 

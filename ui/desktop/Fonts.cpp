@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "ui/desktop/Fonts.h"
+
+#include <fontconfig/fontconfig.h>
+
+#include <malloc.h>
+
+#include <clocale>
+#include <thread>
+
+void readFontsAhead()
+{
+    // One heap: what the reading frees serves the window.
+    mallopt(M_ARENA_MAX, 1);
+    // The application sets the same once more; a change would meet the numbers that are being read.
+    std::setlocale(LC_ALL, "");
+    std::thread(FcInit).detach();
+}
