@@ -19,8 +19,7 @@ public:
 
     [[nodiscard]] static QString appIdentifier();
     [[nodiscard]] static QString appVersion();
-    /// The installation's random id, made by the first reading; "unknown" when the stored one is
-    /// empty.
+    /// The installation's random id, made when first read; "unknown" if the stored one is empty.
     [[nodiscard]] static QString userId();
     [[nodiscard]] static QString locale();
 

@@ -28,6 +28,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <future>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -41,11 +42,6 @@ void describe()
     QApplication::setApplicationDisplayName(u"Video Converter"_s);
     QApplication::setApplicationVersion(Configuration::version());
     QApplication::setDesktopFileName(u"org.example.VideoConverter"_s);
-    // Not by its file name, for which Qt would load plugins that nothing else needs at the start.
-    QIcon icon;
-    for (const int side : { 16, 32, 64, 128 })
-        icon.addPixmap(drawnArtwork(u":/icons/video-converter.svg"_s, { side, side }));
-    QApplication::setWindowIcon(icon);
 }
 
 /// Ends the program when only help or the version is asked for.
@@ -86,6 +82,11 @@ private:
 
 int runWindow(SingleInstance &instance, const QStringList &videos)
 {
+    // Not by its file name, for which Qt would load plugins that nothing else needs at the start.
+    QIcon icon;
+    for (const int side : { 16, 32, 64, 128 })
+        icon.addPixmap(drawnArtwork(u":/icons/video-converter.svg"_s, { side, side }));
+    QApplication::setWindowIcon(icon);
     const Appearance appearance;
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
@@ -111,7 +112,6 @@ int main(int argc, char *argv[])
     CrashReporter::start();
     readFontsAhead();
     const QApplication application(argc, argv);
-    Async::background([] { QFontDatabase::families(); }); // read before the first text asks
     // Without a question, as the desktop's session or the user's shell does not wait for an answer.
     const Interruption interruption;
     QObject::connect(&interruption, &Interruption::arrived, &application,
@@ -120,6 +120,8 @@ int main(int argc, char *argv[])
     const QLocale language(Translation::install(Bundle::main()));
     QApplication::setLayoutDirection(language.textDirection());
     const QStringList videos = filesOnCommandLine(application);
+    // Read before the first text asks; the application must not end meanwhile.
+    const auto fonts = std::async(std::launch::async, [] { return QFontDatabase::families(); });
     SingleInstance instance;
     if (instance.handOver(videos))
         return 0;

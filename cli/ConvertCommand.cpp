@@ -145,8 +145,7 @@ private:
             item.input.path,
             [this, &item](const Outcome &refusal) {
                 --m_examining;
-                // The same Ctrl-C may have stopped the tool: its refusal says nothing about the
-                // video.
+                // The same Ctrl-C may have stopped the tool: its refusal means nothing.
                 if (Interruption::signal() == 0)
                     settle(item, refusal);
                 goOn();

@@ -15,8 +15,7 @@ class CrashReports {
 public:
     using Question = std::function<SendReport(const QString &report)>;
 
-    /// Asks about each new report, newest first, and sends those that may be, with those that did
-    /// not arrive the last time.
+    /// Asks about each new report, newest first; sends what may be sent, also earlier ones.
     void uploadPending(const Question &ask);
     /// Tells that a session starts and how the one before ended, if the user has agreed to
     /// everything being sent. The clean end is noted when the application is about to quit.

@@ -47,8 +47,7 @@ struct Tries {
         ConversionJob job = wanted;
         Outcome outcome = tryOnce(job, staged);
         QList<Remedy> remedies;
-        // Music may come with a cover and with a sample rate that the output can't hold: one more
-        // try for each cause.
+        // Music may come with a cover and a sample rate that the output can't hold: a try for each.
         for (Remedy remedy = remedyFor(outcome, output, job);
              remedy != Remedy::None && !remedies.contains(remedy) && !progress->isCancelled();
              remedy = remedyFor(outcome, output, job)) {

@@ -30,8 +30,7 @@ struct Run {
 
     void run()
     {
-        // The tool would empty a source that is its own destination, and the clean-up would remove
-        // it.
+        // The tool would empty a source that is its own destination.
         if (const auto refusal
             = refusalOf({ .path = job.destPath, .sources = { job.path }, .overwrite = true })) {
             end(*refusal);

@@ -85,8 +85,7 @@ struct Outcome {
     qint64 seconds = 0;
     /// What further tries did differently, in their order.
     QList<Remedy> remedies = {};
-    /// Places in the source's data where the tool met errors and went on, and the second of the
-    /// first one.
+    /// Places of the source where the tool met errors and went on, and the second of the first.
     int damagedPlaces = 0;
     std::optional<qint64> firstDamage = {};
     /// The name under which an older file of the result's name was kept.
@@ -104,6 +103,5 @@ struct Outcome {
 [[nodiscard]] bool mayBeTheVideos(const Outcome &failure);
 /// One sentence for the user, the same in the window and the command; empty when done.
 [[nodiscard]] QString sentenceOf(const Outcome &outcome);
-/// What else is to be said of a result: further tries, damage of the source, an older file that was
-/// kept.
+/// What else is to be said of a result: further tries, damage of the source, an older file kept.
 [[nodiscard]] QStringList remarksOn(const Outcome &outcome);

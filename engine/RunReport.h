@@ -16,19 +16,16 @@ struct RunReport {
     /// From the closing summary; absent without one.
     std::optional<qint64> pictureBytes;
     std::optional<qint64> soundBytes;
-    /// Places where the tool met errors in the source's data and went on, and where the first one
-    /// lies.
+    /// Places of the source where the tool met errors and went on, and where the first one lies.
     int damagedPlaces = 0;
     std::optional<qint64> firstDamage;
     /// The tool guessed the source's length from its size.
     bool lengthIsGuessed = false;
 };
 
-/// `paths` are the names that the tool was given; what they say is not the tool's word. Thread:
-/// any.
+/// `paths` are the tool's arguments; what their names say is not its word. Thread: any.
 [[nodiscard]] RunReport reportOf(const QByteArray &output, const QStringList &paths);
-/// The output's lines without those that repeat the video's own texts, which are indented. They end
-/// at "\n" or "\r".
+/// The output's lines, also after "\r", without the video's own texts, which are indented.
 [[nodiscard]] QStringList ownLines(const QByteArray &output, const QStringList &paths);
 /// The tool could not write the end of its result; some versions still end with status 0.
 [[nodiscard]] bool reportsLostOutput(const QByteArray &output, const QStringList &paths);

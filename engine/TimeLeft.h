@@ -7,8 +7,7 @@
 #include <deque>
 #include <optional>
 
-/// Estimates how long work will still take. It never counts upward unless the work has really
-/// become slower.
+/// How long work will still take. It counts upward only when the work has become slower.
 class TimeLeft {
 public:
     using Duration = std::chrono::milliseconds;

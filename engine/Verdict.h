@@ -29,8 +29,7 @@ struct Lengths {
     }
 };
 
-/// What a result has to hold, as the source declares it; 0 where it does not say how long. Thread:
-/// any.
+/// What a result has to hold, as the source says; 0 where it gives no length. Thread: any.
 [[nodiscard]] Lengths expectedOf(const ConversionJob &job);
 /// The plan takes a cover for the picture although there is a moving one.
 [[nodiscard]] bool takesCoverForPicture(const ConversionJob &job);

@@ -42,8 +42,7 @@ QString stringByDeletingPathExtension(const QString &path)
 {
     const QString trimmed = withoutTrailingSeparators(path);
     const QString name = lastPathComponent(trimmed);
-    // A closing dot has no extension behind it, yet it is what an empty extension leaves, so it
-    // goes too.
+    // A closing dot is what an empty extension leaves: it goes too.
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot > 0 && name != u".." ? trimmed.chopped(name.size() - dot) : trimmed;
 }

@@ -19,8 +19,7 @@ struct AppcastItem {
     QString notes;
     QUrl url;
     QByteArray signature;
-    /// Of the bytes of `signature` followed by `versionText`, so that an old file can't be passed
-    /// off as a new one.
+    /// Of the bytes of `signature` and `versionText`, so that no old file passes for a new one.
     QByteArray versionSignature;
 };
 

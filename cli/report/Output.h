@@ -18,8 +18,7 @@ void errorLine(const QString &text);
 /// Says what went wrong with a file; returns what the program ends with.
 ExitCode failure(const QString &file, const Outcome &outcome);
 
-/// Takes what is printed for developers, and drops it until it is to be shown. Called first thing
-/// in main.
+/// Takes what is printed for developers, and drops it until it is to be shown. Called first.
 void takeDiagnostics();
 void showDiagnostics();
 void diagnostics(const QByteArray &bytes);

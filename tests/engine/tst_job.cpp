@@ -321,6 +321,7 @@ private Q_SLOTS:
         QCOMPARE(judged({ {}, 2.0 }, { 2.5, 2.0 }).reason, Reason::PictureMissing);
         QCOMPARE(judged({ 2.5, {} }, { 2.5, 2.0 }).reason, Reason::SoundMissing);
         QCOMPARE(judged({ 1000, 991 }, { 1000, 1000 }), Outcome{});
+        QVERIFY(!expectedOf(job(u"sound.wav"_s, u"out"_s, u"MKV"_s)).picture);
     }
 };
 

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/desktop/Fonts.h"
 
-#include <fontconfig/fontconfig.h>
-
-#include <malloc.h>
-
 #include <clocale>
+#include <fontconfig/fontconfig.h>
+#include <malloc.h>
 #include <thread>
 
 void readFontsAhead()

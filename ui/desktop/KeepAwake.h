@@ -5,6 +5,5 @@
 
 #include <memory>
 
-/// The machine stays awake while the result lives, where the desktop allows it. The reason is shown
-/// to users who ask.
+/// The machine stays awake while the result lives, where the desktop allows it; it shows why.
 [[nodiscard]] std::shared_ptr<void> keepAwake(const QString &reason);

@@ -7,8 +7,7 @@
 
 class QLocalSocket;
 
-/// Later starts, by one user on one display, hand their files to the program that runs, if it
-/// answers.
+/// Later starts, by one user on one display, hand their files to the program that runs.
 class SingleInstance : public QObject {
     Q_OBJECT
 

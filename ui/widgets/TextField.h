@@ -3,8 +3,7 @@
 
 #include <QLabel>
 
-/// A line of plain text; a button where clicked() is listened to. The dynamic property "_cursor" is
-/// the name of its cursor.
+/// A line of plain text; a button where clicked() is listened to. "_cursor" names its cursor.
 class TextField : public QLabel {
     Q_OBJECT
     Q_PROPERTY(bool elided MEMBER m_elided)

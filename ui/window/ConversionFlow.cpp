@@ -89,8 +89,7 @@ void ConversionFlow::setProgress(std::shared_ptr<Progress> progress)
     m_progress = std::move(progress);
     if (!m_progress)
         return;
-    // The news comes on any thread, and that of an object that is no longer attached may still wait
-    // in the queue.
+    // The news comes on any thread, and some may be left of an object that is detached.
     const auto passOn = [self = QPointer(this), object = std::weak_ptr(m_progress)](auto news) {
         MainQueue::post([self, object, news] {
             if (self && self->m_progress && self->m_progress == object.lock())

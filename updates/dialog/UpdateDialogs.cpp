@@ -122,7 +122,6 @@ void UpdateDialogs::startDownload(const AppcastItem &item)
     delete m_progress;
     m_progress = new QProgressDialog(m_window);
     m_progress->setAttribute(Qt::WA_DeleteOnClose);
-    m_progress->setAutoClose(false);
     m_progress->setAutoReset(false);
     m_progress->setMinimumDuration(0);
     m_progress->setMinimumWidth(320);
