@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/HelpMenu.h"
 #include "support/Preferences.h"
+#include "support/dialogs/Static.h"
 #include "tests/ui/WindowTest.h"
 #include "updates/Updater.h"
 
@@ -35,6 +36,10 @@ private Q_SLOTS:
         QTRY_COMPARE(checks.size(), 1);
         QVERIFY(checks.at(0).at(0).value<UpdateCheck>().byUser);
 
+        QVERIFY(click(u"&About Video Converter"_s));
+        QVERIFY(Static::aboutWindow().isVisible());
+        Static::aboutWindow().close();
+
         QVERIFY(!click(u"Show Conversion Log"_s));
         QVERIFY(convert("print:<b>100%\\n|reports:100:100", WindowUIState::ConversionIsDone));
         QTRY_VERIFY(!m_delegate->lastToolOutput().isEmpty());
@@ -42,8 +47,7 @@ private Q_SLOTS:
         QTRY_VERIFY(m_delegate->window()->findChild<QPlainTextEdit *>());
         const auto *log = m_delegate->window()->findChild<QPlainTextEdit *>();
         QVERIFY(log->isVisible() && log->isReadOnly());
-        const QString text = log->toPlainText();
-        QVERIFY2(text.contains(u"start: 0.000000\n<b>100%\n"_s), qPrintable(text));
+        QVERIFY(log->toPlainText().contains(u"start: 0.000000\n<b>100%\n"_s));
     }
 
     void settings_areKept()

@@ -32,7 +32,8 @@ protected:
             [this](const QString &given) { paths += given; }, folder->path(),
             [](const QString &given) {
                 return QFileInfo(given).isDir() ? QStringLiteral("a folder") : QString();
-            });
+            },
+            QStringLiteral("about 3 MB"));
     }
     [[nodiscard]] QString path(const QString &name) const { return folder->path(name); }
 

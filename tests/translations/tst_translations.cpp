@@ -78,7 +78,6 @@ private Q_SLOTS:
         for (const QString &name : tables.entryList()) {
             const QStringList inSources = sources(updated.filePath(name), faults);
             QVERIFY2(faults.isEmpty(), qPrintable(name + u'\n' + faults.join(u'\n')));
-            QVERIFY(inSources.size() > 100);
             QCOMPARE(sources(tables.filePath(name), faults), inSources);
             const QString folder = m_bundle.localizationPath(name.section(u'_', 1).chopped(3));
             QVERIFY(QTranslator().load(folder + u"/video-converter.qm"_s));
