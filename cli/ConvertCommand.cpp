@@ -30,8 +30,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a folder holds beside videos is no failure; what is called a video there and can't be read
-/// is one.
+/// What a folder holds beside videos is no failure; what is called a video and isn't one is.
 bool isLeftOut(const Input &input, const Outcome &outcome)
 {
     static const QSet<Reason> reasons{ Reason::NotMedia, Reason::NoDuration, Reason::TooShort,
@@ -82,6 +81,8 @@ public:
         m_clock.start();
         MainQueue::post([this] { goOn(); });
         m_loop.exec();
+        if (Interruption::signal() != 0 && m_sum.all == 1 && m_sum.ended() == 0)
+            settle(m_items.front(), { Reason::Cancelled });
         if (Interruption::signal() != 0 && (m_isCancelled || m_sum.ended() < m_sum.all))
             m_code = ExitCode::Cancelled;
         // Those that stayed empty go; the others stay.
@@ -168,7 +169,12 @@ private:
             if (const auto refusal = refusalOfDestination(item))
                 return settle(item, *refusal);
         }
-        const Video video{ &item, info, m_line.overwrite ? OlderFile::Replaced : OlderFile::Kept };
+        // What lies beside a video that was found may be the user's own.
+        const bool isBeside = item.input.isFound
+            && FileIds{ Path::stringByDeletingLastPathComponent(item.input.path) }.contains(
+                Path::stringByDeletingLastPathComponent(item.destPath));
+        const OlderFile replaced = isBeside ? OlderFile::SetAside : OlderFile::Replaced;
+        const Video video{ &item, info, m_line.overwrite ? replaced : OlderFile::Kept };
         if (m_line.skipExisting && QFileInfo::exists(item.destPath))
             checkExisting(video);
         else

@@ -63,8 +63,8 @@ bool isInShard(const QString &name, const Shard &shard)
     return number % static_cast<quint64>(shard.parts) == static_cast<quint64>(shard.part - 1);
 }
 
-/// Leaves out what an earlier run into the same tree has made: the names that this run would write.
-/// Any other file of the output's format is a video like the rest.
+/// Leaves out what earlier runs into the same tree have made or kept: the names that this run would
+/// write. Any other file of the output's format is a video like the rest.
 void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
 {
     const QString extension = extensionOf(line.entries.front());
@@ -77,7 +77,9 @@ void dropEarlierResults(std::vector<Input> &inputs, CommandLine line)
     QSet<QString> results;
     for (const ConversionItem &item : conversionItems(line, sources))
         results << item.destPath;
-    std::erase_if(inputs, [&](const Input &input) { return results.contains(input.identity); });
+    static const QRegularExpression kept(uR"( \(earlier(?: \d+)?\)(?=\.[^./]*\z))"_s);
+    std::erase_if(inputs,
+        [&](const Input &input) { return results.contains(QString(input.identity).remove(kept)); });
 }
 
 std::vector<Input> inputsIn(const CommandLine &line)

@@ -38,8 +38,7 @@ struct Inputs {
 
 /// The inputs with their destinations, in the inputs' order. In a folder each result gets its
 /// input's name with the output's extension, and a number where two bear the same name. Which one
-/// gets which number depends on the set of inputs alone, not on their order. Of a divided list only
-/// this part is given.
+/// gets which number depends on the set of inputs alone. Of a divided list only this part is given.
 [[nodiscard]] std::vector<ConversionItem> conversionItems(
     const CommandLine &line, const std::vector<Input> &inputs);
 

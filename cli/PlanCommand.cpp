@@ -64,12 +64,12 @@ void print(const CommandLine &line, const ConversionItem *item, const JSON &info
             line.folder.isEmpty() ? QJsonDocument::Indented : QJsonDocument::Compact);
 }
 
-ExitCode plan(const CommandLine &line, const ConversionItem &item, Interruption &interruption)
+ExitCode plan(const CommandLine &line, const ConversionItem &item, const FileIds &sources,
+    Interruption &interruption)
 {
     if (!item.input.refusal.isDone())
         return Output::failure(item.input.name, item.input.refusal);
-    if (const auto refusal
-        = sourceRefusal({ .path = item.destPath, .sources = { item.input.path } }))
+    if (const auto refusal = sourceRefusal({ .path = item.destPath, .sources = sources }))
         return Output::failure(item.destPath, *refusal);
     // What lies beside the videos of a folder is left out silently.
     const VideoDescription video = examined(item.input.path, Cover::LeftOut, interruption);
@@ -89,12 +89,15 @@ ExitCode planAll(const CommandLine &line, Interruption &interruption)
     const Inputs inputs = inputsOf(line);
     if (!inputs.refusal.isDone())
         return Output::failure(inputs.refusedName, inputs.refusal);
+    FileIds sources;
+    for (const Input &input : inputs.videos)
+        sources.add(input.path);
     ExitCode code = ExitCode::Done;
     for (const VideoConstraints &entry : line.entries) {
         CommandLine one = line;
         one.entries = { entry };
         for (const ConversionItem &item : conversionItems(one, inputs.videos)) {
-            const ExitCode end = plan(one, item, interruption);
+            const ExitCode end = plan(one, item, sources, interruption);
             code = code == ExitCode::Done ? end : code;
             if (Interruption::signal() != 0)
                 return code;
@@ -114,7 +117,7 @@ ExitCode planConversions(const CommandLine &line, Interruption &interruption)
         return plan(line,
             { .input = { .name = name, .path = absolutePath(name) },
                 .destPath = absolutePath(line.inputs.at(1)) },
-            interruption);
+            { absolutePath(name) }, interruption);
     }
     const auto saved = savedInfo(line.info);
     if (const auto *refusal = std::get_if<Outcome>(&saved))

@@ -6,8 +6,7 @@
 #include <functional>
 #include <memory>
 
-/// Runs blocks one after the other in the background, also when nobody holds the queue any more.
-/// Thread: any.
+/// Runs blocks one by one in the background, also when nobody holds the queue. Thread: any.
 class SerialQueue {
 public:
     explicit SerialQueue(QString label);

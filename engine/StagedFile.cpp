@@ -158,8 +158,7 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     ::fchmod(m_file, older.st_mode & 0777);
     if (::fsync(m_file) != 0)
         return refusalFor(errno);
-    // A cut video gives the same cut result at each try, and a cut copy is the whole one's
-    // beginning.
+    // A cut video is cut alike at each try, and a cut copy is the whole one's beginning.
     if (keptPath && beginsWith(m_path, m_destPath))
         keptPath = nullptr;
     if (keptPath && (*keptPath = keepOlder(m_destPath)).isEmpty())

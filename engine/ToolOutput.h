@@ -55,8 +55,7 @@ private:
 
     // The rest of the text in which a match may begin; starts at a line's start.
     QString m_tail;
-    // UTF-16 units minus characters of the dropped text: that many units at the end stay
-    // unsearched.
+    // UTF-16 units minus characters of the dropped text: so many at the end stay unsearched.
     qsizetype m_surplus = 0;
     bool m_decided = false;
     std::optional<qint64> m_duration;

@@ -114,8 +114,7 @@ std::optional<Lengths> measured(const QString &path, const Progress &progress, R
     return wasStopped ? std::nullopt : std::optional(reader.lengths());
 }
 
-// What can be expected once the source was read as well: its streams may end before its length,
-// but not all of them.
+// Expected once the source was read: some of its streams may end before its length.
 Lengths corrected(const Lengths &expected, const Lengths &source)
 {
     Lengths lengths = expected;

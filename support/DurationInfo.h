@@ -3,8 +3,7 @@
 
 #include <QString>
 
-/// A duration split for display. Units: hours are the total hours, not those left over after the
-/// days. Thread: any.
+/// A duration split for display. Units: hours are all hours, also those of days. Thread: any.
 class DurationInfo {
 public:
     explicit DurationInfo(qint64 seconds)

@@ -63,8 +63,7 @@ std::optional<qint64> JSON::integer() const
 {
     if (!m_value.isDouble())
         return std::nullopt;
-    // Whole numbers are kept exactly by the parser; toInteger falls back only for what has no exact
-    // 64-bit form.
+    // The parser keeps whole numbers exactly; toInteger falls back for what has no 64-bit form.
     const qint64 exact = m_value.toInteger(0);
     return exact != 0 ? std::optional(exact) : truncated(m_value.toDouble());
 }

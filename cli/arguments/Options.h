@@ -48,8 +48,7 @@ inline constexpr std::array verbRows{
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
 
-/// One option of the command. The parser, the help, the manual page and the completion of every
-/// shell come from these rows.
+/// One option of the command. Parser, help, manual page and completions come from these rows.
 struct OptionRow {
     QLatin1StringView name;
     QLatin1StringView letter;

@@ -82,7 +82,8 @@ private Q_SLOTS:
             "gone: There is no such file.\n"_s.arg(m_command->path(u"a.mp4"_s)));
         QVERIFY2(converted.out.endsWith(u"1 of 3 videos converted\n"_s), qPrintable(converted.out));
         QCOMPARE(m_command->contents(u"a.mp4"_s), m_video);
-        QVERIFY(!m_command->contents(u"a 2.mp4"_s).isEmpty());
+        const QString plan = m_command->run(u"plan --to MP4 a.mov a.mp4 -d ."_s).out;
+        QVERIFY2(plan.count(u'\n') == 1 && plan.contains(u"/a 2.mp4'"_s), qPrintable(plan));
     }
 
     void resultsOfOneRun_doNotReplaceEachOther()
