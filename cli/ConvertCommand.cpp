@@ -81,7 +81,7 @@ public:
         m_clock.start();
         MainQueue::post([this] { goOn(); });
         m_loop.exec();
-        if (Interruption::signal() != 0 && m_sum.all == 1 && m_sum.ended() == 0)
+        if (Interruption::signal() != 0 && m_items.size() == 1 && m_sum.ended() < m_sum.all)
             settle(m_items.front(), { Reason::Cancelled });
         if (Interruption::signal() != 0 && (m_isCancelled || m_sum.ended() < m_sum.all))
             m_code = ExitCode::Cancelled;

@@ -5,7 +5,7 @@
 #include "tests/fixtures/Rows.h"
 #include "tests/fixtures/ToolSwap.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 
 #include <csignal>
 #include <fcntl.h>
@@ -61,22 +61,23 @@ private Q_SLOTS:
         QFETCH(const int, signal);
         QFETCH(const bool, toAll);
         const auto process = convertSlowly();
-        QElapsedTimer clock;
-        clock.start();
+        const QDeadlineTimer limit(5000);
         for (const qint64 tool : toAll ? tools() : QList<qint64>())
             send(signal, tool);
         send(signal, process->processId());
         QCOMPARE(Command::wait(*process).end(), u"%1: video.mp4: Cancelled.\n"_s.arg(128 + signal));
-        QVERIFY2(clock.elapsed() < 5000, "at once");
+        QVERIFY2(!limit.hasExpired(), "at once");
     }
 
     void signal_cancelsAProbe()
     {
         const ToolSwap swap(u"ffprobe"_s, ToolSwap::With::FakeTool, "forever");
-        const auto process = m_command.start(u"probe video.mp4"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(!tools().isEmpty(), 10'000);
-        send(SIGINT, process->processId());
-        QCOMPARE(Command::wait(*process).exitCode, 130);
+        for (const auto &line : { u"probe video.mp4"_s, u"convert --to MKV video.mp4 -o o"_s }) {
+            const auto process = m_command.start(line);
+            QTRY_VERIFY_WITH_TIMEOUT(!tools().isEmpty(), 10'000);
+            send(SIGINT, process->processId());
+            QCOMPARE(Command::wait(*process).end(), u"130: video.mp4: Cancelled.\n"_s);
+        }
     }
 
     void signal_endsTheWholeList()
@@ -90,7 +91,6 @@ private Q_SLOTS:
         const Finished stopped = Command::wait(*process);
         m_command.shell(u"rm v2.mp4 last.mp4"_s);
         QCOMPARE(stopped.exitCode, 143);
-        // The third one waited for a place.
         QCOMPARE(stopped.out.count(u"\"event\":\"started\""_s), 2);
         QCOMPARE(stopped.out.count(u"\"event\":\"cancelled\""_s), 2);
         QVERIFY2(!stopped.out.contains(u"\"failed\":1"_s), qPrintable(stopped.out));
