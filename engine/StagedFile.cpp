@@ -147,7 +147,7 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     struct stat older { };
     const bool mustBeNew = ::stat(to.constData(), &older) != 0;
     if (mustBeNew && renameToNew(from, to)) {
-        drop();
+        close();
         return std::nullopt;
     }
     if (mustBeNew && (errno != EEXIST || ::stat(to.constData(), &older) != 0))
@@ -162,7 +162,7 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     if (keptPath && beginsWith(m_path, m_destPath))
         keptPath = nullptr;
     if (keptPath && (*keptPath = keepOlder(m_destPath)).isEmpty())
-        return Outcome{ Reason::DestinationNotWritable };
+        return refusalFor(errno);
     if (::rename(from.constData(), to.constData()) != 0) {
         const Outcome refusal = refusalFor(errno);
         if (keptPath)
@@ -170,15 +170,24 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
         return refusal;
     }
     syncFolder(folderOf(m_destPath));
-    drop();
+    close();
     return std::nullopt;
 }
 
 void StagedFile::drop()
 {
-    if (m_file < 0)
-        return;
-    QFile::remove(m_path);
-    ::close(std::exchange(m_file, -1));
+    if (m_file >= 0 && !QFile::remove(m_path)) {
+        // Its folder bears another name by now.
+        const QString place = QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(m_file));
+        if (Path::lastPathComponent(place) == Path::lastPathComponent(m_path))
+            QFile::remove(place);
+    }
+    close();
+}
+
+void StagedFile::close()
+{
+    if (m_file >= 0)
+        ::close(std::exchange(m_file, -1));
     m_entry.remove();
 }

@@ -26,6 +26,7 @@ public:
 
 private:
     void drop();
+    void close();
 
     QString m_destPath;
     QString m_path;
