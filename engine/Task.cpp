@@ -153,14 +153,11 @@ void Task::terminate()
         return;
     m_process.terminate();
     const auto patience = std::chrono::steady_clock::now() + 3s;
-    bool killed = false;
     // A tool that is blocked on a full pipe does not react to SIGTERM: keep draining its output.
     while (!m_process.waitForFinished(20) && m_process.state() != QProcess::NotRunning) {
         m_process.readAllStandardOutput();
-        if (!killed && std::chrono::steady_clock::now() > patience) {
+        if (std::chrono::steady_clock::now() > patience)
             m_process.kill();
-            killed = true;
-        }
     }
     m_process.readAllStandardOutput();
 }
