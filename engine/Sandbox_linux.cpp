@@ -163,8 +163,7 @@ constexpr rlim_t mostDescriptors = 4096;
 // The limit counts the user's other processes and threads too.
 constexpr unsigned long furtherProcesses = 4096;
 
-// "0.00 0.01 0.05 1/234 5678": the second number of the fourth field counts all processes and
-// threads.
+// "0.00 0.01 0.05 1/234 5678": 234 is the number of all processes and threads.
 unsigned long processCount()
 {
     QFile file(u"/proc/loadavg"_s);

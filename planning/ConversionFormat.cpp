@@ -13,8 +13,7 @@ ConversionDescriptor conversionDescriptor(ConversionFormat format)
     static const QStringList experimental{ u"-strict"_s, u"experimental"_s };
     static const QStringList smallAnimation{ u"-vf"_s, uR"(scale=min(iw\,600):-1)"_s, u"-pix_fmt"_s,
         u"rgb24"_s, u"-r"_s, u"10"_s };
-    // In the order of the raw values. The formats without a video encoder leave the choice of
-    // streams to the tool.
+    // In the order of the raw values. Without a video encoder, the tool chooses the streams.
     // clang-format off
     static const std::array<ConversionDescriptor, 9> rows {{
         // ext      vName             vCodec            aName         aCodec            muxer         vDop         extraCmd

@@ -10,8 +10,7 @@ namespace {
 
 constexpr auto sparkle = "http://www.andymatuschak.org/xml-namespaces/sparkle"_L1;
 
-// The element's text with that of the elements inside it. A loop: the depth of a hostile document
-// knows no bounds.
+// The element's text with that of those inside it. A loop, as a hostile document may be deep.
 QString readText(QXmlStreamReader &xml)
 {
     QString text;

@@ -40,8 +40,7 @@ public:
     [[nodiscard]] const UpdaterSettings &settings() const { return m_settings; }
 
     void checkForUpdates();
-    /// Checks when a day has passed since the last check, and looks again every hour; not at all
-    /// when the user does not want it.
+    /// Checks a day after the last check, looking every hour; not if the user does not want it.
     void checkInBackground();
     /// Checks in the background no longer tell of this version.
     static void skip(const AppcastItem &item);

@@ -59,6 +59,5 @@ public:
 [[nodiscard]] std::unique_ptr<Reporter> jsonReporter();
 /// The same where the command line itself is wrong.
 void printMisuse(const QString &message);
-/// For people: a bar for each running conversion in a terminal's last lines, or lines for a log
-/// about every tenth of the way.
+/// For people: bars in a terminal's last lines, or lines for a log about every tenth of the way.
 [[nodiscard]] std::unique_ptr<Reporter> textReporter(bool isQuiet);

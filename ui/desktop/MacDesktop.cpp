@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Untested: what the window asks of the desktop, on macOS. The percentage and the notification are
-// not shown there yet.
+// Untested: the window's desktop on macOS, as yet without percentage and notification.
 #include "ui/desktop/DesktopNotification.h"
 #include "ui/desktop/FileBrowser.h"
 #include "ui/desktop/Fonts.h"

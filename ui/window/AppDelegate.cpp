@@ -39,8 +39,7 @@ void enlarge(QLabel *label, double factor)
 
 void dress(const Ui::MainWindow &outlets, int line)
 {
-    // What is hidden keeps its place, so that nothing jumps when the state changes. The exceptions
-    // share theirs with others.
+    // What is hidden keeps its place, so that nothing jumps; the exceptions share theirs.
     for (QWidget *view : outlets.dropAcceptor->findChildren<QWidget *>()) {
         QSizePolicy policy = view->sizePolicy();
         policy.setRetainSizeWhenHidden(view != outlets.remarksLabel && view != outlets.keptLabel
