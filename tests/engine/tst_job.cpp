@@ -93,6 +93,7 @@ private Q_SLOTS:
         make(u"-i PATH/whole.mp4 -t 2 -c copy"_s, u"small.mp4"_s);
         make(u"-i PATH/whole.mp4 -t 2 -c:v mpeg4 -c:a libmp3lame -ac 1"_s, u"mono.mkv"_s);
         make(u"-i PATH/whole.mp4"_s, u"sound.wav"_s);
+        make(u"-f lavfi -i aevalsrc=if(lt(t\\,2)\\,0\\,random(0)):d=4"_s, u"quiet-start.aac"_s);
         for (const QString &name : { u"fast.mp4"_s, u"whole.mkv"_s, u"sound.wav"_s }) {
             const QByteArray bytes = contents(name);
             write(u"cut-"_s + name, bytes.first(bytes.size() / 2));
@@ -135,6 +136,7 @@ private Q_SLOTS:
                     "|The cover picture was left out, because this output can't show it." },
                 { "picture shorter than the file", "short-picture.flv", "GIF", "" },
                 { "cut sound", "cut-sound.wav", "MKV", cutAt4 },
+                { "length that the tool only guesses", "quiet-start.aac", "MKV", "" },
                 { "second half never written, copied", "holed.mp4", "MKV", cutAt4 },
                 { "a part lost on the air, encoded", "holed.ts", "audio",
                     "The converting progress was finished at 5s|The video is damaged in places." },
@@ -255,6 +257,9 @@ private Q_SLOTS:
             "print:[libx264 @ 0x5] height not divisible by 2 (320x181)\\n|exit:1");
         QCOMPARE(
             said(done(request)), u"This output can't hold a picture of odd width or height."_s);
+        ToolSwap::setScript("print:codec not currently supported in container\\n|exit:1");
+        QCOMPARE(said(done(job(u"sound.wav"_s, u"out.mp4"_s, u"MP4"_s))),
+            u"This output can't hold the video's sound."_s);
     }
 
     // The next start removes what a killed program left, and nothing that somebody holds.
@@ -274,6 +279,17 @@ private Q_SLOTS:
         StagedList::removeAbandoned();
         QCOMPARE(results(), QStringList{ QFileInfo(held.path()).fileName() });
         QCOMPARE(entries().size(), 1);
+    }
+
+    void folderWithANewName_keepsNoUnfinishedFile()
+    {
+        QVERIFY(QDir(path()).mkdir(u"old"_s));
+        {
+            StagedFile staged(path(u"old/out.mkv"_s));
+            QVERIFY(!staged.create() && QFile::rename(path(u"old"_s), path(u"new"_s)));
+            QCOMPARE(staged.moveIntoPlace(true)->reason, Reason::FolderMissing);
+        }
+        QVERIFY(QDir().rmdir(path(u"new"_s)) && entries().isEmpty());
     }
 
     void entry_namesAStagedFile()
@@ -305,6 +321,22 @@ private Q_SLOTS:
         QCOMPARE(report.firstDamage, std::optional(qint64{ 3 }));
         QCOMPARE(report.pictureBytes, std::optional(qint64{ 0 }));
         QVERIFY(reportsLostOutput(output + "Error writing trailer of out: No space\n", paths));
+    }
+
+    void doubtfulResult_isRead()
+    {
+        const auto isDoubtful = [](const QByteArray &output, double length = 10, Outcome run = {}) {
+            return isInDoubt(run, reportOf(output, {}), { length, length });
+        };
+        const QByteArray end = "frame= 1 time=00:00:09.00 bitrate= 1\r";
+        const QByteArray sums = "video:1kB audio:1kB subtitle:0kB\n";
+        QVERIFY(!isDoubtful(end + sums));
+        for (const QByteArray &output : { sums, end, end + "video:0kB audio:1kB subtitle:0kB\n",
+                 end + "video:1kB audio:0kB subtitle:0kB\n",
+                 "[h264 @ 0x5] error while decoding MB 1 2\n" + end + sums })
+            QVERIFY2(isDoubtful(output), output.constData());
+        QVERIFY(isDoubtful(end + sums, 10.1) && isDoubtful(end + sums, 0));
+        QVERIFY(isDoubtful(end + sums, 10, { Reason::Incomplete }));
     }
 
     void packets_areAddedUp()

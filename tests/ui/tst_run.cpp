@@ -115,8 +115,11 @@ private Q_SLOTS:
         QVERIFY(waitFor(State::InitialState));
         QVERIFY2(said("refusalLabel").contains(u"/ffmpeg/ffmpeg is missing"_s),
             qPrintable(said("refusalLabel")));
-        m_swap.reset();
-        QVERIFY(open(u"100%d %@.mov"_s));
+        QVERIFY(convert("exit:1", State::InitialState, u"100%d %@.mov"_s));
+        QVERIFY(view("anotherFormatLabel")->isVisible());
+        m_delegate->takeFiles({ u"/dev/null"_s });
+        QTRY_COMPARE(m_user.read.last(), u"Video not supported"_s);
+        QVERIFY(view("anotherFormatLabel")->isHidden());
     }
 
     void result_isCommentedOn()

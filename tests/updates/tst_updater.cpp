@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QDir>
 #include <QMessageBox>
+#include <QProgressBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -239,6 +241,24 @@ private Q_SLOTS:
                 files.prepend(name);
             QCOMPARE(m_folder.files(u"Downloads"_s), files.join(u'|'));
         }
+    }
+
+    void offer_downloads()
+    {
+        m_server.answers["/new.deb"].body = package;
+        const UpdateCheck check = checkNow();
+        QWidget window;
+        const UpdateDialogs dialogs(*m_updater, &window, {});
+        Q_EMIT m_updater->checked(check);
+        const auto buttons = window.findChild<QMessageBox *>()->buttons();
+        std::ranges::find(buttons, u"Download"_s, &QAbstractButton::text)[0]->click();
+        const QPointer progress = window.findChild<QProgressDialog *>();
+        QCOMPARE(progress->labelText(), u"Downloading version 1.6"_s);
+        QVERIFY(progress->isVisible() && progress->maximum() == 0);
+        QSignalSpy steps(progress->findChild<QProgressBar *>(), &QProgressBar::valueChanged);
+        QTRY_VERIFY(!progress);
+        QCOMPARE(steps.last().first().toInt(), 1000);
+        QVERIFY(window.findChild<QMessageBox *>()->text().contains(u"VideoConverter-1.6"_s));
     }
 
     void offer_isPlainTextAndNoDownloadWithoutKey()
