@@ -145,12 +145,11 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     const QByteArray from = bytesOf(m_path);
     const QByteArray to = bytesOf(m_destPath);
     struct stat older { };
-    const bool mustBeNew = ::stat(to.constData(), &older) != 0;
-    if (mustBeNew && renameToNew(from, to)) {
+    if (renameToNew(from, to)) {
         close();
         return std::nullopt;
     }
-    if (mustBeNew && (errno != EEXIST || ::stat(to.constData(), &older) != 0))
+    if (errno != EEXIST || ::stat(to.constData(), &older) != 0)
         return refusalFor(errno);
     if (!overwrite)
         return Outcome{ Reason::DestinationExists };

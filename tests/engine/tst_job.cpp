@@ -91,6 +91,7 @@ private Q_SLOTS:
         make(u"-f lavfi -i testsrc2=d=4 -i PATH/whole.mp4 -map 0 -map 1:a -c:v flv -c:a mp3"_s,
             u"short-picture.flv"_s);
         make(u"-i PATH/whole.mp4 -t 2 -c copy"_s, u"small.mp4"_s);
+        make(u"-i PATH/small.mp4 -c:v mjpeg"_s, u"camera.avi"_s);
         make(u"-i PATH/whole.mp4 -t 2 -c:v mpeg4 -c:a libmp3lame -ac 1"_s, u"mono.mkv"_s);
         make(u"-i PATH/whole.mp4"_s, u"sound.wav"_s);
         make(u"-f lavfi -i aevalsrc=if(lt(t\\,2)\\,0\\,random(0)):d=4"_s, u"quiet-start.aac"_s);
@@ -354,6 +355,7 @@ private Q_SLOTS:
         QCOMPARE(judged({ 2.5, {} }, { 2.5, 2.0 }).reason, Reason::SoundMissing);
         QCOMPARE(judged({ 1000, 991 }, { 1000, 1000 }), Outcome{});
         QVERIFY(!expectedOf(job(u"sound.wav"_s, u"out"_s, u"MKV"_s)).picture);
+        QVERIFY(expectedOf(job(u"camera.avi"_s, u"out"_s, u"MKV"_s)).picture);
     }
 };
 

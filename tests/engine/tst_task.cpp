@@ -137,6 +137,7 @@ private Q_SLOTS:
                 { "writes to the temporary folder", "write:TEMP/elsewhere", refused },
                 { "reads the users", "read:/etc/passwd", refused },
                 { "reads a library", "read:/usr/bin/env", allowed },
+                { "reads nothing", "read:/dev/null", allowed },
                 { "runs a program of the user's", "exec:HOME/program", refused },
                 { "IPv4 socket", socket(AF_INET), refused },
                 { "IPv6 socket", socket(AF_INET6), refused },
@@ -148,6 +149,7 @@ private Q_SLOTS:
                 { "starts processes", "fork", "Operation not permitted =0" },
                 { "starts threads", "threads:64", allowed },
                 { "starts threads without end", "threads:1000000", "no more =0" },
+                { "takes more addresses than any video", "memory", "Cannot allocate memory =0" },
                 { "opens files without end", "descriptors", "Too many open files =0" } });
     }
     void sandbox_refusesWhatIsNotNeeded()
