@@ -33,14 +33,9 @@ private Q_SLOTS:
         const QString text = m_command.run(u"formats"_s).out;
         const Finished json = m_command.run(u"formats --json"_s);
         QStringList names;
-        QStringList sizes;
-        for (const auto &entry : QJsonDocument::fromJson(json.out.toUtf8()).array()) {
-            names << entry[u"name"_s].toString();
-            sizes << entry[u"maximum"_s].toVariant().toString();
-        }
+        for (const auto &entry : QJsonDocument::fromJson(json.out.toUtf8()).array())
+            names << entry.toObject()[u"name"_s].toString();
         QCOMPARE(names, entryNames());
-        QCOMPARE(sizes.join(u' ').simplified(),
-            u"960 1136 1334 1920 1024 2048 2732 1280 1920 1920 480 640 1280 1920 4096"_s);
         QCOMPARE(text.count(u"\n  "_s), names.size());
         QVERIFY(text.contains(u"\n  iPad Air, Air 2, iPad mini 2, 3, 4  mp4   <= 2048 px\n"_s));
     }
