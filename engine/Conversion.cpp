@@ -132,7 +132,7 @@ struct Tries {
             return { Reason::Cancelled };
         const bool isReplaced = outcome.isDone() && olderFile == OlderFile::Replaced;
         const auto refusal = staged.moveIntoPlace(
-            olderFile != OlderFile::Kept, isReplaced ? nullptr : &outcome.olderPath);
+            olderFile != OlderFile::Kept, *progress, isReplaced ? nullptr : &outcome.olderPath);
         return refusal ? *refusal : outcome;
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "engine/StagedFile.h"
 
+#include "engine/Progress.h"
 #include "support/FileSystem.h"
 #include "support/Path.h"
 
@@ -38,7 +39,7 @@ Outcome refusalFor(int error)
     static const QHash<int, Reason> reasons{ { ENOSPC, Reason::NoSpace },
         { EDQUOT, Reason::QuotaExceeded }, { EROFS, Reason::ReadOnlyDisk },
         { ENAMETOOLONG, Reason::NameTooLong }, { ENOENT, Reason::FolderMissing },
-        { EIO, Reason::DiskError } };
+        { EINVAL, Reason::DestinationNameNotText }, { EIO, Reason::DiskError } };
     return { reasons.value(error, Reason::FolderNotWritable) };
 }
 
@@ -123,6 +124,11 @@ StagedFile::~StagedFile() { drop(); }
 std::optional<Outcome> StagedFile::create()
 {
     drop();
+    // A name that this disk refuses would only show at the end.
+    if (::mkdir(bytesOf(m_destPath).constData(), 0700) == 0)
+        ::rmdir(bytesOf(m_destPath).constData());
+    else if (errno == ENAMETOOLONG || errno == EINVAL)
+        return refusalFor(errno);
     for (int attempt = 0; m_file < 0 && attempt < 100; ++attempt) {
         m_path = hiddenName(m_destPath);
         // Listed first: whenever this program is killed, the next start finds the file.
@@ -140,7 +146,8 @@ std::optional<Outcome> StagedFile::create()
     return std::nullopt;
 }
 
-std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPath)
+std::optional<Outcome> StagedFile::moveIntoPlace(
+    bool overwrite, const Progress &progress, QString *keptPath)
 {
     const QByteArray from = bytesOf(m_path);
     const QByteArray to = bytesOf(m_destPath);
@@ -160,6 +167,9 @@ std::optional<Outcome> StagedFile::moveIntoPlace(bool overwrite, QString *keptPa
     // A cut video is cut alike at each try, and a cut copy is the whole one's beginning.
     if (keptPath && beginsWith(m_path, m_destPath))
         keptPath = nullptr;
+    // All that may have taken its time, on a slow disk.
+    if (progress.isCancelled())
+        return Outcome{ Reason::Cancelled };
     if (keptPath && (*keptPath = keepOlder(m_destPath)).isEmpty())
         return refusalFor(errno);
     if (::rename(from.constData(), to.constData()) != 0) {

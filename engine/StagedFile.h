@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class Progress;
+
 /// A hidden file beside a result's place. A run writes it; once it is good, it takes the place in
 /// one step, so that nobody opens half a file and an older one outlives everything but success. Its
 /// owner holds a lock on it. Thread: one at a time.
@@ -21,8 +23,9 @@ public:
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it
     /// gives its permissions, and with `keptPath` goes on as "NAME (earlier).ext", a path that is
-    /// written there; unless it has the same bytes.
-    [[nodiscard]] std::optional<Outcome> moveIntoPlace(bool overwrite, QString *keptPath = nullptr);
+    /// written there; unless it has the same bytes. A cancelled `progress` leaves it as it is.
+    [[nodiscard]] std::optional<Outcome> moveIntoPlace(
+        bool overwrite, const Progress &progress, QString *keptPath = nullptr);
 
 private:
     void drop();

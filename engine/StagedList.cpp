@@ -59,6 +59,7 @@ namespace StagedList {
 void Entry::add(const QString &stagedPath)
 {
     remove();
+    m_stagedPath = stagedPath;
     QDir().mkpath(folder());
     const QByteArray bytes = QFile::encodeName(stagedPath);
     // Another program's start may take away an entry before it is locked.
@@ -79,7 +80,8 @@ void Entry::remove()
 {
     if (m_file < 0)
         return;
-    QFile::remove(m_path);
+    if (!QFile::exists(m_stagedPath))
+        QFile::remove(m_path);
     ::close(std::exchange(m_file, -1));
 }
 

@@ -282,15 +282,32 @@ private Q_SLOTS:
         QCOMPARE(entries().size(), 1);
     }
 
-    void folderWithANewName_keepsNoUnfinishedFile()
+    void stagedFile_isLostToNobody()
     {
+        QCOMPARE(StagedFile(path(QString(256, u'x'))).create()->reason, Reason::NameTooLong);
         QVERIFY(QDir(path()).mkdir(u"old"_s));
         {
             StagedFile staged(path(u"old/out.mkv"_s));
             QVERIFY(!staged.create() && QFile::rename(path(u"old"_s), path(u"new"_s)));
-            QCOMPARE(staged.moveIntoPlace(true)->reason, Reason::FolderMissing);
+            QCOMPARE(staged.moveIntoPlace(true, Progress(-1))->reason, Reason::FolderMissing);
         }
         QVERIFY(QDir().rmdir(path(u"new"_s)) && entries().isEmpty());
+
+        write(u"out.mkv"_s, "older");
+        Progress cancelled(-1);
+        cancelled.cancel();
+        StagedFile staged(path(u"out.mkv"_s));
+        QVERIFY(!staged.create());
+        QCOMPARE(staged.moveIntoPlace(true, cancelled)->reason, Reason::Cancelled);
+        QCOMPARE(contents(u"out.mkv"_s), "older");
+        // What can't be removed now stays on the list.
+        {
+            StagedList::Entry entry;
+            entry.add(path(u"out.mkv"_s));
+        }
+        QCOMPARE(entries().size(), 2);
+        QVERIFY(QFile::remove(path(u"out.mkv"_s)));
+        StagedList::removeAbandoned();
     }
 
     void entry_namesAStagedFile()
