@@ -55,11 +55,13 @@ bool WindowTest::drop(const QStringList &addresses) const
     QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     QApplication::sendEvent(window, &enter);
     m_user.whileDragging();
+    QDragMoveEvent move(place, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
+    QApplication::sendEvent(window, &move);
     QDropEvent drop(place, actions, &data, Qt::LeftButton, Qt::ShiftModifier);
     QDragLeaveEvent leave;
     QApplication::sendEvent(
-        window, enter.isAccepted() ? static_cast<QEvent *>(&drop) : static_cast<QEvent *>(&leave));
-    return enter.isAccepted() && drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+        window, move.isAccepted() ? static_cast<QEvent *>(&drop) : static_cast<QEvent *>(&leave));
+    return move.isAccepted() && drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
 }
 
 bool WindowTest::waitFor(WindowUIState state, int milliseconds) const

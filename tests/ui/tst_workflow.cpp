@@ -25,8 +25,10 @@ private Q_SLOTS:
     void video_becomesAnother()
     {
         Media::ffmpeg({ u"-i"_s, m_video, u"-c"_s, u"copy"_s, u"-an"_s, path(u"silent.mov"_s) });
+        find<QMenu>("formatMenu")->setDefaultAction(find<QAction>("audioMenuItem"));
         QVERIFY(open(u"silent.mov"_s));
         QVERIFY(!find<QAction>("audioMenuItem")->isEnabled());
+        QVERIFY(!find<QAction>("repeatAction")->isEnabled());
         QCOMPARE(find<QAction>("audioMenuItem")->toolTip().sliced(1).chopped(1),
             u"The video has no sound"_s);
         QVERIFY(open());
@@ -142,8 +144,8 @@ private Q_SLOTS:
         QTRY_COMPARE(heard,
             (QStringList{ u"Examining “notes.mkv”"_s, u"Drag a video here"_s,
                 u"The file is not a video, or it is damaged or incomplete."_s,
-                u"Examining “video.mov”"_s, u"video.mov"_s,
-                u"Next: “notes.mkv”"_s, u"Converting…"_s,
+                u"Examining “video.mov”"_s, u"video.mov"_s, u"Next: “notes.mkv”"_s,
+                u"Converting…"_s,
                 u"The result has no moving picture, although the video has one."_s,
                 u"Conversion complete"_s }));
         QAccessible::installUpdateHandler(former);
@@ -234,6 +236,8 @@ private Q_SLOTS:
             veils << veil.pixelColor(30, 30) << veil.pixelColor(8, veil.height() / 2);
         };
         QVERIFY(!drop({}) && !drop({ u"http://localhost/video.mov"_s }));
+        const auto labels = view("dropAcceptor")->findChildren<QLabel *>(QString());
+        QVERIFY(labels.last()->text().contains(u"Only files"_s) && !labels.last()->isVisible());
         QCOMPARE(m_delegate->uiState(), WindowUIState::CoverIsSet);
         QVERIFY(open());
         QVERIFY(veils[0] == veils[2] && veils[0] != veils[4]);

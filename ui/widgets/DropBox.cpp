@@ -88,7 +88,20 @@ DropBox::DropBox(QWidget *parent)
 {
 }
 
-void DropBox::dragEnterEvent(QDragEnterEvent *event) { answer(event); }
+// Who refuses the entry hears of neither move nor leave.
+void DropBox::dragEnterEvent(QDragEnterEvent *event)
+{
+    answer(event);
+    event->accept();
+}
+
+// An alert that comes with a new state keeps the leave from the window.
+bool DropBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange)
+        m_veil->hide();
+    return QFrame::event(event);
+}
 
 void DropBox::dragMoveEvent(QDragMoveEvent *event) { answer(event); }
 
@@ -109,6 +122,8 @@ void DropBox::answer(QDropEvent *event)
     const bool accepted = holdsFiles && allowDragDrop(this) && !event->source();
     event->setDropAction(accepted ? Qt::CopyAction : Qt::IgnoreAction);
     event->setAccepted(accepted);
+    if (event->source())
+        return;
     const LocalizedText text = accepted ? LocalizedText QT_TRANSLATE_NOOP3("Localizable",
                                    "Drop to convert", "over the window, while a file is dragged")
         : holdsFiles

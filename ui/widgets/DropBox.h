@@ -25,6 +25,7 @@ Q_SIGNALS:
     void performDragOperation(const QStringList &paths);
 
 protected:
+    bool event(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;

@@ -138,7 +138,8 @@ void AppDelegate::showStateInMenus()
     // It may stand open for the video before.
     if (!offersFormats)
         outlets.formatMenu->hide();
-    outlets.repeatAction->setEnabled(offersFormats && outlets.formatMenu->defaultAction());
+    const QAction *last = outlets.formatMenu->defaultAction();
+    outlets.repeatAction->setEnabled(offersFormats && last && last->isEnabled());
     outlets.cancelAction->setEnabled(
         m_uiState == WindowUIState::Converting || m_uiState == WindowUIState::WaitingForCover);
     outlets.revealAction->setEnabled(m_uiState == WindowUIState::ConversionIsDone);
