@@ -22,14 +22,16 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
+#include <QDir>
 #include <QFontDatabase>
 #include <QIcon>
 #include <QTimer>
 
 #include <chrono>
+#include <cstdlib>
 #include <future>
 #include <optional>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -56,7 +58,7 @@ QStringList filesOnCommandLine(const QApplication &application)
     parser.process(application);
     QStringList paths = parser.positionalArguments();
     for (QString &path : paths)
-        path = QFileInfo(path).absoluteFilePath();
+        path = QDir::cleanPath(path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path);
     return paths;
 }
 
@@ -101,6 +103,8 @@ int runWindow(SingleInstance &instance, const QStringList &videos)
     std::optional<Services> services;
     // Once the window stands: it may ask about an earlier crash, and the network takes its time.
     QTimer::singleShot(100ms, &delegate, [&] { services.emplace(delegate); });
+    // Where the display is lost, Qt calls exit() while blocks still run.
+    std::atexit([] { QCoreApplication::instance() ? ::_exit(EXIT_FAILURE) : void(); });
     return QApplication::exec();
 }
 

@@ -17,7 +17,8 @@ constexpr double referenceTextHeight = 17;
 
 QRectF centred(const QSizeF &size, const QRectF &area)
 {
-    return { area.center() - QPointF(size.width(), size.height()) / 2, size };
+    // Between two pixels, a texture's edges run into each other.
+    return { (area.center() - QPointF(size.width(), size.height()) / 2).toPoint(), size };
 }
 
 }

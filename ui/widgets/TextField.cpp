@@ -42,8 +42,8 @@ void TextField::resetCursorRects()
 
 QSize TextField::minimumSizeHint() const
 {
-    return m_elided ? QSize(fontMetrics().averageCharWidth() * 8, fontMetrics().height())
-                    : QLabel::minimumSizeHint();
+    const QSize elided(fontMetrics().averageCharWidth() * 8, fontMetrics().height());
+    return m_elided ? elided.grownBy(contentsMargins()) : QLabel::minimumSizeHint();
 }
 
 bool TextField::event(QEvent *event)
