@@ -13,9 +13,8 @@ struct ToolAccess {
 
 /// Confines a tool, because a video is hostile input to its decoders: it reads and writes only what
 /// it was granted, opens no socket, starts and signals no process, gains no privileges, leaves no
-/// core dump, and has limits that no honest conversion meets. A tool that is a script may start
-/// processes. Without the kernel's help files are open to it. Thread: one; enter() runs between
-/// fork and exec.
+/// core dump, and has limits that no honest conversion meets. A script may start processes. Without
+/// the kernel's help files are open to it. Thread: one; enter() runs between fork and exec.
 class Sandbox {
 public:
     Sandbox(const QString &toolPath, const ToolAccess &access);

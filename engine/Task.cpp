@@ -18,7 +18,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int waitMilliseconds = 100;
+using Clock = std::chrono::steady_clock;
+constexpr auto waitTime = 100ms;
 constexpr auto floodLimit = qsizetype{ 64 } * 1024 * 1024;
 
 std::atomic<std::chrono::seconds::rep> silenceSeconds = 300;
@@ -95,15 +96,13 @@ bool Task::isRunning() const
 
 QByteArray Task::availableData()
 {
-    const auto start = std::chrono::steady_clock::now();
+    const Clock::time_point start = Clock::now();
     if (m_process.bytesAvailable() == 0)
-        m_process.waitForReadyRead(waitMilliseconds);
+        m_process.waitForReadyRead(int{ waitTime.count() });
     QByteArray data = m_process.readAllStandardOutput();
     if (data.isEmpty()) {
         // A longer wait means that Ctrl-Z stopped this program and the tool.
-        addSilence(
-            std::min<std::chrono::steady_clock::duration>(std::chrono::steady_clock::now() - start,
-                std::chrono::milliseconds(2 * waitMilliseconds)));
+        addSilence(std::min<Clock::duration>(Clock::now() - start, 2 * waitTime));
     } else {
         m_silence = m_lookedAt = {};
     }
@@ -152,11 +151,11 @@ void Task::terminate()
     if (m_process.state() == QProcess::NotRunning)
         return;
     m_process.terminate();
-    const auto patience = std::chrono::steady_clock::now() + 3s;
+    const Clock::time_point patience = Clock::now() + 3s;
     // A tool that is blocked on a full pipe does not react to SIGTERM: keep draining its output.
     while (!m_process.waitForFinished(20) && m_process.state() != QProcess::NotRunning) {
         m_process.readAllStandardOutput();
-        if (std::chrono::steady_clock::now() > patience)
+        if (Clock::now() > patience)
             m_process.kill();
     }
     m_process.readAllStandardOutput();

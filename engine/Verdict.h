@@ -76,6 +76,5 @@ enum class Reading { Packets, Frames };
 [[nodiscard]] std::optional<Outcome> inspected(
     const ConversionJob &job, const Lengths &expected, Reading reading, const Progress &progress);
 /// The job's destination holds a whole result already: it is newer than the source, and its packets
-/// are as long as the source says. Thread: not main; reads the whole file, until `progress` is
-/// cancelled.
+/// are as long as the source says. Thread: not main; reads it all, until `progress` is cancelled.
 [[nodiscard]] bool holdsWholeResult(const ConversionJob &job, const Progress &progress);

@@ -37,8 +37,7 @@ inline constexpr QRegularExpression::PatternOptions lineOptions
 /// The first `count` units, without half a surrogate pair at the end, which would not match at all.
 [[nodiscard]] QStringView searchRange(QStringView text, qsizetype count);
 
-/// Group `index` of the first match. Only as many UTF-16 units are searched as the text has
-/// characters (grapheme clusters).
+/// Group `index` of the first match within as many UTF-16 units as the text has characters.
 [[nodiscard]] QString matchPattern(const QString &text, const QString &pattern, int index);
 [[nodiscard]] QString matchRegex(
     const QString &text, const QRegularExpression &expression, int index);

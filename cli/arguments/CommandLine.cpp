@@ -73,39 +73,22 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
     const bool isConvert = line.verb == Verb::Convert;
     const auto count = line.inputs.size();
     const bool hasVideos = count > 0 || line.hasList();
+    const bool areSeveral = count > 1 || line.hasList() || line.shard.parts > 1;
     const bool canPlan = !line.info.isEmpty() ? !hasVideos && line.folder.isEmpty()
         : line.folder.isEmpty()               ? count == 2 && !line.hasList()
                                               : hasVideos;
+    // clang-format off
     const std::array checks{
-        Check{ line.verb == Verb::Formats && count > 0,
-            QT_TRANSLATE_NOOP3(
-                "Localizable", "'formats' takes no files.", "Command line: wrong usage") },
-        Check{ line.verb == Verb::Probe && count == 0,
-            QT_TRANSLATE_NOOP3(
-                "Localizable", "'probe' needs a file.", "Command line: wrong usage") },
-        Check{ line.verb == Verb::Plan && !canPlan,
-            QT_TRANSLATE_NOOP3("Localizable",
-                "'plan' takes a video and an output file, videos and --folder, or --info alone.",
-                "Command line: wrong usage") },
-        Check{ isConvert && !hasVideos,
-            QT_TRANSLATE_NOOP3(
-                "Localizable", "There is no video to convert.", "Command line: wrong usage") },
-        Check{ isConvert && line.output.isEmpty() == line.folder.isEmpty(),
-            QT_TRANSLATE_NOOP3("Localizable", "'convert' needs either --output or --folder.",
-                "Command line: wrong usage") },
-        Check{ line.output == u"-",
-            QT_TRANSLATE_NOOP3("Localizable",
-                "The result can't go to standard output; name a file.",
-                "Command line: wrong usage") },
-        Check{ isConvert && (count > 1 || line.hasList() || line.shard.parts > 1)
-                && line.folder.isEmpty(),
-            QT_TRANSLATE_NOOP3("Localizable",
-                "Several videos can't go to one output file; use --folder.",
-                "Command line: wrong usage") },
-        Check{ line.overwrite && line.skipExisting,
-            QT_TRANSLATE_NOOP3("Localizable", "--overwrite and --skip-existing exclude each other.",
-                "Command line: wrong usage") },
+        Check{ line.verb == Verb::Formats && count > 0,                     QT_TRANSLATE_NOOP3("Localizable", "'formats' takes no files.", "Command line: wrong usage") },
+        Check{ line.verb == Verb::Probe && count == 0,                      QT_TRANSLATE_NOOP3("Localizable", "'probe' needs a file.", "Command line: wrong usage") },
+        Check{ line.verb == Verb::Plan && !canPlan,                         QT_TRANSLATE_NOOP3("Localizable", "'plan' takes a video and an output file, videos and --folder, or --info alone.", "Command line: wrong usage") },
+        Check{ isConvert && !hasVideos,                                     QT_TRANSLATE_NOOP3("Localizable", "There is no video to convert.", "Command line: wrong usage") },
+        Check{ isConvert && line.output.isEmpty() == line.folder.isEmpty(), QT_TRANSLATE_NOOP3("Localizable", "'convert' needs either --output or --folder.", "Command line: wrong usage") },
+        Check{ line.output == u"-",                                         QT_TRANSLATE_NOOP3("Localizable", "The result can't go to standard output; name a file.", "Command line: wrong usage") },
+        Check{ isConvert && areSeveral && line.folder.isEmpty(),            QT_TRANSLATE_NOOP3("Localizable", "Several videos can't go to one output file; use --folder.", "Command line: wrong usage") },
+        Check{ line.overwrite && line.skipExisting,                         QT_TRANSLATE_NOOP3("Localizable", "--overwrite and --skip-existing exclude each other.", "Command line: wrong usage") },
     };
+    // clang-format on
     const auto *const found = std::ranges::find(checks, true, &Check::isWrong);
     if (found != checks.end())
         return usageError(found->message);

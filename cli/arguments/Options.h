@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 
+/// In the order in which help lists them; options are taken by one, or by some in a row.
 enum class Verb { Formats, Probe, Plan, Convert };
 
 struct VerbRow {
@@ -48,46 +49,37 @@ inline constexpr std::array verbRows{
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };
 
-/// In the order of the verbs.
-using VerbSet = std::array<bool, 4>;
-inline constexpr VerbSet everyVerb{ true, true, true, true };
-inline constexpr VerbSet planAndConvert{ false, false, true, true };
-inline constexpr VerbSet planOnly{ false, false, true, false };
-inline constexpr VerbSet convertOnly{ false, false, false, true };
-
 /// One option of the command. Parser, help, manual page and completions come from these rows.
 struct OptionRow {
     QLatin1StringView name;
     QLatin1StringView letter;
     QLatin1StringView value;
     ValueKind kind;
-    VerbSet takenBy;
+    Verb first;
+    Verb last;
     LocalizedText text;
 
-    [[nodiscard]] bool isTakenBy(Verb verb) const
-    {
-        return takenBy.at(static_cast<std::size_t>(verb));
-    }
+    [[nodiscard]] bool isTakenBy(Verb verb) const { return first <= verb && verb <= last; }
 };
 
 // clang-format off
 inline constexpr std::array optionRows {
-    OptionRow { QLatin1StringView("to"),            {},                     QLatin1StringView("NAME"),     ValueKind::Entry,  planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "the output: one of those that 'formats' lists, or an extension", "Help: option --to") },
-    OptionRow { QLatin1StringView("output"),        QLatin1StringView("o"), QLatin1StringView("OUT"),      ValueKind::File,   convertOnly,    QT_TRANSLATE_NOOP3("Localizable", "the file to write", "Help: option --output") },
-    OptionRow { QLatin1StringView("folder"),        QLatin1StringView("d"), QLatin1StringView("FOLDER"),   ValueKind::Folder, planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "the folder to write to; the files get the videos' names", "Help: option --folder") },
-    OptionRow { QLatin1StringView("recursive"),     QLatin1StringView("r"), QLatin1StringView("FOLDER"),   ValueKind::Folder, planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "takes all videos and music in a folder and below, and keeps its tree", "Help: option --recursive") },
-    OptionRow { QLatin1StringView("files-from"),    {},                     QLatin1StringView("FILE"),     ValueKind::File,   planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "takes the names in a file, one a line; - is standard input", "Help: option --files-from") },
-    OptionRow { QLatin1StringView("null"),          QLatin1StringView("0"), {},                            ValueKind::None,   planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "names in that file end with a null character, as after find -print0", "Help: option --null") },
-    OptionRow { QLatin1StringView("jobs"),          QLatin1StringView("j"), QLatin1StringView("N"),        ValueKind::Text,   convertOnly,    QT_TRANSLATE_NOOP3("Localizable", "converts N videos side by side; 0 stands for as many as suit the cores", "Help: option --jobs") },
-    OptionRow { QLatin1StringView("overwrite"),     {},                     {},                            ValueKind::None,   convertOnly,    QT_TRANSLATE_NOOP3("Localizable", "replaces files that exist; a video itself is never replaced", "Help: option --overwrite") },
-    OptionRow { QLatin1StringView("skip-existing"), {},                     {},                            ValueKind::None,   convertOnly,    QT_TRANSLATE_NOOP3("Localizable", "leaves whole results that are newer than their videos alone, and makes cut ones again", "Help: option --skip-existing") },
-    OptionRow { QLatin1StringView("shard"),         {},                     QLatin1StringView("K/N"),      ValueKind::Text,   planAndConvert, QT_TRANSLATE_NOOP3("Localizable", "takes the K-th of N parts of the videos; the parts depend on their names alone", "Help: option --shard") },
-    OptionRow { QLatin1StringView("info"),          {},                     QLatin1StringView("JSONFILE"), ValueKind::File,   planOnly,       QT_TRANSLATE_NOOP3("Localizable", "takes a description saved by 'probe --json' (- for standard input) and prints only the arguments that depend on it", "Help: option --info") },
-    OptionRow { QLatin1StringView("quiet"),         {},                     {},                            ValueKind::None,   convertOnly,    QT_TRANSLATE_NOOP3("Localizable", "prints failures only", "Help: option --quiet") },
-    OptionRow { QLatin1StringView("json"),          {},                     {},                            ValueKind::None,   everyVerb,      QT_TRANSLATE_NOOP3("Localizable", "prints JSON; 'convert' prints one object a line", "Help: option --json") },
-    OptionRow { QLatin1StringView("verbose"),       {},                     {},                            ValueKind::None,   everyVerb,      QT_TRANSLATE_NOOP3("Localizable", "prints diagnostics and the tool's full output to standard error", "Help: option --verbose") },
-    OptionRow { QLatin1StringView("help"),          QLatin1StringView("h"), {},                            ValueKind::None,   everyVerb,      QT_TRANSLATE_NOOP3("Localizable", "prints this help", "Help: option --help") },
-    OptionRow { QLatin1StringView("version"),       {},                     {},                            ValueKind::None,   everyVerb,      QT_TRANSLATE_NOOP3("Localizable", "prints the version", "Help: option --version") },
+    OptionRow { QLatin1StringView("to"),            {},                     QLatin1StringView("NAME"),     ValueKind::Entry,  Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "the output: one of those that 'formats' lists, or an extension", "Help: option --to") },
+    OptionRow { QLatin1StringView("output"),        QLatin1StringView("o"), QLatin1StringView("OUT"),      ValueKind::File,   Verb::Convert, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "the file to write", "Help: option --output") },
+    OptionRow { QLatin1StringView("folder"),        QLatin1StringView("d"), QLatin1StringView("FOLDER"),   ValueKind::Folder, Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "the folder to write to; the files get the videos' names", "Help: option --folder") },
+    OptionRow { QLatin1StringView("recursive"),     QLatin1StringView("r"), QLatin1StringView("FOLDER"),   ValueKind::Folder, Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "takes all videos and music in a folder and below, and keeps its tree", "Help: option --recursive") },
+    OptionRow { QLatin1StringView("files-from"),    {},                     QLatin1StringView("FILE"),     ValueKind::File,   Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "takes the names in a file, one a line; - is standard input", "Help: option --files-from") },
+    OptionRow { QLatin1StringView("null"),          QLatin1StringView("0"), {},                            ValueKind::None,   Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "names in that file end with a null character, as after find -print0", "Help: option --null") },
+    OptionRow { QLatin1StringView("jobs"),          QLatin1StringView("j"), QLatin1StringView("N"),        ValueKind::Text,   Verb::Convert, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "converts N videos side by side; 0 stands for as many as suit the cores", "Help: option --jobs") },
+    OptionRow { QLatin1StringView("overwrite"),     {},                     {},                            ValueKind::None,   Verb::Convert, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "replaces files that exist; a video itself is never replaced", "Help: option --overwrite") },
+    OptionRow { QLatin1StringView("skip-existing"), {},                     {},                            ValueKind::None,   Verb::Convert, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "leaves whole results that are newer than their videos alone, and makes cut ones again", "Help: option --skip-existing") },
+    OptionRow { QLatin1StringView("shard"),         {},                     QLatin1StringView("K/N"),      ValueKind::Text,   Verb::Plan,    Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "takes the K-th of N parts of the videos; the parts depend on their names alone", "Help: option --shard") },
+    OptionRow { QLatin1StringView("info"),          {},                     QLatin1StringView("JSONFILE"), ValueKind::File,   Verb::Plan,    Verb::Plan,    QT_TRANSLATE_NOOP3("Localizable", "takes a description saved by 'probe --json' (- for standard input) and prints only the arguments that depend on it", "Help: option --info") },
+    OptionRow { QLatin1StringView("quiet"),         {},                     {},                            ValueKind::None,   Verb::Convert, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "prints failures only", "Help: option --quiet") },
+    OptionRow { QLatin1StringView("json"),          {},                     {},                            ValueKind::None,   Verb::Formats, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "prints JSON; 'convert' prints one object a line", "Help: option --json") },
+    OptionRow { QLatin1StringView("verbose"),       {},                     {},                            ValueKind::None,   Verb::Formats, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "prints diagnostics and the tool's full output to standard error", "Help: option --verbose") },
+    OptionRow { QLatin1StringView("help"),          QLatin1StringView("h"), {},                            ValueKind::None,   Verb::Formats, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "prints this help", "Help: option --help") },
+    OptionRow { QLatin1StringView("version"),       {},                     {},                            ValueKind::None,   Verb::Formats, Verb::Convert, QT_TRANSLATE_NOOP3("Localizable", "prints the version", "Help: option --version") },
 };
 // clang-format on
 

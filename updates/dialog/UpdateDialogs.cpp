@@ -20,30 +20,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // In the order of the outcomes; %@ stands for the own version.
+// clang-format off
 constexpr std::array outcomeTexts{
     LocalizedText{ "", "" },
-    LocalizedText QT_TRANSLATE_NOOP3(
-        "Localizable", "You have the newest version of Video Converter, %@.", "update check"),
-    LocalizedText QT_TRANSLATE_NOOP3(
-        "Localizable", "Updates are not available in this build.", "update check"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The list of updates could not be read. Please try again later.", "update check"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "An update was announced, but not by the makers of Video Converter. It is not offered.",
-        "update check: wrong signature"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "You have the newest version of Video Converter, %@.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "Updates are not available in this build.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "The list of updates could not be read. Please try again later.", "update check"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "An update was announced, but not by the makers of Video Converter. It is not offered.", "update check: wrong signature"),
 };
 
 // In the order of the ends; %@ stands for the file's name.
 constexpr std::array endTexts{
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The update is in your downloads folder as “%@”. Open it to install it.",
-        "update download"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The download was not signed by the makers of Video Converter and has been thrown away.",
-        "update download: wrong signature"),
-    LocalizedText QT_TRANSLATE_NOOP3("Localizable",
-        "The update could not be downloaded. Please try again later.", "update download"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "The update is in your downloads folder as “%@”. Open it to install it.", "update download"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "The download was not signed by the makers of Video Converter and has been thrown away.", "update download: wrong signature"),
+    LocalizedText QT_TRANSLATE_NOOP3("Localizable", "The update could not be downloaded. Please try again later.", "update download"),
 };
+// clang-format on
 
 /// The text of mark-up, without what could turn the order of the words around it.
 QString plainText(const QString &html)
