@@ -12,8 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// "[h264 @ 0x55ba26753540] error while decoding MB 5 0", "[mpegts @ 0x5622b22c9940] Packet corrupt
-// (stream = 0, dts = 578090).", "Error while decoding stream #0:1: Invalid data found"
+// "[h264 @ 0x5] error while decoding MB 5 0", "Error while decoding stream #0:1: Invalid data"
 const QRegularExpression &damage()
 {
     static const QRegularExpression expression(

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QUuid>
 
 #include <cerrno>
@@ -124,10 +125,12 @@ StagedFile::~StagedFile() { drop(); }
 std::optional<Outcome> StagedFile::create()
 {
     drop();
-    // A name that this disk refuses would only show at the end.
-    if (::mkdir(bytesOf(m_destPath).constData(), 0700) == 0)
+    // A name that this disk refuses, as some do, would only show at the end.
+    static const QRegularExpression odd(uR"([:?*"<>|\\]|.{80})"_s);
+    const bool isOdd = odd.match(Path::lastPathComponent(m_destPath)).hasMatch();
+    if (isOdd && ::mkdir(bytesOf(m_destPath).constData(), 0700) == 0)
         ::rmdir(bytesOf(m_destPath).constData());
-    else if (errno == ENAMETOOLONG || errno == EINVAL)
+    else if (isOdd && (errno == ENAMETOOLONG || errno == EINVAL))
         return refusalFor(errno);
     for (int attempt = 0; m_file < 0 && attempt < 100; ++attempt) {
         m_path = hiddenName(m_destPath);
