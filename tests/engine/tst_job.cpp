@@ -92,6 +92,7 @@ private Q_SLOTS:
             u"short-picture.flv"_s);
         make(u"-i PATH/whole.mp4 -t 2 -c copy"_s, u"small.mp4"_s);
         make(u"-i PATH/small.mp4 -c:v mjpeg"_s, u"camera.avi"_s);
+        make(u"-i PATH/whole.mp4 -i PATH/small.mp4 -map 0:v -map 1:a -c copy"_s, u"uneven.mp4"_s);
         make(u"-i PATH/whole.mp4 -t 2 -c:v mpeg4 -c:a libmp3lame -ac 1"_s, u"mono.mkv"_s);
         make(u"-i PATH/whole.mp4"_s, u"sound.wav"_s);
         make(u"-f lavfi -i aevalsrc=if(lt(t\\,2)\\,0\\,random(0)):d=4"_s, u"quiet-start.aac"_s);
@@ -373,6 +374,7 @@ private Q_SLOTS:
         QCOMPARE(judged({ 1000, 991 }, { 1000, 1000 }), Outcome{});
         QVERIFY(!expectedOf(job(u"sound.wav"_s, u"out"_s, u"MKV"_s)).picture);
         QVERIFY(expectedOf(job(u"camera.avi"_s, u"out"_s, u"MKV"_s)).picture);
+        QVERIFY(expectedOf(job(u"uneven.mp4"_s, u"out"_s, u"MKV"_s)).sound < 3);
     }
 };
 

@@ -70,12 +70,12 @@ private Q_SLOTS:
             { u"VIDEO.MP4"_s, u"VIDEO.MP4"_s }, { u"video.mov"_s, u"video.mov.mp4"_s },
             { u"video."_s, u"video.mp4"_s }, { u".mp4"_s, u".mp4.mp4"_s },
             { u"a \"b\" c"_s, u"a \"b\" c.mp4"_s }, { u"~🎬"_s, u"~🎬.mp4"_s },
-            { u"sub/../x"_s, u"x.mp4"_s } };
+            { u"sub/../x"_s, u"x.mp4"_s }, { u":x"_s, u":x.mp4"_s } };
         for (const auto &[typed, result] : names) {
             save(u"proposed"_s);
             type(typed);
             QTRY_VERIFY(!sheet());
-            QCOMPARE(paths, QStringList{ path(result) });
+            QCOMPARE(paths, QStringList{ folder->path() + u'/' + result });
         }
     }
 
