@@ -9,7 +9,7 @@ enum class SendReport { Yes, No, Always };
 
 /// What the crash service is sent: reports, and how sessions begin and end; nothing without its
 /// address or with DO_NOT_TRACK. The newest ten reports are kept. A file's name tells its state:
-/// crash-….txt is new, .agreed.txt not yet sent, then .sent.txt or .refused.txt. Thread: main.
+/// crash-….txt is new, .agreed.txt may be sent, then .sent.txt or .refused.txt. Thread: main.
 class CrashReports {
 public:
     using Question = std::function<SendReport(const QString &report)>;

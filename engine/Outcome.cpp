@@ -43,7 +43,7 @@ constexpr auto reasonRows = std::to_array<ReasonRow>({
 
     { Reason::DestinationExists, "destination-exists"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination exists already.", "Why a conversion's result can't be written") },
     { Reason::DestinationNotWritable, "destination-not-writable"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination may not be written to.", "Why a conversion's result can't be written") },
-    { Reason::DestinationNameNotText, "destination-name-not-text"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination can't have this name. Please choose another one.", "Why a conversion's result can't be written") },
+    { Reason::DestinationNameNotText, "destination-name-not-text"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination's name can't be represented as text. Please choose another one.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsFolder, "destination-is-folder"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a folder, not a file.", "Why a conversion's result can't be written") },
     { Reason::DestinationLeadsNowhere, "destination-leads-nowhere"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a link that leads nowhere.", "Why a conversion's result can't be written") },
     { Reason::DestinationIsDevice, "destination-is-device"_L1, DestinationRefused, QT_TRANSLATE_NOOP3("Localizable", "The destination is a pipe or a device, not a file.", "Why a conversion's result can't be written") },

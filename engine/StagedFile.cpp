@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QRegularExpression>
 #include <QUuid>
 
 #include <cerrno>
@@ -40,7 +39,7 @@ Outcome refusalFor(int error)
     static const QHash<int, Reason> reasons{ { ENOSPC, Reason::NoSpace },
         { EDQUOT, Reason::QuotaExceeded }, { EROFS, Reason::ReadOnlyDisk },
         { ENAMETOOLONG, Reason::NameTooLong }, { ENOENT, Reason::FolderMissing },
-        { EINVAL, Reason::DestinationNameNotText }, { EIO, Reason::DiskError } };
+        { EIO, Reason::DiskError } };
     return { reasons.value(error, Reason::FolderNotWritable) };
 }
 
@@ -57,7 +56,7 @@ bool renameToNew(const QByteArray &from, const QByteArray &to)
         ::unlink(from.constData());
         return true;
     }
-    if (errno == EEXIST)
+    if (errno == EEXIST || errno == ENOENT)
         return false;
     const int placeholder = ::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (placeholder < 0)
@@ -125,12 +124,9 @@ StagedFile::~StagedFile() { drop(); }
 std::optional<Outcome> StagedFile::create()
 {
     drop();
-    // A name that this disk refuses, as some do, would only show at the end.
-    static const QRegularExpression odd(uR"([:?*"<>|\\]|.{80})"_s);
-    const bool isOdd = odd.match(Path::lastPathComponent(m_destPath)).hasMatch();
-    if (isOdd && ::mkdir(bytesOf(m_destPath).constData(), 0700) == 0)
-        ::rmdir(bytesOf(m_destPath).constData());
-    else if (isOdd && (errno == ENAMETOOLONG || errno == EINVAL))
+    // Else a name that is too long would only show at the end.
+    struct stat older { };
+    if (::lstat(bytesOf(m_destPath).constData(), &older) != 0 && errno == ENAMETOOLONG)
         return refusalFor(errno);
     for (int attempt = 0; m_file < 0 && attempt < 100; ++attempt) {
         m_path = hiddenName(m_destPath);
@@ -163,6 +159,8 @@ std::optional<Outcome> StagedFile::moveIntoPlace(
         return refusalFor(errno);
     if (!overwrite)
         return Outcome{ Reason::DestinationExists };
+    if (!S_ISREG(older.st_mode))
+        return Outcome{ Reason::DestinationIsFolder };
     [[maybe_unused]] const int owner = ::fchown(m_file, older.st_uid, older.st_gid);
     ::fchmod(m_file, older.st_mode & 0777);
     if (::fsync(m_file) != 0)
@@ -188,18 +186,22 @@ std::optional<Outcome> StagedFile::moveIntoPlace(
 
 void StagedFile::drop()
 {
-    if (m_file >= 0 && !QFile::remove(m_path)) {
-        // Its folder bears another name by now.
+    if (m_file < 0)
+        return;
+    if (!QFile::remove(m_path)) {
+        // Its folder may bear another name by now.
         const QString place = QFile::symLinkTarget(u"/proc/self/fd/%1"_s.arg(m_file));
         if (Path::lastPathComponent(place) == Path::lastPathComponent(m_path))
             QFile::remove(place);
     }
+    struct stat file { };
+    if (::fstat(m_file, &file) != 0 || file.st_nlink > 0)
+        m_entry.leave();
     close();
 }
 
 void StagedFile::close()
 {
-    if (m_file >= 0)
-        ::close(std::exchange(m_file, -1));
+    ::close(std::exchange(m_file, -1));
     m_entry.remove();
 }

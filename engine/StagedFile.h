@@ -23,7 +23,7 @@ public:
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Puts the file in its place. What stands there is replaced only when `overwrite` is set; it
     /// gives its permissions, and with `keptPath` goes on as "NAME (earlier).ext", a path that is
-    /// written there; unless it has the same bytes. A cancelled `progress` leaves it as it is.
+    /// written there; unless it has the same bytes. A cancelled `progress` spares it.
     [[nodiscard]] std::optional<Outcome> moveIntoPlace(
         bool overwrite, const Progress &progress, QString *keptPath = nullptr);
 

@@ -59,7 +59,6 @@ namespace StagedList {
 void Entry::add(const QString &stagedPath)
 {
     remove();
-    m_stagedPath = stagedPath;
     QDir().mkpath(folder());
     const QByteArray bytes = QFile::encodeName(stagedPath);
     // Another program's start may take away an entry before it is locked.
@@ -80,9 +79,14 @@ void Entry::remove()
 {
     if (m_file < 0)
         return;
-    if (!QFile::exists(m_stagedPath))
-        QFile::remove(m_path);
-    ::close(std::exchange(m_file, -1));
+    QFile::remove(m_path);
+    leave();
+}
+
+void Entry::leave()
+{
+    if (m_file >= 0)
+        ::close(std::exchange(m_file, -1));
 }
 
 QString stagedPathOf(const QByteArray &entry)

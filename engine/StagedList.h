@@ -16,11 +16,11 @@ public:
     Q_DISABLE_COPY_MOVE(Entry)
 
     void add(const QString &stagedPath);
-    /// Leaves it to a later start where the staged file can't be removed now.
     void remove();
+    /// To a later start, which may be able to remove the staged file.
+    void leave();
 
 private:
-    QString m_stagedPath;
     QString m_path;
     int m_file = -1;
 };

@@ -12,7 +12,8 @@ namespace ToolOutput {
 
 /// "  Duration: 00:01:40.00, start: 0.000000, bitrate: 1205 kb/s"; group 1 is the duration.
 [[nodiscard]] const QRegularExpression &regexprDuration();
-/// "frame=  250 fps=125 size=   512kB time=00:00:10.00 bitrate= 419.4kbits/s"; 1 is the position.
+/// "frame=  250 fps=125 size=   512kB time=00:00:10.00 bitrate= 419kbits/s"; group 1 is the
+/// position.
 [[nodiscard]] const QRegularExpression &regexprProgress();
 
 /// Whole seconds of the first "hours:minutes:seconds" in a text. Errors: a number of seconds beyond

@@ -12,7 +12,7 @@ namespace Text {
 
 qsizetype characterCount(QStringView text)
 {
-    // The boundary finder is slow, and of plain characters only "\r\n" is two units of one.
+    // The boundary finder is slow, and of ASCII only "\r\n" makes one character of two units.
     if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; }))
         return text.size() - text.count(u"\r\n");
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());

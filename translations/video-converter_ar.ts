@@ -814,9 +814,9 @@ Are you sure you want to continue?</source>
         <translation>المجلد غير موجود، أو ليس لديك إذن بقراءته.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>لا يمكن أن تحمل الوجهة هذا الاسم. يُرجى اختيار اسم آخر.</translation>
+        <translation>لا يمكن تمثيل اسم الوجهة كنص. يُرجى اختيار اسم آخر.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

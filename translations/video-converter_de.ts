@@ -814,9 +814,9 @@ Möchten Sie wirklich fortfahren?</translation>
         <translation>Der Ordner existiert nicht oder darf nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>Das Ziel kann diesen Namen nicht haben. Bitte wählen Sie einen anderen.</translation>
+        <translation>Der Name des Ziels lässt sich nicht als Text darstellen. Bitte wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

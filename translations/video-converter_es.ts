@@ -814,9 +814,9 @@ Are you sure you want to continue?</source>
         <translation>La carpeta no existe o no se permite leerla.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>El destino no puede tener ese nombre. Elija otro.</translation>
+        <translation>El nombre del destino no puede representarse como texto. Elija otro.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

@@ -814,9 +814,9 @@ Voulez-vous vraiment continuer&#xa0;?</translation>
         <translation>Ce dossier n’existe pas ou ne peut pas être lu.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>La destination ne peut pas porter ce nom. Veuillez en choisir un autre.</translation>
+        <translation>Le nom de la destination ne peut pas être représenté sous forme de texte. Veuillez en choisir un autre.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

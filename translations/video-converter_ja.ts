@@ -814,9 +814,9 @@ Are you sure you want to continue?</source>
         <translation>フォルダーがないか、読み取りが許可されていません。</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>この名前では保存できません。別の名前を指定してください。</translation>
+        <translation>保存先の名前をテキストとして表せません。別の名前を指定してください。</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

@@ -814,9 +814,9 @@ Tem certeza de que deseja continuar?</translation>
         <translation>A pasta não existe ou não é permitido lê-la.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>O destino não pode ter esse nome. Escolha outro.</translation>
+        <translation>O nome do destino não pode ser representado como texto. Escolha outro.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

@@ -814,9 +814,9 @@ Are you sure you want to continue?</source>
         <translation>Папка не найдена, или нет прав на её чтение.</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>Файл назначения не может иметь такое имя. Выберите другое имя.</translation>
+        <translation>Имя файла назначения нельзя представить в виде текста. Выберите другое имя.</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

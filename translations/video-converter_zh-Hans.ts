@@ -814,9 +814,9 @@ Are you sure you want to continue?</source>
         <translation>文件夹不存在，或没有读取权限。</translation>
     </message>
     <message>
-        <source>The destination can&apos;t have this name. Please choose another one.</source>
+        <source>The destination&apos;s name can&apos;t be represented as text. Please choose another one.</source>
         <comment>Why a conversion&apos;s result can&apos;t be written</comment>
-        <translation>目标不能使用此名称，请选择其他名称。</translation>
+        <translation>目标名称无法以文本表示，请选择其他名称。</translation>
     </message>
     <message>
         <source>The tool can&apos;t examine videos: %@</source>

@@ -101,6 +101,9 @@ std::optional<UsageText> wrongInputs(const CommandLine &line)
     return std::nullopt;
 }
 
+// Qt takes what begins with a colon for a path of its own.
+QString pathOf(const QString &name) { return name.startsWith(u':') ? u"./"_s + name : name; }
+
 CommandLine readLine(const QCommandLineParser &parser, Verb verb)
 {
     const QString entry = parser.value(u"to"_s);
@@ -112,12 +115,12 @@ CommandLine readLine(const QCommandLineParser &parser, Verb verb)
         .skipExisting = parser.isSet(u"skip-existing"_s),
         .entries = verb == Verb::Plan && entry == "all"_L1 ? allEntries() : entryMeant(entry),
         .inputs = parser.positionalArguments().mid(1),
-        .tree = parser.value(u"recursive"_s),
-        .list = parser.value(u"files-from"_s),
+        .tree = pathOf(parser.value(u"recursive"_s)),
+        .list = pathOf(parser.value(u"files-from"_s)),
         .listIsNullSeparated = parser.isSet(u"null"_s),
         .output = parser.value(u"output"_s),
         .folder = parser.value(u"folder"_s),
-        .info = parser.value(u"info"_s) };
+        .info = pathOf(parser.value(u"info"_s)) };
 }
 
 /// Reads the numbers of --jobs and --shard; false when they are none.

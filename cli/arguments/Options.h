@@ -19,32 +19,14 @@ struct VerbRow {
     LocalizedText text;
 };
 
+// clang-format off
 inline constexpr std::array verbRows{
-    VerbRow{ Verb::Formats, QLatin1StringView("formats"), QLatin1StringView("formats [--json]"),
-        QT_TRANSLATE_NOOP3("Localizable",
-            "Lists the outputs that --to takes: devices, formats and MP4 qualities.",
-            "Help: command formats") },
-    VerbRow{ Verb::Probe, QLatin1StringView("probe"), QLatin1StringView("probe FILE... [--json]"),
-        QT_TRANSLATE_NOOP3("Localizable",
-            "Describes videos. With --json: everything that the tool reports (info), the length "
-            "(duration, seconds) and the size of the cover picture or null (cover).",
-            "Help: command probe") },
-    VerbRow{ Verb::Plan, QLatin1StringView("plan"),
-        QLatin1StringView(
-            "plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]\n"
-            "plan --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [--json]"),
-        QT_TRANSLATE_NOOP3("Localizable",
-            "Prints the tool's command line, quoted for a shell, without running it. --to all "
-            "prints one for each output.",
-            "Help: command plan") },
-    VerbRow{ Verb::Convert, QLatin1StringView("convert"),
-        QLatin1StringView("convert --to NAME (FILE -o OUT | FILE... -d FOLDER) [OPTIONS]\n"
-                          "convert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"),
-        QT_TRANSLATE_NOOP3("Localizable",
-            "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins "
-            "with a dash goes after --.",
-            "Help: command convert") },
+    VerbRow{ Verb::Formats, QLatin1StringView("formats"), QLatin1StringView("formats [--json]"), QT_TRANSLATE_NOOP3("Localizable", "Lists the outputs that --to takes: devices, formats and MP4 qualities.", "Help: command formats") },
+    VerbRow{ Verb::Probe, QLatin1StringView("probe"), QLatin1StringView("probe FILE... [--json]"), QT_TRANSLATE_NOOP3("Localizable", "Describes videos. With --json: everything that the tool reports (info), the length (duration, seconds) and the size of the cover picture or null (cover).", "Help: command probe") },
+    VerbRow{ Verb::Plan, QLatin1StringView("plan"), QLatin1StringView("plan --to NAME (FILE OUT | FILE... -d FOLDER | --info JSONFILE) [--json]\nplan --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [--json]"), QT_TRANSLATE_NOOP3("Localizable", "Prints the tool's command line, quoted for a shell, without running it. --to all prints one for each output.", "Help: command plan") },
+    VerbRow{ Verb::Convert, QLatin1StringView("convert"), QLatin1StringView("convert --to NAME (FILE -o OUT | FILE... -d FOLDER) [OPTIONS]\nconvert --to NAME (-r FOLDER | --files-from FILE) -d FOLDER [OPTIONS]"), QT_TRANSLATE_NOOP3("Localizable", "Converts videos. Ctrl-C cancels and leaves no unfinished file. A name that begins with a dash goes after --.", "Help: command convert") },
 };
+// clang-format on
 
 /// What may stand after an option; completion offers such words.
 enum class ValueKind { None, Entry, File, Folder, Text };

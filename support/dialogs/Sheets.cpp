@@ -66,7 +66,7 @@ public:
             localized(QT_TRANSLATE_NOOP3("Localizable", "Convert.savePanelNameFieldLabel",
                           "name label for save panel (<= 15 symbols)"),
                 "Result filename:"));
-        selectFile(folder + u'/' + m_proposed);
+        selectFile(QDir::cleanPath(folder + u'/' + m_proposed));
         // The desktop's own dialog has no such layout.
         if (auto *grid = qobject_cast<QGridLayout *>(layout()); grid && !m_request.note.isEmpty())
             grid->addWidget(new QLabel(m_request.note, this), grid->rowCount(), 0, 1, -1);

@@ -137,7 +137,7 @@ private Q_SLOTS:
                 { "writes to the temporary folder", "write:TEMP/elsewhere", refused },
                 { "reads the users", "read:/etc/passwd", refused },
                 { "reads a library", "read:/usr/bin/env", allowed },
-                { "reads nothing", "read:/dev/null", allowed },
+                { "reads the null device", "read:/dev/null", allowed },
                 { "runs a program of the user's", "exec:HOME/program", refused },
                 { "IPv4 socket", socket(AF_INET), refused },
                 { "IPv6 socket", socket(AF_INET6), refused },

@@ -10,6 +10,7 @@
 #include <QDBusConnectionInterface>
 #include <QFileOpenEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -99,18 +100,24 @@ private Q_SLOTS:
         qunsetenv("VIDEO_CONVERTER_COLLECTOR_URL");
         QFile page(QStringLiteral(VC_PRIVACY_PAGE));
         QVERIFY(page.open(QIODevice::ReadOnly));
-        const QString rows = QString::fromUtf8(page.readAll());
+        QStringList rows = QString::fromUtf8(page.readAll()).split(u'\n');
+        rows = rows.filter(QRegularExpression(u"^\\| `\\w+` \\| `\\w+` \\|"_s));
         QStringList events;
+        QSet<QString> announced;
         for (const LoopbackServer::Request &request : collector.requests) {
             const QJsonObject hit = request.hit();
-            const QString row
-                = u"| `%1` | `%2` |"_s.arg(hit[u"ec"_s].toString(), hit[u"ea"_s].toString());
-            QVERIFY2(rows.contains(row), qPrintable(row));
-            events << hit[u"ec"_s].toString() + u' ' + hit[u"ea"_s].toString() + u' '
-                    + hit[u"el"_s].toVariant().toString();
+            const QString label = hit[u"el"_s].toVariant().toString();
+            const QString category = hit[u"ec"_s].toString();
+            const QString action = hit[u"ea"_s].toString();
+            events << category + u' ' + action + u' ' + label;
+            const QString row = rows.filter(u"| `%1` | `%2` |"_s.arg(category, action)).value(0);
+            QVERIFY2(row.contains(label == u"true"_s ? u"| true |"_s : u'`' + label + u'`'),
+                qPrintable(events.last()));
+            announced << row;
         }
         events.sort();
         QCOMPARE(events, reported);
+        QCOMPARE(announced.size(), rows.size());
     }
 
     void screenReader_hearsEachState()

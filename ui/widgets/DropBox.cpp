@@ -88,7 +88,7 @@ DropBox::DropBox(QWidget *parent)
 {
 }
 
-// Who refuses the entry hears of neither move nor leave.
+// A widget that refuses the entry gets neither move nor leave.
 void DropBox::dragEnterEvent(QDragEnterEvent *event)
 {
     answer(event);
